@@ -1,0 +1,34 @@
+#pragma once
+
+#include <functional>
+#include <utility>
+
+namespace tavrelkin {
+
+template <class Signature>
+class Event;
+
+// An event that a class offers to its host, with one handler at most. Raising it without a handler gives R{}.
+template <class R, class... Args>
+class Event<R(Args...)> {
+ public:
+  Event() = default;
+  Event(const Event&) = delete;
+  Event& operator=(const Event&) = delete;
+
+  template <class Handler>
+  Event& operator=(Handler handler) {
+    handler_ = std::move(handler);
+    return *this;
+  }
+
+  R operator()(Args... args) const {
+    if (!handler_) return R();
+    return handler_(args...);
+  }
+
+ private:
+  std::function<R(Args...)> handler_;
+};
+
+}  // namespace tavrelkin

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <stdexcept>
+
+namespace tavrelkin {
+
+// A fault of the program itself. Nothing above the runtime catches these: the runtime's delivery of events does, tells
+// the user what happened and ends the program in order, with exit status 1.
+class RuntimeException : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+// An operation was called through a reference that refers to nothing.
+class NilObjectException : public RuntimeException {
+ public:
+  NilObjectException() : RuntimeException("An object was used before there was one.") {}
+};
+
+// An array or a string was read or written outside its bounds.
+class OutOfBoundsException : public RuntimeException {
+ public:
+  OutOfBoundsException() : RuntimeException("An array was used outside its bounds.") {}
+};
+
+}  // namespace tavrelkin
