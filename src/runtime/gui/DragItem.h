@@ -1,0 +1,34 @@
+#pragma once
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string_view>
+
+#include "runtime/base/Ref.h"
+#include "runtime/text/Text.h"
+
+namespace tavrelkin {
+
+// What a drag carries from one control to another: private payloads, each under a four-character type, and plain text,
+// all at the same time. A type is the same only where its case is the same.
+class DragItem : public Object {
+ public:
+  bool MacDataAvailable(std::string_view type) const;
+  // The payload of a type, or the empty string where there is none.
+  String MacData(std::string_view type) const;
+  // Adds a payload, or replaces the one of the same type.
+  void MacData(std::string_view type, String payload);
+
+  // True once a text was set, an empty one too.
+  bool TextAvailable() const;
+  // The text, or the empty text where there is none.
+  String Text() const;
+  void SetText(String text);
+
+ private:
+  std::map<String, String, std::less<>> payloads_;
+  std::optional<String> text_;
+};
+
+}  // namespace tavrelkin
