@@ -1,0 +1,74 @@
+#include "color/zrColorLib.h"
+
+namespace tavrelkin {
+
+namespace {
+
+String hexPair(Int32 channel) {
+  const String digits = Hex(channel);
+  return digits.size() == 1 ? "0" + digits : digits;
+}
+
+Int32 hexChannel(const String& digits, Int32 start, Int32 length) {
+  return toInt32(Val("&h" + Mid(digits, start, length)));
+}
+
+Int32 decimalChannel(const String& text, Int32 field) {
+  return toInt32(Val(NthField(text, ",", field)));
+}
+
+}  // namespace
+
+void InitializeSupport() {}
+
+String getRGBStr(Color c) {
+  return Str(c.red()) + ", " + Str(c.green()) + ", " + Str(c.blue());
+}
+
+String getHexStr(Color c) {
+  return hexPair(c.red()) + hexPair(c.green()) + hexPair(c.blue());
+}
+
+String getStdColorString(Color c) {
+  const Int32 hue = toInt32(readColorHue(c) * 360.0);
+  const Int32 saturation = toInt32(readColorSaturation(c) * 100.0);
+  const Int32 value = toInt32(readColorValue(c) * 100.0);
+  return "Color: " + Str(c.red()) + "." + Str(c.green()) + "." + Str(c.blue()) + ", " + Str(hue) + "." +
+         Str(saturation) + "." + Str(value) + ", #" + getHexStr(c);
+}
+
+Color getColorFromHex(const String& text) {
+  const String digits = text.starts_with('#') ? Mid(text, 2) : text;
+  const Int32 length = Len(digits);
+  if (length != 3 && length != 6) return kBlack;
+  const Int32 width = length / 3;
+  return RGB(hexChannel(digits, 1, width), hexChannel(digits, 1 + width, width),
+             hexChannel(digits, 1 + 2 * width, width));
+}
+
+Color getColorFromRGB(const String& text) {
+  return RGB(decimalChannel(text, 1), decimalChannel(text, 2), decimalChannel(text, 3));
+}
+
+bool getColorFromString(const String& text, Color& out) {
+  const String trimmed = Trim(text);
+  if (CountFields(trimmed, ".") == 3) {
+    out = getColorFromRGB(trimmed);
+    return true;
+  }
+  if (Len(trimmed) != 7 || !trimmed.starts_with('#')) return false;
+  out = getColorFromHex(trimmed);
+  return true;
+}
+
+Color getColorFromDrop(const Ref<DragItem>& item) {
+  if (!item || !item->MacDataAvailable("hcol")) return kBlack;
+  return getColorFromRGB(item->MacData("hcol"));
+}
+
+bool getColorFromTextDrop(const Ref<DragItem>& item, Color& out) {
+  if (!item || !item->TextAvailable()) return false;
+  return getColorFromString(Trim(item->Text()), out);
+}
+
+}  // namespace tavrelkin
