@@ -1,0 +1,27 @@
+#include "runtime/desktop/Desktop.h"
+
+#include <cassert>
+#include <utility>
+
+namespace tavrelkin {
+
+namespace {
+
+std::unique_ptr<Desktop>& installed() {
+  static std::unique_ptr<Desktop> instance;
+  return instance;
+}
+
+}  // namespace
+
+Desktop& desktop() {
+  assert(installed());
+  return *installed();
+}
+
+std::unique_ptr<Desktop> installDesktop(std::unique_ptr<Desktop> next) {
+  std::swap(installed(), next);
+  return next;
+}
+
+}  // namespace tavrelkin

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+
+namespace tavrelkin {
+
+// A position in the screen's own pixels, over all monitors. May be negative, and may lie off every monitor.
+struct ScreenPoint {
+  std::int32_t x = 0;
+  std::int32_t y = 0;
+  friend bool operator==(ScreenPoint, ScreenPoint) = default;
+};
+
+// A call that is made once, later, from the event loop. Destroying or cancelling it before then takes it back.
+class Alarm {
+ public:
+  Alarm() = default;
+  Alarm(const Alarm&) = delete;
+  Alarm& operator=(const Alarm&) = delete;
+  virtual ~Alarm() = default;
+
+  // Asks for the call after `delay`, in place of any earlier request. A delay of zero or less means: as soon as the
+  // event loop has nothing else to do.
+  virtual void set(std::chrono::nanoseconds delay) = 0;
+  virtual void cancel() = 0;
+};
+
+// All that differs between machines, or that a test must play. The runtime asks nothing of the machine but through this
+// interface and through the widgets of the toolkit.
+class Desktop {
+ public:
+  using TimePoint = std::chrono::steady_clock::time_point;
+
+  Desktop() = default;
+  Desktop(const Desktop&) = delete;
+  Desktop& operator=(const Desktop&) = delete;
+  virtual ~Desktop() = default;
+
+  // Whether pixel() can give what is on screen. Where it can't, whyNoScreen() is a text for the user that says so and
+  // what helps; else it is empty.
+  virtual bool canReadScreen() const = 0;
+  virtual std::string whyNoScreen() const = 0;
+
+  // The program's code is entered anew: what pointer() and pixel() keep for speed is stale from here on. Cheap.
+  virtual void beginTurn() = 0;
+
+  // The pixel at `at` as 0xRRGGBB, whichever window shows there. Black off the screen. Within one turn the answers may
+  // come from one capture, which is never older than a few milliseconds. Meaningless where canReadScreen() is false.
+  virtual std::uint32_t pixel(ScreenPoint at) = 0;
+
+  // Where the pointer is, also when the program is not in front.
+  virtual ScreenPoint pointer() = 0;
+
+  // While on, `moved` is called from the event loop soon after each movement of the pointer, wherever it is. A backend
+  // that can't watch never calls it. Off at first; an empty function turns it off, and an idle program leaves it off,
+  // since every movement wakes the process.
+  virtual void watchPointer(std::function<void()> moved) = 0;
+
+  // Whether the Option (Alt) key is held down now.
+  virtual bool optionKey() = 0;
+
+  // A clock that only goes forward.
+  virtual TimePoint now() const = 0;
+
+  // The time between two frames of the display.
+  virtual std::chrono::nanoseconds frameInterval() const = 0;
+
+  // An alarm, not set yet, that calls `ring`. It must not outlive the desktop.
+  virtual std::unique_ptr<Alarm> newAlarm(std::function<void()> ring) = 0;
+
+  // Shows `text` with an OK button over the front window, and returns when the user has closed it.
+  virtual void messageBox(const std::string& text) = 0;
+};
+
+// The desktop in use. It must be installed before any other part of the runtime is used.
+Desktop& desktop();
+
+// Puts another desktop in place, and gives back the one before it, if any.
+std::unique_ptr<Desktop> installDesktop(std::unique_ptr<Desktop> next);
+
+}  // namespace tavrelkin

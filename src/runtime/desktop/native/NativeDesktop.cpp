@@ -1,0 +1,128 @@
+#include "runtime/desktop/native/NativeDesktop.h"
+
+#include <algorithm>
+#include <chrono>
+#include <climits>
+#include <iostream>
+#include <string>
+#include <utility>
+
+#include <QApplication>
+#include <QMessageBox>
+#include <QMetaObject>
+#include <QPointer>
+#include <QScreen>
+#include <QTimer>
+
+#include "runtime/desktop/ScreenReader.h"
+#include "runtime/desktop/native/NoScreenReader.h"
+#include "runtime/desktop/x11/X11ScreenReader.h"
+
+namespace tavrelkin {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto kWhyNotOnWayland =
+    "This desktop session runs on Wayland, where no program may read the colours of the screen in the way that "
+    "Tavrelkin does.\n\n"
+    "Following the mouse and Poke work in a session on X11 (X.Org). Many login screens offer one, often under the name "
+    "of the desktop with \"on Xorg\" or \"X11\" beside it.\n\n"
+    "Mixing a colour on the bars, paste and copy work here as well.";
+
+constexpr auto kWhyNotHere =
+    "Tavrelkin reads the colours of the screen from an X11 display (X.Org) in full colour, and found none that it can "
+    "read.\n\n"
+    "Following the mouse and Poke work in a desktop session on X11.\n\n"
+    "Mixing a colour on the bars, paste and copy work here as well.";
+
+// Posted, so that it also takes effect when the event loop has not begun yet.
+void endProgram(const std::string& message) {
+  std::cerr << "Tavrelkin: " << message << '.' << std::endl;
+  const auto leave = [] { QCoreApplication::exit(1); };
+  QMetaObject::invokeMethod(QCoreApplication::instance(), leave, Qt::QueuedConnection);
+}
+
+// Under Wayland there often is an X11 display too, but it shows nothing of the screen.
+bool isWaylandSession() {
+  return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || QGuiApplication::platformName().startsWith("wayland");
+}
+
+std::unique_ptr<ScreenReader> makeScreenReader() {
+  if (isWaylandSession()) return std::make_unique<NoScreenReader>(kWhyNotOnWayland);
+  if (QGuiApplication::platformName() == "xcb")
+    if (auto reader = makeX11ScreenReader(endProgram)) return reader;
+  return std::make_unique<NoScreenReader>(kWhyNotHere);
+}
+
+class NativeAlarm final : public Alarm {
+ public:
+  explicit NativeAlarm(std::function<void()> ring) {
+    timer_.setSingleShot(true);
+    timer_.setTimerType(Qt::PreciseTimer);
+    timer_.callOnTimeout(std::move(ring));
+  }
+
+  void set(std::chrono::nanoseconds delay) override {
+    constexpr std::chrono::milliseconds kLongest(INT_MAX);
+    timer_.start(std::clamp(std::chrono::ceil<std::chrono::milliseconds>(delay), 0ms, kLongest));
+  }
+
+  void cancel() override { timer_.stop(); }
+
+ private:
+  QTimer timer_;
+};
+
+class NativeDesktop final : public Desktop {
+ public:
+  NativeDesktop() : reader_(makeScreenReader()) {}
+
+  bool canReadScreen() const override { return reader_->whyNoScreen().empty(); }
+  std::string whyNoScreen() const override { return reader_->whyNoScreen(); }
+  void beginTurn() override { reader_->beginTurn(); }
+  std::uint32_t pixel(ScreenPoint at) override { return reader_->pixel(at); }
+  ScreenPoint pointer() override { return reader_->pointer(); }
+  void watchPointer(std::function<void()> moved) override { reader_->watchPointer(std::move(moved)); }
+  bool optionKey() override { return reader_->optionKey(); }
+
+  TimePoint now() const override { return std::chrono::steady_clock::now(); }
+  std::chrono::nanoseconds frameInterval() const override;
+
+  std::unique_ptr<Alarm> newAlarm(std::function<void()> ring) override {
+    return std::make_unique<NativeAlarm>(std::move(ring));
+  }
+
+  void messageBox(const std::string& text) override;
+
+ private:
+  std::unique_ptr<ScreenReader> reader_;
+};
+
+// Some displays state no rate, or a senseless one.
+std::chrono::nanoseconds NativeDesktop::frameInterval() const {
+  const QScreen* const screen = QGuiApplication::primaryScreen();
+  const double stated = screen ? screen->refreshRate() : 0;
+  const double rate = stated > 1 && stated <= 1000 ? stated : 60;
+  return std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::duration<double>(1 / rate));
+}
+
+void NativeDesktop::messageBox(const std::string& text) {
+  // The window underneath can be closed meanwhile, which takes the box with it.
+  const QPointer<QMessageBox> box(new QMessageBox(QApplication::activeWindow()));
+  box->setWindowTitle("Tavrelkin");
+  box->setTextFormat(Qt::PlainText);
+  box->setText(QString::fromStdString(text));
+  box->setStandardButtons(QMessageBox::Ok);
+  box->exec();
+  if (box) box->deleteLater();
+}
+
+}  // namespace
+
+std::unique_ptr<Desktop> makeNativeDesktop() {
+  return std::make_unique<NativeDesktop>();
+}
+
+}  // namespace tavrelkin
