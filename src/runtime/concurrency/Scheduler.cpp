@@ -1,0 +1,142 @@
+#include "runtime/concurrency/Scheduler.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "runtime/concurrency/Thread.h"
+#include "runtime/gui/Window.h"
+
+namespace tavrelkin {
+
+namespace {
+
+std::unique_ptr<Scheduler>& installed() {
+  static std::unique_ptr<Scheduler> scheduler;
+  return scheduler;
+}
+
+}  // namespace
+
+Scheduler& Scheduler::instance() {
+  if (!installed()) installed() = std::make_unique<Scheduler>();
+  return *installed();
+}
+
+void Scheduler::shutDown() {
+  installed().reset();
+}
+
+Scheduler::Scheduler() : alarm_(desktop().newAlarm([this] { runDueThread(); })) {}
+
+Scheduler::~Scheduler() {
+  while (!entries_.empty())
+    kill(*entries_.back()->thread);
+}
+
+void Scheduler::start(Thread& thread, Ref<Window> owner) {
+  if (runs(thread)) return;
+  auto entry = std::make_unique<Entry>();
+  entry->thread = &thread;
+  entry->owner = std::move(owner);
+  entry->fiber = std::make_unique<Fiber>([&thread] { thread.runGuarded(); },
+                                         static_cast<std::size_t>(std::max(thread.StackSize, 0)));
+  entry->due = desktop().now();
+  entries_.push_back(std::move(entry));
+  if (!std::exchange(watching_, true)) desktop().watchPointer([this] { pointerMoved(); });
+  setAlarm();
+}
+
+void Scheduler::kill(Thread& thread) {
+  const auto is = [&thread](const auto& entry) { return entry->thread == &thread; };
+  const auto found = std::find_if(entries_.begin(), entries_.end(), is);
+  if (found == entries_.end()) return;
+  (*found)->fiber->kill();
+  remove(thread);
+}
+
+bool Scheduler::runs(const Thread& thread) const {
+  return std::any_of(entries_.begin(), entries_.end(),
+                     [&thread](const auto& entry) { return entry->thread == &thread; });
+}
+
+void Scheduler::lookAtClock() {
+  const TimePoint now = desktop().now();
+  if (current_) {
+    if (drew_ || now - turnBegan_ >= kTurn) Fiber::suspend();
+  } else if (now - mainTurnBegan_ >= kTurn) {
+    runDueThread();
+    mainTurnBegan_ = desktop().now();
+  }
+}
+
+void Scheduler::runDueThread() {
+  Entry* next = earliest();
+  if (next && next->due <= desktop().now()) runTurn(*next);
+  setAlarm();
+}
+
+void Scheduler::runTurn(Entry& entry) {
+  desktop().beginTurn();
+  turnBegan_ = desktop().now();
+  current_ = &entry;
+  drew_ = false;
+  entry.fiber->resume();
+  entry.paced = std::exchange(drew_, false);
+  current_ = nullptr;
+  desktop().beginTurn();
+  if (entry.fiber->finished()) {
+    remove(*entry.thread);
+  } else {
+    planNextTurn(entry);
+  }
+}
+
+void Scheduler::planNextTurn(Entry& entry) {
+  if (std::exchange(entry.forPointer, false)) entry.lastPointerTurn = turnBegan_;
+  if (!entry.paced) {
+    entry.due = desktop().now();
+    return;
+  }
+  // Frames follow each other in step, however long the turns take. While the pointer moves, its movements set the pace
+  // and the frame stands back a little, or else the two would take turns in pairs.
+  const auto frame = desktop().frameInterval();
+  const bool pointerLeads = entry.lastPointerTurn == turnBegan_;
+  const TimePoint inStep = entry.due + frame;
+  entry.due = pointerLeads ? turnBegan_ + frame * 5 / 4 : inStep > turnBegan_ ? inStep : turnBegan_ + frame;
+}
+
+void Scheduler::pointerMoved() {
+  const TimePoint now = desktop().now();
+  for (const auto& entry : entries_) {
+    const TimePoint soonest = std::max(now, entry->lastPointerTurn + kPointerGap);
+    if (!entry->paced || entry->due <= soonest) continue;
+    entry->due = soonest;
+    entry->forPointer = true;
+  }
+  setAlarm();
+}
+
+void Scheduler::setAlarm() {
+  if (const Entry* next = earliest()) {
+    alarm_->set(next->due - desktop().now());
+  } else {
+    alarm_->cancel();
+  }
+}
+
+Scheduler::Entry* Scheduler::earliest() {
+  const auto sooner = [](const auto& a, const auto& b) { return a->due < b->due; };
+  const auto found = std::min_element(entries_.begin(), entries_.end(), sooner);
+  return found == entries_.end() ? nullptr : found->get();
+}
+
+void Scheduler::remove(const Thread& thread) {
+  const auto is = [&thread](const auto& entry) { return entry->thread == &thread; };
+  const auto found = std::find_if(entries_.begin(), entries_.end(), is);
+  // Taken out first: letting go of the owner may end its window, and with it the thread.
+  const std::unique_ptr<Entry> gone = std::move(*found);
+  entries_.erase(found);
+  if (entries_.empty() && std::exchange(watching_, false)) desktop().watchPointer({});
+}
+
+}  // namespace tavrelkin

@@ -1,0 +1,87 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "runtime/base/Ref.h"
+#include "runtime/concurrency/Fiber.h"
+#include "runtime/desktop/Desktop.h"
+
+namespace tavrelkin {
+
+class Thread;
+class Window;
+
+// Hands out turns to the threads of the program. The event loop gives them when it has nothing else to do, the main
+// thread at its own yields when it has been at work for long. A turn ends when its time is over or when the thread has
+// drawn on a canvas: a thread that draws faster than the display shows would only burn power. It goes on when the next
+// frame is due, or at once when the pointer has moved, so that a preview neither lags behind the hand nor misses a
+// screen that changes under a still pointer.
+class Scheduler {
+ public:
+  using TimePoint = Desktop::TimePoint;
+
+  // How long a thread, or the main thread between two looks at the others, keeps the processor.
+  static constexpr std::chrono::milliseconds kTurn{2};
+  // How close together two turns may be that movements of the pointer have asked for.
+  static constexpr std::chrono::milliseconds kPointerGap{4};
+
+  // The one scheduler, made at first use with the desktop that is installed then. shutDown() ends all threads and lets
+  // it go.
+  static Scheduler& instance();
+  static void shutDown();
+
+  Scheduler();
+  Scheduler(const Scheduler&) = delete;
+  Scheduler& operator=(const Scheduler&) = delete;
+  ~Scheduler();
+
+  // Starts a thread, which keeps `owner` alive until it has ended. Does nothing while it runs.
+  void start(Thread& thread, Ref<Window> owner);
+  void kill(Thread& thread);
+  bool runs(const Thread& thread) const;
+
+  // The yield: see RuntimeBackgroundTask.
+  void yield() {
+    if (++yields_ % kYieldsPerLook == 0 || drew_) lookAtClock();
+  }
+
+  // A canvas is being drawn on, by whoever runs.
+  void canvasDrawn() { drew_ = current_ != nullptr; }
+
+  // A handler is entered from the event loop.
+  void beginMainTurn() { mainTurnBegan_ = desktop().now(); }
+
+ private:
+  static constexpr unsigned kYieldsPerLook = 32;
+
+  struct Entry {
+    Thread* thread = nullptr;
+    Ref<Window> owner;
+    std::unique_ptr<Fiber> fiber;
+    TimePoint due{};
+    TimePoint lastPointerTurn{};
+    bool paced = false;       // it has drawn and waits for the next frame or a movement of the pointer
+    bool forPointer = false;  // the turn it waits for was asked for by a movement
+  };
+
+  void lookAtClock();
+  void runDueThread();
+  void runTurn(Entry& entry);
+  void planNextTurn(Entry& entry);
+  void pointerMoved();
+  void setAlarm();
+  Entry* earliest();
+  void remove(const Thread& thread);
+
+  std::vector<std::unique_ptr<Entry>> entries_;
+  std::unique_ptr<Alarm> alarm_;
+  Entry* current_ = nullptr;
+  bool drew_ = false;
+  unsigned yields_ = 0;
+  TimePoint turnBegan_{};
+  TimePoint mainTurnBegan_{};
+  bool watching_ = false;
+};
+
+}  // namespace tavrelkin
