@@ -1,0 +1,88 @@
+#include "runtime/gui/Application.h"
+
+#include <algorithm>
+
+#include <QCoreApplication>
+#include <QMetaObject>
+
+#include "runtime/qt/Delivery.h"
+
+namespace tavrelkin {
+
+namespace {
+
+Application* instance = nullptr;
+
+// Where a menu bar stands outside the windows, a program without a window can still be reached.
+#ifdef Q_OS_MACOS
+constexpr bool kStaysWithoutWindow = true;
+#else
+constexpr bool kStaysWithoutWindow = false;
+#endif
+
+void quitIfNothingIsOpen() {
+  if (instance && instance->openWindows().empty()) QCoreApplication::quit();
+}
+
+}  // namespace
+
+Application::Application() : MenuBar(nullptr, [this](const Ref<tavrelkin::MenuBar>&) { enableMenuItems(); }) {
+  instance = this;
+}
+
+Application::~Application() {
+  if (instance == this) instance = nullptr;
+}
+
+Application& Application::current() {
+  if (!instance) throw NilObjectException();
+  return *instance;
+}
+
+void Application::Quit() {
+  QCoreApplication::quit();
+}
+
+bool Application::dispatch(const String& itemName) {
+  return deliver([&] {
+    const Ref<Window> front(frontWindow());
+    if (front && front->menuHandlers().has(itemName)) return front->menuHandlers().run(itemName);
+    return handlers_.run(itemName);
+  });
+}
+
+void Application::enableMenuItems() {
+  if (MenuBar.get()) enable(MenuBar->menus());
+}
+
+void Application::enable(const std::vector<Ref<MenuItem>>& items) {
+  const Window* front = frontWindow();
+  for (const Ref<MenuItem>& item : items) {
+    if (!item->items().empty()) {
+      enable(item->items());
+      continue;
+    }
+    if (!item->AutoEnable || item->isSeparator()) continue;
+    const bool taken = (front && front->menuHandlers().has(item->Name())) || handlers_.has(item->Name());
+    item->Enabled = taken || item->answersItself();
+  }
+}
+
+void Application::windowInFront(Window& window) {
+  Ref<Window> front(&window);
+  const auto found = std::find(openWindows_.begin(), openWindows_.end(), front);
+  if (found != openWindows_.end()) openWindows_.erase(found);
+  openWindows_.push_back(front);
+  enableMenuItems();
+}
+
+void Application::windowClosed(Window& window) {
+  std::erase_if(defaults_, [&](const auto& entry) { return entry.second == &window; });
+  std::erase(openWindows_, Ref<Window>(&window));
+  enableMenuItems();
+  if (openWindows_.empty() && !kStaysWithoutWindow) {
+    QMetaObject::invokeMethod(QCoreApplication::instance(), quitIfNothingIsOpen, Qt::QueuedConnection);
+  }
+}
+
+}  // namespace tavrelkin

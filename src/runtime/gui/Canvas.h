@@ -1,0 +1,67 @@
+#pragma once
+
+#include "runtime/base/Event.h"
+#include "runtime/drawing/Graphics.h"
+#include "runtime/gui/RectControl.h"
+
+namespace tavrelkin {
+
+class CanvasWidget;
+
+// A control that the program draws by itself. Its surface keeps what is drawn on it, in a paint event or at any other
+// time, until the next paint event, ahead of which it is erased to the window's BackColor. That event comes when the
+// canvas is first shown, becomes visible or changes size, and with Refresh; a window that is uncovered or moved raises
+// none.
+class Canvas : public RectControl, private DrawingObserver {
+ public:
+  Canvas(Window& owner, String name);
+  ~Canvas() override;
+
+  // Draws straight on the control, also outside a paint event; reading a pixel gives what was drawn.
+  tavrelkin::Graphics& Graphics() { return graphics_; }
+
+  // Erases the surface and raises Paint at once; `now` also has it on the screen before this returns.
+  void Refresh(bool now) override;
+
+  // The events, for the host. Coordinates count from the canvas's top left corner and may lie outside of it during a
+  // drag. Only a MouseDown that returns true grants the MouseDrag and the MouseUp of that press; MouseMove comes while
+  // no button is held. KeyDown gets the key as one byte, 28 to 31 for the arrows left, right, up and down, and returns
+  // true to keep it from the rest of the window.
+  Event<void()> Open;
+  Event<void(tavrelkin::Graphics*)> Paint;
+  Event<bool(Int32, Int32)> MouseDown;
+  Event<void(Int32, Int32)> MouseDrag;
+  Event<void(Int32, Int32)> MouseUp;
+  Event<void(Int32, Int32)> MouseMove;
+  Event<void()> MouseEnter;
+  Event<void()> MouseExit;
+  Event<bool(const String&)> KeyDown;
+
+  // The same events, for a class of canvas. The base versions hand them to the host.
+  void Event_Open() override { Open(); }
+  virtual void Event_Paint(tavrelkin::Graphics& g) { Paint(&g); }
+  virtual bool Event_MouseDown(Int32 x, Int32 y) { return MouseDown(x, y); }
+  virtual void Event_MouseDrag(Int32 x, Int32 y) { MouseDrag(x, y); }
+  virtual void Event_MouseUp(Int32 x, Int32 y) { MouseUp(x, y); }
+  virtual void Event_MouseMove(Int32 x, Int32 y) { MouseMove(x, y); }
+  virtual void Event_MouseEnter() { MouseEnter(); }
+  virtual void Event_MouseExit() { MouseExit(); }
+  virtual bool Event_KeyDown(const String& key) { return KeyDown(key); }
+
+ protected:
+  void resized() override;
+
+ private:
+  friend class CanvasWidget;
+
+  void drawn() override;
+  void paintAfresh();
+
+  CanvasWidget& widget() const;
+
+  Surface surface_;
+  tavrelkin::Graphics graphics_;
+  bool shown_ = false;
+};
+
+}  // namespace tavrelkin

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "runtime/base/Event.h"
+#include "runtime/base/Property.h"
+#include "runtime/gui/RectControl.h"
+
+namespace tavrelkin {
+
+// The little arrow that unfolds a part of a window: it points to the right, and down while Value is true.
+class DisclosureTriangle : public RectControl {
+ public:
+  DisclosureTriangle(Window& owner, String name);
+
+  // Writing it raises nothing.
+  Property<bool> Value;
+
+  // The user has turned the triangle; Value tells where it points now.
+  Event<void()> Action;
+};
+
+}  // namespace tavrelkin

@@ -1,0 +1,20 @@
+#include "runtime/gui/PushButton.h"
+
+#include <utility>
+
+#include <QPushButton>
+
+#include "runtime/qt/Convert.h"
+#include "runtime/qt/Delivery.h"
+
+namespace tavrelkin {
+
+PushButton::PushButton(Window& owner, String name)
+    : RectControl(owner, std::move(name), new QPushButton),
+      Caption({}, [this](const String& text) { static_cast<QPushButton&>(native()).setText(toQt(text)); }) {
+  auto* button = static_cast<QPushButton*>(&native());
+  button->setAutoDefault(false);
+  QObject::connect(button, &QPushButton::clicked, [this] { deliver(ownerWindow(), [this] { Action(); }); });
+}
+
+}  // namespace tavrelkin

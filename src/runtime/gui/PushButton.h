@@ -1,0 +1,19 @@
+#pragma once
+
+#include "runtime/base/Event.h"
+#include "runtime/base/Property.h"
+#include "runtime/gui/RectControl.h"
+
+namespace tavrelkin {
+
+class PushButton : public RectControl {
+ public:
+  PushButton(Window& owner, String name);
+
+  Property<String> Caption;
+
+  // The user has pressed the button.
+  Event<void()> Action;
+};
+
+}  // namespace tavrelkin

@@ -1,0 +1,68 @@
+#include "runtime/gui/RectControl.h"
+
+#include <utility>
+
+#include <QWidget>
+
+#include "runtime/gui/Window.h"
+#include "runtime/qt/Convert.h"
+
+namespace tavrelkin {
+
+RectControl::RectControl(Window& owner, String name, QWidget* native, const RectControl* parent)
+    : Control(owner, std::move(name)),
+      Left(0, [this](Int32) { applyGeometry(); }),
+      Top(0, [this](Int32) { applyGeometry(); }),
+      Width(0, [this](Int32) { applyGeometry(); }),
+      Height(0, [this](Int32) { applyGeometry(); }),
+      Visible(true, [this](bool on) { native_->setVisible(on); }),
+      Enabled(true, [this](bool on) { native_->setEnabled(on); }),
+      HelpTag({}, [this](const String& text) { native_->setToolTip(toDisplayText(text)); }),
+      AcceptFocus(false, [this](bool) { applyFocusPolicy(); }),
+      TabStop(false, [this](bool) { applyFocusPolicy(); }),
+      native_(native),
+      parent_(parent) {
+  native_->setParent(parent ? &parent->native() : &owner.content());
+  native_->setObjectName(toQt(Name()));
+  native_->setFocusPolicy(Qt::NoFocus);
+}
+
+// The widget goes with its window, which outlives its controls.
+RectControl::~RectControl() {
+  QObject::disconnect(native_, nullptr, nullptr, nullptr);
+}
+
+void RectControl::place(Int32 left, Int32 top, Int32 width, Int32 height) {
+  Left.store(left);
+  Top.store(top);
+  Width.store(width);
+  Height.store(height);
+  applyGeometry();
+}
+
+void RectControl::SetFocus() {
+  native_->setFocus(Qt::OtherFocusReason);
+}
+
+void RectControl::Refresh(bool now) {
+  if (now) {
+    native_->repaint();
+  } else {
+    native_->update();
+  }
+}
+
+void RectControl::applyGeometry() {
+  const Int32 left = Left - (parent_ ? parent_->Left.get() : 0);
+  const Int32 top = Top - (parent_ ? parent_->Top.get() : 0);
+  native_->setGeometry(left, top, Width, Height);
+  resized();
+}
+
+void RectControl::applyFocusPolicy() {
+  const int byClick = AcceptFocus ? Qt::ClickFocus : Qt::NoFocus;
+  const int byTab = TabStop ? Qt::TabFocus : Qt::NoFocus;
+  native_->setFocusPolicy(static_cast<Qt::FocusPolicy>(byClick | byTab));
+}
+
+}  // namespace tavrelkin

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "runtime/base/Property.h"
+#include "runtime/gui/Control.h"
+
+class QWidget;
+
+namespace tavrelkin {
+
+// A control with a place in its window. Positions and sizes are in pixels at a scale of 100 %, counted from the top
+// left corner of the window's content. Every write takes effect at once.
+class RectControl : public Control {
+ public:
+  ~RectControl() override;
+
+  Property<Int32> Left;
+  Property<Int32> Top;
+  Property<Int32> Width;
+  Property<Int32> Height;
+  Property<bool> Visible;
+  Property<bool> Enabled;
+
+  // The text that shows when the pointer rests on the control. "\r" begins a new line.
+  Property<String> HelpTag;
+
+  // Whether a press or the tabulator key may bring the keyboard here. SetFocus does in any case.
+  Property<bool> AcceptFocus;
+  Property<bool> TabStop;
+
+  // Sets place and size in one go.
+  void place(Int32 left, Int32 top, Int32 width, Int32 height);
+
+  void SetFocus();
+
+  // Repaints the control: now, or when the event loop comes round to it.
+  virtual void Refresh(bool now);
+
+  // What shows the control on the machine; of use within the runtime only.
+  QWidget& native() const { return *native_; }
+
+ protected:
+  // Takes over `native`, which belongs to `parent`, or to the window where there is none.
+  RectControl(Window& owner, String name, QWidget* native, const RectControl* parent = nullptr);
+
+  // Called after a change of size.
+  virtual void resized() {}
+
+ private:
+  void applyGeometry();
+  void applyFocusPolicy();
+
+  QWidget* native_;
+  const RectControl* parent_;
+};
+
+}  // namespace tavrelkin

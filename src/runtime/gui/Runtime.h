@@ -1,0 +1,34 @@
+#pragma once
+
+#include <memory>
+
+#include "runtime/base/Ref.h"
+#include "runtime/gui/Application.h"
+
+class QApplication;
+
+namespace tavrelkin {
+
+// The runtime itself: the toolkit, the desktop and the event loop. One for the life of the program, made first.
+class Runtime {
+ public:
+  Runtime();
+  Runtime(const Runtime&) = delete;
+  Runtime& operator=(const Runtime&) = delete;
+  ~Runtime();
+
+  // Runs an application: its command handlers, its first window, then the event loop, until the program quits. Gives
+  // the exit status.
+  int run(Ref<Application> application);
+
+ private:
+  std::unique_ptr<QApplication> toolkit_;
+};
+
+// The look of the program, the same on every desktop: for a toolkit that has just been made.
+void applyLook(QApplication& toolkit);
+
+// Ends what outlives windows: threads, and widgets that wait to be deleted. For the end of the runtime.
+void shutDownRuntime();
+
+}  // namespace tavrelkin

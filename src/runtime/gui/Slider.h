@@ -1,0 +1,27 @@
+#pragma once
+
+#include "runtime/base/Event.h"
+#include "runtime/base/Property.h"
+#include "runtime/gui/RectControl.h"
+
+namespace tavrelkin {
+
+// A horizontal slider over whole numbers.
+class Slider : public RectControl {
+ public:
+  Slider(Window& owner, String name);
+
+  Property<Int32> Minimum;
+  Property<Int32> Maximum;
+  // Writing it raises nothing. What lies outside the range counts as the nearest bound.
+  Property<Int32> Value;
+  Property<Int32> LineStep;
+  Property<Int32> PageStep;
+  // Whether ValueChanged comes at each step of a drag, or once when the user lets go.
+  Property<bool> LiveScroll;
+
+  // The user has changed the value.
+  Event<void()> ValueChanged;
+};
+
+}  // namespace tavrelkin

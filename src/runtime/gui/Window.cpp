@@ -1,0 +1,87 @@
+#include "runtime/gui/Window.h"
+
+#include <QWidget>
+
+#include "runtime/gui/Application.h"
+#include "runtime/gui/RectControl.h"
+#include "runtime/qt/Convert.h"
+#include "runtime/qt/Delivery.h"
+#include "runtime/qt/WindowWidget.h"
+
+namespace tavrelkin {
+
+Window::Window(const WindowDesign& design)
+    : Title(design.title, [this](const String& title) { native_->setWindowTitle(toQt(title)); }),
+      Width(design.width, [this](Int32) { applySize(); }),
+      Height(design.height, [this](Int32) { applySize(); }),
+      BackColor(Color{}, [this](Color c) { native_->setBackColor(toQt(c)); }),
+      MenuBar(nullptr, [this](const Ref<tavrelkin::MenuBar>& bar) { native_->setMenuBar(bar); }),
+      native_(new WindowWidget(*this, design)) {
+  BackColor.store(Color{native_->palette().color(QPalette::Window).rgb()});
+  applySize();
+}
+
+// The toolkit may be in the middle of an event of this very window.
+Window::~Window() {
+  native_->detach();
+  native_->hide();
+  native_->deleteLater();
+}
+
+void Window::constructed() {
+  const Ref<Window> keep(this);
+  AddMenuHandlers();
+  for (Control* each : controls_)
+    each->Event_Open();
+  Event_Open();
+}
+
+void Window::Show() {
+  open_ = true;
+  Application::current().windowInFront(*this);
+  native_->showInFront();
+}
+
+void Window::Close() {
+  if (!open_) return;
+  const Ref<Window> keep(this);
+  open_ = false;
+  Event_Close();
+  native_->hide();
+  Application::current().windowClosed(*this);
+}
+
+void Window::SetFocus() {
+  if (open_) native_->showInFront();
+}
+
+Control* Window::control(const String& name, Int32 index) const {
+  for (Control* each : controls_) {
+    if (each->Name() == name && each->Index == index) return each;
+  }
+  return nullptr;
+}
+
+QWidget& Window::content() const {
+  return native_->content();
+}
+
+void Window::setTabOrder(std::initializer_list<const RectControl*> controls) {
+  const RectControl* last = nullptr;
+  for (const RectControl* next : controls) {
+    if (last) QWidget::setTabOrder(&last->native(), &next->native());
+    last = next;
+  }
+}
+
+void Window::applySize() {
+  native_->setContentSize(Width, Height);
+}
+
+void Window::cameToFront() {
+  if (!open_) return;
+  Application::current().windowInFront(*this);
+  deliver(*this, [this] { Event_Activate(); });
+}
+
+}  // namespace tavrelkin

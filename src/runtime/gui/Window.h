@@ -1,0 +1,101 @@
+#pragma once
+
+#include <initializer_list>
+#include <vector>
+
+#include "runtime/base/Property.h"
+#include "runtime/base/Ref.h"
+#include "runtime/drawing/Color.h"
+#include "runtime/gui/Menu.h"
+#include "runtime/gui/MenuHandlers.h"
+#include "runtime/text/Text.h"
+
+class QWidget;
+
+namespace tavrelkin {
+
+class Control;
+class RectControl;
+class WindowWidget;
+
+enum class WindowFrame { document, movableModal };
+
+// What a window is made with. Sizes are those of the content, in pixels at a scale of 100 %; the menu bar, where it
+// stands in the window, comes on top. The user can't resize a window.
+struct WindowDesign {
+  String title;
+  Int32 width = 0;
+  Int32 height = 0;
+  WindowFrame frame = WindowFrame::document;
+  bool closeButton = true;
+  bool minimizeButton = true;
+  bool maximizeButton = false;
+};
+
+// A window of the program. Made with New, which raises the Open events of its controls and then its own; it lives while
+// it is open, referred to, or kept by one of its threads.
+class Window : public Object {
+ public:
+  ~Window() override;
+
+  Property<String> Title;
+  Property<Int32> Width;
+  Property<Int32> Height;
+  // The colour of the content where no control is. The platform's own at first.
+  Property<Color> BackColor;
+  Property<Ref<tavrelkin::MenuBar>> MenuBar;
+
+  // Opens the window, or brings it to the front where it is open.
+  void Show();
+
+  // Closes the window and raises Close. Does nothing where it isn't open. Safe from any handler of its own.
+  void Close();
+
+  // Brings the window to the front and gives it the keyboard.
+  void SetFocus();
+
+  bool isOpen() const { return open_; }
+
+  // The control of that name and index, or null.
+  Control* control(const String& name, Int32 index = 0) const;
+
+  // Registers the handlers of the window's commands; called once, ahead of the Open events.
+  virtual void AddMenuHandlers() {}
+
+  virtual void Event_Open() {}
+  virtual void Event_Close() {}
+  virtual void Event_Minimize() {}
+  virtual void Event_Activate() {}
+
+  const MenuHandlers& menuHandlers() const { return handlers_; }
+
+  // For controls, and for whatever else shows the window on the machine.
+  QWidget& content() const;
+  WindowWidget& native() const { return *native_; }
+
+ protected:
+  explicit Window(const WindowDesign& design);
+
+  void constructed() override;
+
+  void addMenuHandler(const String& itemName, MenuHandlers::Handler handler) {
+    handlers_.add(itemName, std::move(handler));
+  }
+
+  // The order in which the tabulator key visits the controls.
+  void setTabOrder(std::initializer_list<const RectControl*> controls);
+
+ private:
+  friend class Control;
+  friend class WindowWidget;
+
+  void applySize();
+  void cameToFront();
+
+  WindowWidget* native_;
+  MenuHandlers handlers_;
+  std::vector<Control*> controls_;
+  bool open_ = false;
+};
+
+}  // namespace tavrelkin

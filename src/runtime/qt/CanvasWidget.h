@@ -1,0 +1,42 @@
+#pragma once
+
+#include <QWidget>
+
+namespace tavrelkin {
+
+class Canvas;
+
+// Shows a canvas's surface and passes the toolkit's events on to the canvas.
+class CanvasWidget : public QWidget {
+ public:
+  explicit CanvasWidget(Canvas& canvas);
+
+  // The canvas goes; what still comes from the toolkit is ignored.
+  void detach() { canvas_ = nullptr; }
+
+  // Has the surface on the screen when the event loop comes round to it.
+  void showSoon() {
+    if (dirty_) return;
+    dirty_ = true;
+    update();
+  }
+  void showNow();
+
+ protected:
+  void showEvent(QShowEvent* event) override;
+  void hideEvent(QHideEvent* event) override;
+  void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+  void enterEvent(QEnterEvent* event) override;
+  void leaveEvent(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
+
+ private:
+  Canvas* canvas_;
+  bool granted_ = false;  // the press now held was accepted by the canvas
+  bool dirty_ = false;
+};
+
+}  // namespace tavrelkin

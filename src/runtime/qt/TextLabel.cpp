@@ -1,0 +1,69 @@
+#include "runtime/qt/TextLabel.h"
+
+#include <algorithm>
+
+#include <QApplication>
+#include <QFontMetrics>
+#include <QPainter>
+
+#include "runtime/qt/Convert.h"
+
+namespace tavrelkin {
+
+QFont fontFor(const String& family, Int32 pixels, bool bold) {
+  QFont font = QApplication::font();
+  if (family != "System") font.setFamily(toQt(family));
+  font.setPixelSize(std::max(pixels, 1));
+  font.setBold(bold);
+  return font;
+}
+
+TextLabel::TextLabel() {
+  setTextFormat(Qt::PlainText);
+}
+
+void TextLabel::setLines(const QString& lines) {
+  if (lines == text()) return;
+  setText(lines);
+  fit();
+}
+
+void TextLabel::setBaseFont(const QFont& font) {
+  base_ = font;
+  fit();
+}
+
+void TextLabel::setTextColor(const QColor& c) {
+  QPalette colors = palette();
+  colors.setColor(QPalette::WindowText, c);
+  setPalette(colors);
+}
+
+void TextLabel::align(TextAlignment where) {
+  const Qt::Alignment across = where == TextAlignment::left      ? Qt::AlignLeft
+                               : where == TextAlignment::centred ? Qt::AlignHCenter
+                                                                 : Qt::AlignRight;
+  setAlignment(across | Qt::AlignTop);
+}
+
+void TextLabel::fit() {
+  constexpr int narrowest = 66;
+  QFont fitted = base_;
+  const int wanted = QFontMetrics(base_).size(0, text()).width();
+  if (wanted > width() && width() > 0) fitted.setStretch(std::max(narrowest, 100 * width() / wanted));
+  if (fitted != font()) setFont(fitted);
+}
+
+void TextLabel::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.setPen(palette().color(isEnabled() ? QPalette::Normal : QPalette::Disabled, QPalette::WindowText));
+  const int pitch = qRound(1.2 * base_.pixelSize());
+  int top = 0;
+  for (const QString& line : text().split(QLatin1Char('\n'))) {
+    const QRect place(0, top, width(), pitch);
+    painter.drawText(place, (alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter | Qt::TextDontClip, line);
+    top += pitch;
+  }
+}
+
+}  // namespace tavrelkin

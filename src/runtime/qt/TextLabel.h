@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QFont>
+#include <QLabel>
+
+#include "runtime/gui/StaticText.h"
+
+namespace tavrelkin {
+
+// The font of a family, of a height in pixels. "System" is the desktop's own family.
+QFont fontFor(const String& family, Int32 pixels, bool bold);
+
+// A label that sets its text narrower where it would be cut off. Its lines have the same pitch in every family of
+// fonts, since other controls stand beside them.
+class TextLabel : public QLabel {
+ public:
+  TextLabel();
+
+  void setLines(const QString& text);
+  void setBaseFont(const QFont& font);
+  void setTextColor(const QColor& c);
+  void align(TextAlignment where);
+
+  // To be called after a change of size.
+  void fit();
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QFont base_;
+};
+
+}  // namespace tavrelkin

@@ -1,0 +1,77 @@
+#include "runtime/qt/WindowWidget.h"
+
+#include <QCloseEvent>
+#include <QMenuBar>
+#include <QVBoxLayout>
+
+#include "runtime/gui/Window.h"
+#include "runtime/qt/Convert.h"
+#include "runtime/qt/Delivery.h"
+
+namespace tavrelkin {
+
+namespace {
+
+Qt::WindowFlags flagsOf(const WindowDesign& design) {
+  Qt::WindowFlags flags = design.frame == WindowFrame::movableModal ? Qt::Dialog : Qt::Window;
+  flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+  flags.setFlag(Qt::WindowCloseButtonHint, design.closeButton);
+  flags.setFlag(Qt::WindowMinimizeButtonHint, design.minimizeButton);
+  flags.setFlag(Qt::WindowMaximizeButtonHint, design.maximizeButton);
+  return flags;
+}
+
+}  // namespace
+
+WindowWidget::WindowWidget(Window& window, const WindowDesign& design)
+    : QWidget(nullptr, flagsOf(design)), window_(&window), content_(new QWidget(this)) {
+  if (design.frame == WindowFrame::movableModal) setWindowModality(Qt::ApplicationModal);
+  setWindowTitle(toQt(design.title));
+  auto* layout = new QVBoxLayout(this);
+  layout->setContentsMargins(0, 0, 0, 0);
+  layout->setSpacing(0);
+  layout->addWidget(content_);
+  layout->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void WindowWidget::setContentSize(int width, int height) {
+  content_->setFixedSize(width, height);
+  layout()->activate();
+}
+
+void WindowWidget::setBackColor(const QColor& c) {
+  QPalette colors = content_->palette();
+  colors.setColor(QPalette::Window, c);
+  content_->setPalette(colors);
+  content_->setAutoFillBackground(true);
+}
+
+void WindowWidget::setMenuBar(const Ref<MenuBar>& bar) {
+  auto* shown = new QMenuBar(this);
+  bar->attachTo(*shown);
+  layout()->setMenuBar(shown);
+}
+
+void WindowWidget::showInFront() {
+  setWindowState(windowState() & ~Qt::WindowMinimized);
+  show();
+  raise();
+  activateWindow();
+}
+
+void WindowWidget::closeEvent(QCloseEvent* event) {
+  event->accept();
+  if (window_) deliver(*window_, [this] { window_->Close(); });
+}
+
+void WindowWidget::changeEvent(QEvent* event) {
+  QWidget::changeEvent(event);
+  if (!window_) return;
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) window_->cameToFront();
+  const bool changed = event->type() == QEvent::WindowStateChange;
+  if (changed && isMinimized() && !(static_cast<QWindowStateChangeEvent*>(event)->oldState() & Qt::WindowMinimized)) {
+    deliver(*window_, [this] { window_->Event_Minimize(); });
+  }
+}
+
+}  // namespace tavrelkin

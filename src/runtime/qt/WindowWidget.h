@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QWidget>
+
+#include "runtime/base/Ref.h"
+
+class QMenuBar;
+
+namespace tavrelkin {
+
+class MenuBar;
+class Window;
+struct WindowDesign;
+
+// Shows a window: a menu bar on top, if there is one, and the content below it. Passes the toolkit's events on.
+class WindowWidget : public QWidget {
+ public:
+  WindowWidget(Window& window, const WindowDesign& design);
+
+  // The window goes; what still comes from the toolkit is ignored.
+  void detach() { window_ = nullptr; }
+
+  QWidget& content() const { return *content_; }
+
+  void setContentSize(int width, int height);
+  void setBackColor(const QColor& c);
+  void setMenuBar(const Ref<MenuBar>& bar);
+  void showInFront();
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  Window* window_;
+  QWidget* content_;
+};
+
+}  // namespace tavrelkin

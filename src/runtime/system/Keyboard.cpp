@@ -1,0 +1,11 @@
+#include "runtime/system/Keyboard.h"
+
+#include "runtime/desktop/Desktop.h"
+
+namespace tavrelkin::Keyboard {
+
+bool AsyncOptionKey() {
+  return desktop().optionKey();
+}
+
+}  // namespace tavrelkin::Keyboard
