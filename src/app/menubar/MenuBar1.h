@@ -1,0 +1,18 @@
+#pragma once
+
+#include "runtime/gui/Menu.h"
+
+namespace tavrelkin {
+
+// The program's menu bar: the names, texts and shortcuts of all items. It knows no window; who answers an item
+// registers a handler under the item's name.
+class MenuBar1 : public MenuBar {
+ public:
+  MenuBar1();
+  ~MenuBar1() override;
+
+  // The one menu bar that all windows share, made at first use and kept by whoever holds it.
+  static Ref<MenuBar> Instance();
+};
+
+}  // namespace tavrelkin

@@ -1,0 +1,142 @@
+#pragma once
+
+#include <array>
+
+#include "controls/zrColorBox.h"
+#include "controls/zrColorButton.h"
+#include "controls/zrColorCHBar.h"
+#include "runtime/concurrency/Thread.h"
+#include "runtime/concurrency/Timer.h"
+#include "runtime/drawing/Picture.h"
+#include "runtime/gui/Canvas.h"
+#include "runtime/gui/DisclosureTriangle.h"
+#include "runtime/gui/Rectangle.h"
+#include "runtime/gui/Slider.h"
+#include "runtime/gui/StaticText.h"
+#include "runtime/gui/Window.h"
+
+namespace tavrelkin {
+
+// The tool window: it holds one selected colour and shows it as title, text, swatches and on six bars, and it shows an
+// enlarged preview of the screen around the pointer. It is either idle or following the pointer.
+class frmVesk : public Window {
+ public:
+  frmVesk();
+
+  // The live default window, which is the one made here; made and shown where there is none.
+  static Ref<frmVesk> Default();
+
+  // Zoom step, 1 to 3: a screen pixel is a cell of four times as many canvas pixels.
+  Int32 ScreenZoomValue = 0;
+  // The latest sample of the screen, a pixel for a pixel. Replaced by each sample, never edited by anyone else.
+  Ref<Picture> zoomImage;
+  Color SelectedColor;
+  bool flgShowCoordinates = false;
+  // Whether the window follows the pointer: the condition of the tracking loop.
+  bool flgTrackMouse = false;
+  // Whether a coordinate of the sample is held, and where in screen pixels it was tracked or locked last.
+  bool flgLockX = false;
+  Int32 varLastX = 0;
+  bool flgLockY = false;
+  Int32 varLastY = 0;
+  bool flgDrawGuide = false;
+  // The grid as an overlay with a mask.
+  Ref<Picture> gridImage;
+  // What the preview shows in place of the screen.
+  bool flgShowSuggestions = false;
+  bool flgShowColorsInScreen = false;
+  bool flgShowColorBlind = false;
+
+  // Controls.
+  bool cmdColor_BeforeSelectColor();
+  bool cmdColor_ShowCMM();
+  void imgScreen_MouseDrag(Int32 x, Int32 y);
+  void imgScreen_MouseUp(Int32 x, Int32 y);
+  bool imgScreen_MouseDown(Int32 x, Int32 y);
+  void imgScreen_Paint(Graphics* g);
+  void imgScreen_MouseMove(Int32 x, Int32 y);
+  void imgWebSafe_Open();
+  void DisclosureTriangle1_Action();
+  void slZoom_ValueChanged();
+  void pokeMouse_Run();
+  void cmdMixer_Change(zrColorCHBar& bar);
+  void cmdMixer_Action(zrColorCHBar& bar);
+  Int32 cmdMixer_SetColorChannel(zrColorCHBar& bar);
+  void cmdMixer_ValueChanging(zrColorCHBar& bar);
+  void rTIP_Timer_Action();
+  void cmdMakeWebSafe_Action();
+
+  void AddMenuHandlers() override;
+  void Event_Open() override;
+  void Event_Minimize() override;
+  void Event_Close() override;
+
+  // Menu commands; each reports itself as handled.
+  bool mnuFollow();
+  bool mnuLockX();
+  bool mnuLockY();
+  bool mnuLock();
+  bool EditCopy();
+  bool EditPaste();
+  bool mnuEditCopyHex();
+  bool mnuPokeColor();
+  bool mnuShowGuide();
+  bool mnuViewSuggestions();
+  bool mnuShowColors();
+  bool mnuCloseWin();
+  bool mnuFavFromColors();
+  bool mnuColorBlind();
+
+  // One step of tracking: labels and preview show the pointer's place, or the held one where a coordinate is locked.
+  void doTrackSysCursor();
+  // Takes a sample around a screen point and draws it on imgScreen.
+  void drawSys(Int32 x, Int32 y);
+  // Makes a colour the selected one and updates every display of it; the preview stays as it is. `b` means nothing.
+  void setColor(Color c, bool b);
+  void doSetUpToolScreenPeeker();
+  // Makes the grid overlay anew for the zoom step.
+  void drawGrid();
+  void drawSuggestions(Graphics* g);
+  // Paints the preview from the sample there is.
+  void drawScreen(Graphics* g);
+  void drawColorsInScreen(Graphics* g);
+  void saveColorsInScreen();
+  void drawColorBlind(Graphics* g);
+
+  zrColorButton cmdColor{*this, "cmdColor"};
+  Canvas imgWebSafe{*this, "imgWebSafe"};
+  zrColorBox cmdMakeWebSafe{*this, "cmdMakeWebSafe"};
+  Canvas imgScreen{*this, "imgScreen"};
+  DisclosureTriangle DisclosureTriangle1{*this, "DisclosureTriangle1"};
+  StaticText view0_lblcoordinates{*this, "view0_lblcoordinates"};
+  StaticText view0_lblColor{*this, "view0_lblColor"};
+  zrColorBox sm{*this, "sm"};
+  StaticText StaticText2{*this, "StaticText2"};
+  StaticText StaticText3{*this, "StaticText3"};
+  std::array<zrColorCHBar, 6> cmdMixer{{{*this, "cmdMixer", 0},
+                                        {*this, "cmdMixer", 1},
+                                        {*this, "cmdMixer", 2},
+                                        {*this, "cmdMixer", 3},
+                                        {*this, "cmdMixer", 4},
+                                        {*this, "cmdMixer", 5}}};
+  StaticText StaticText1{*this, "StaticText1"};
+  Slider slZoom{*this, "slZoom"};
+  Rectangle rTIP{*this, "rTIP"};
+  StaticText rLblTip{*this, "rLblTip", &rTIP};
+  Thread pokeMouse{*this, "pokeMouse"};
+  Timer rTIP_Timer{*this, "rTIP_Timer"};
+
+ private:
+  void layOut();
+  void styleTexts();
+  void wire();
+
+  // The item of that name in the window's menu bar.
+  MenuItem& menuItem(const char* name) const;
+  // The common end of the three commands that choose what the preview shows.
+  void showChosenView();
+  // Ends the two views that a look at the screen replaces.
+  void leaveColourViews();
+};
+
+}  // namespace tavrelkin

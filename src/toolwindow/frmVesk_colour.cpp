@@ -1,0 +1,66 @@
+// The selected colour of the tool window, and the controls that show and change it.
+
+#include "color/zrColorLib.h"
+#include "toolwindow/frmVesk.h"
+
+namespace tavrelkin {
+
+void frmVesk::setColor(Color c, bool) {
+  SelectedColor = c;
+  cmdColor.SetValue(c);
+  view0_lblColor.Text = getStdColorString(c);
+  Title = "Color: " + Str(c.red()) + "." + Str(c.green()) + "." + Str(c.blue()) + ", #" + getHexStr(SelectedColor);
+  const bool unsafe = !zrColorLib_IsColorWebSafe(c);
+  imgWebSafe.Visible = unsafe;
+  if (unsafe) cmdMakeWebSafe.SetValue(zrColorLib_MakeWebSafe(c));
+  cmdMakeWebSafe.Visible = unsafe;
+  sm.SetValue(SelectedColor);
+  doSetUpToolScreenPeeker();
+  for (zrColorCHBar& bar : cmdMixer) {
+    bar.SetBaseColor(SelectedColor);
+    RuntimeBackgroundTask();
+  }
+}
+
+// A hook: nothing in the preview depends on the selected colour.
+void frmVesk::doSetUpToolScreenPeeker() {}
+
+bool frmVesk::cmdColor_BeforeSelectColor() {
+  return false;
+}
+
+bool frmVesk::cmdColor_ShowCMM() {
+  return false;
+}
+
+void frmVesk::cmdMakeWebSafe_Action() {
+  setColor(cmdMakeWebSafe.Value, false);
+}
+
+void frmVesk::cmdMixer_Change(zrColorCHBar& bar) {
+  setColor(bar.propBaseColor, false);
+}
+
+void frmVesk::cmdMixer_Action(zrColorCHBar& bar) {
+  setColor(bar.propBaseColor, false);
+  rTIP.Visible = false;
+  rTIP_Timer.Mode = 0;
+}
+
+Int32 frmVesk::cmdMixer_SetColorChannel(zrColorCHBar& bar) {
+  bar.SetBaseColor(cmdColor.Value);
+  return bar.Index;
+}
+
+void frmVesk::cmdMixer_ValueChanging(zrColorCHBar& bar) {
+  rLblTip.Text = bar.HelpTag;
+  rTIP.Visible = true;
+  rTIP_Timer.Mode = 2;
+}
+
+void frmVesk::rTIP_Timer_Action() {
+  rTIP_Timer.Mode = 0;
+  rTIP.Visible = false;
+}
+
+}  // namespace tavrelkin

@@ -1,0 +1,128 @@
+// The tool window's menu commands, and the loop that follows the pointer.
+
+#include "color/zrColorLib.h"
+#include "runtime/gui/Clipboard.h"
+#include "runtime/system/System.h"
+#include "toolwindow/frmVesk.h"
+
+namespace tavrelkin {
+
+void frmVesk::AddMenuHandlers() {
+  addMenuHandler("mnuFollow", [this] { return mnuFollow(); });
+  addMenuHandler("mnuLockX", [this] { return mnuLockX(); });
+  addMenuHandler("mnuLockY", [this] { return mnuLockY(); });
+  addMenuHandler("mnuLock", [this] { return mnuLock(); });
+  addMenuHandler("EditCopy", [this] { return EditCopy(); });
+  addMenuHandler("EditPaste", [this] { return EditPaste(); });
+  addMenuHandler("mnuEditCopyHex", [this] { return mnuEditCopyHex(); });
+  addMenuHandler("mnuPokeColor", [this] { return mnuPokeColor(); });
+  addMenuHandler("mnuShowGuide", [this] { return mnuShowGuide(); });
+  addMenuHandler("mnuViewSuggestions", [this] { return mnuViewSuggestions(); });
+  addMenuHandler("mnuShowColors", [this] { return mnuShowColors(); });
+  addMenuHandler("mnuColorBlind", [this] { return mnuColorBlind(); });
+  addMenuHandler("mnuCloseWin", [this] { return mnuCloseWin(); });
+  addMenuHandler("mnuFavFromColors", [this] { return mnuFavFromColors(); });
+}
+
+MenuItem& frmVesk::menuItem(const char* name) const {
+  return *MenuBar->Child(name);
+}
+
+bool frmVesk::mnuFollow() {
+  if (flgTrackMouse) {
+    flgTrackMouse = false;
+    pokeMouse.Kill();
+  } else {
+    leaveColourViews();
+    varLastY = System::MouseY();
+    varLastX = System::MouseX();
+    flgTrackMouse = true;
+    pokeMouse.Run();
+  }
+  menuItem("mnuFollow").Checked = flgTrackMouse;
+  return true;
+}
+
+// No pause and no rate of its own: the yield hands the loop its turns.
+void frmVesk::pokeMouse_Run() {
+  while (flgTrackMouse) {
+    doTrackSysCursor();
+    RuntimeBackgroundTask();
+  }
+}
+
+bool frmVesk::mnuLockX() {
+  flgLockX = !flgLockX;
+  varLastX = System::MouseX();
+  menuItem("mnuLockX").Checked = flgLockX;
+  return true;
+}
+
+bool frmVesk::mnuLockY() {
+  flgLockY = !flgLockY;
+  varLastY = System::MouseY();
+  menuItem("mnuLockY").Checked = flgLockY;
+  return true;
+}
+
+bool frmVesk::mnuLock() {
+  const bool lock = flgLockX != flgLockY || !flgLockX;
+  flgLockX = lock;
+  flgLockY = lock;
+  menuItem("mnuLock").Checked = lock;
+  if (lock) {
+    varLastY = System::MouseY();
+    varLastX = System::MouseX();
+  }
+  return true;
+}
+
+bool frmVesk::EditCopy() {
+  Clipboard clipboard;
+  clipboard.SetText(getStdColorString(SelectedColor));
+  clipboard.Close();
+  return true;
+}
+
+bool frmVesk::mnuEditCopyHex() {
+  Clipboard clipboard;
+  clipboard.SetText("#" + getHexStr(SelectedColor));
+  clipboard.Close();
+  return true;
+}
+
+bool frmVesk::EditPaste() {
+  Color pasted = SelectedColor;
+  if (getColorFromString(Trim(Clipboard().Text()), pasted)) setColor(pasted, false);
+  return true;
+}
+
+// The locks hold the preview, not the colour that is taken.
+bool frmVesk::mnuPokeColor() {
+  const Int32 x = System::MouseX();
+  const Int32 y = System::MouseY();
+  setColor(System::Pixel(x, y), false);
+  doTrackSysCursor();
+  return true;
+}
+
+bool frmVesk::mnuShowGuide() {
+  flgDrawGuide = !flgDrawGuide;
+  if (flgDrawGuide) drawGrid();
+  imgScreen.Refresh(true);
+  menuItem("mnuShowGuide").Checked = flgDrawGuide;
+  return true;
+}
+
+bool frmVesk::mnuCloseWin() {
+  flgTrackMouse = false;
+  Close();
+  return true;
+}
+
+bool frmVesk::mnuFavFromColors() {
+  saveColorsInScreen();
+  return true;
+}
+
+}  // namespace tavrelkin
