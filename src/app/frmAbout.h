@@ -1,0 +1,24 @@
+#pragma once
+
+#include "runtime/gui/PushButton.h"
+#include "runtime/gui/StaticText.h"
+#include "runtime/gui/Window.h"
+
+namespace tavrelkin {
+
+// The window that says what the program is.
+class frmAbout : public Window {
+ public:
+  frmAbout();
+
+  // The live default window; made and shown where there is none.
+  static Ref<frmAbout> Default();
+
+  void PushButton1_Action();
+
+  StaticText StaticText1{*this, "StaticText1"};
+  StaticText StaticText2{*this, "StaticText2"};
+  PushButton PushButton1{*this, "PushButton1"};
+};
+
+}  // namespace tavrelkin

@@ -1,0 +1,7 @@
+#include "app/App.h"
+#include "runtime/gui/Runtime.h"
+
+int main() {
+  tavrelkin::Runtime runtime;
+  return runtime.run(tavrelkin::New<tavrelkin::App>());
+}
