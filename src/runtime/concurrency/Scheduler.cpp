@@ -10,20 +10,17 @@ namespace tavrelkin {
 
 namespace {
 
-std::unique_ptr<Scheduler>& installed() {
-  static std::unique_ptr<Scheduler> scheduler;
-  return scheduler;
-}
+std::unique_ptr<Scheduler> installed;
 
 }  // namespace
 
 Scheduler& Scheduler::instance() {
-  if (!installed()) installed() = std::make_unique<Scheduler>();
-  return *installed();
+  if (!installed) installed = std::make_unique<Scheduler>();
+  return *installed;
 }
 
 void Scheduler::shutDown() {
-  installed().reset();
+  installed.reset();
 }
 
 Scheduler::Scheduler() : alarm_(desktop().newAlarm([this] { runDueThread(); })) {}

@@ -7,20 +7,17 @@ namespace tavrelkin {
 
 namespace {
 
-std::unique_ptr<Desktop>& installed() {
-  static std::unique_ptr<Desktop> instance;
-  return instance;
-}
+std::unique_ptr<Desktop> installed;
 
 }  // namespace
 
 Desktop& desktop() {
-  assert(installed());
-  return *installed();
+  assert(installed);
+  return *installed;
 }
 
 std::unique_ptr<Desktop> installDesktop(std::unique_ptr<Desktop> next) {
-  std::swap(installed(), next);
+  std::swap(installed, next);
   return next;
 }
 

@@ -8,35 +8,32 @@ namespace tavrelkin {
 
 namespace {
 
-// One axis of a scaling: which pixels of the destination are drawn, and which source pixel each of them shows.
+// One axis of a scaling: which pixels of the destination are drawn, and which source pixel each of them shows. Those
+// whose source pixel doesn't exist are left out; the others stand next to each other.
 class AxisMap {
  public:
-  AxisMap(Int32 position, Int32 size, Int32 limit, Int32 sourcePosition, Int32 sourceSize, Int32 sourceLimit)
-      : first_(std::clamp<std::int64_t>(position, 0, limit)) {
+  AxisMap(Int32 position, Int32 size, Int32 limit, Int32 sourcePosition, Int32 sourceSize, Int32 sourceLimit) {
+    if (size < 1 || sourceSize < 1) return;
     const std::int64_t end = std::clamp<std::int64_t>(std::int64_t{position} + size, 0, limit);
-    if (sourceSize < 1) return;
-    for (std::int64_t at = first_; at < end; ++at) {
+    for (std::int64_t at = std::clamp<std::int64_t>(position, 0, limit); at < end; ++at) {
       const std::int64_t source = sourcePosition + (at - position) * sourceSize / size;
-      source_.push_back(source >= 0 && source < sourceLimit ? static_cast<Int32>(source) : kNothing);
+      if (source < 0 || source >= sourceLimit) continue;
+      if (sources_.empty()) first_ = static_cast<Int32>(at);
+      sources_.push_back(static_cast<Int32>(source));
     }
   }
 
-  static constexpr Int32 kNothing = -1;
-
-  Int32 first() const { return static_cast<Int32>(first_); }
-  const std::vector<Int32>& sources() const { return source_; }
-  bool empty() const { return source_.empty(); }
+  Int32 first() const { return first_; }
+  const std::vector<Int32>& sources() const { return sources_; }
 
  private:
-  std::int64_t first_;
-  std::vector<Int32> source_;
+  Int32 first_ = 0;
+  std::vector<Int32> sources_;
 };
 
 void copyRow(std::uint32_t* to, const std::uint32_t* from, const std::vector<Int32>& columns) {
-  for (const Int32 column : columns) {
-    if (column != AxisMap::kNothing) *to = from[column];
-    ++to;
-  }
+  for (const Int32 column : columns)
+    *to++ = from[column];
 }
 
 // In a mask white is transparent and black opaque; what lies between mixes the two pictures in that proportion.
@@ -53,7 +50,7 @@ void copyMaskedRow(std::uint32_t* to, const std::uint32_t* from, const std::uint
                    const std::vector<Int32>& columns) {
   constexpr std::uint32_t transparent = Surface::kOpaque | kWhite.bits;
   for (const Int32 column : columns) {
-    if (column != AxisMap::kNothing && mask[column] != transparent) *to = mixed(*to, from[column], mask[column]);
+    if (mask[column] != transparent) *to = mixed(*to, from[column], mask[column]);
     ++to;
   }
 }
@@ -71,19 +68,23 @@ void Graphics::DrawPicture(const Picture& picture, Int32 x, Int32 y, Int32 desti
                         orNatural(sourceWidth, picture.Width()), picture.Width());
   const AxisMap rows(y, orNatural(destinationHeight, picture.Height()), Height(), sourceY,
                      orNatural(sourceHeight, picture.Height()), picture.Height());
-  if (columns.empty() || rows.empty()) return;
+  if (columns.sources().empty() || rows.sources().empty()) return;
   touch();
   const Surface* mask = picture.maskSurface();
+  std::uint32_t* above = nullptr;
+  Int32 sourceAbove = -1;
   Int32 line = rows.first();
   for (const Int32 source : rows.sources()) {
     std::uint32_t* to = surface_.row(line++) + columns.first();
-    if (source == AxisMap::kNothing) continue;
-    const std::uint32_t* from = picture.surface().row(source);
     if (mask) {
-      copyMaskedRow(to, from, mask->row(source), columns.sources());
+      copyMaskedRow(to, picture.surface().row(source), mask->row(source), columns.sources());
+    } else if (source == sourceAbove) {
+      std::copy_n(above, columns.sources().size(), to);
     } else {
-      copyRow(to, from, columns.sources());
+      copyRow(to, picture.surface().row(source), columns.sources());
     }
+    above = to;
+    sourceAbove = source;
   }
 }
 

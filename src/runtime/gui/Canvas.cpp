@@ -25,7 +25,7 @@ void Canvas::Refresh(bool now) {
   if (now) {
     widget().showNow();
   } else {
-    widget().update();
+    widget().showSoon();
   }
 }
 
@@ -38,6 +38,7 @@ void Canvas::resized() {
   if (surface_.width() == Width && surface_.height() == Height) return;
   surface_ = Surface(Width, Height, ownerWindow().BackColor);
   if (shown_) paintAfresh();
+  widget().showSoon();
 }
 
 void Canvas::drawn() {

@@ -1,9 +1,10 @@
 #include "runtime/qt/CanvasWidget.h"
 
+#include <cstring>
 #include <utility>
 
-#include <QImage>
 #include <QKeyEvent>
+#include <QMetaObject>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -42,28 +43,54 @@ CanvasWidget::CanvasWidget(Canvas& canvas) : canvas_(&canvas) {
   setMouseTracking(true);
 }
 
+void CanvasWidget::showSoon() {
+  if (std::exchange(showPosted_, true)) return;
+  const auto show = [this] {
+    showPosted_ = false;
+    if (const QRect changed = takeChanges(); !changed.isEmpty()) update(changed);
+  };
+  QMetaObject::invokeMethod(this, show, Qt::QueuedConnection);
+}
+
 void CanvasWidget::showNow() {
-  dirty_ = true;
-  repaint();
+  if (const QRect changed = takeChanges(); !changed.isEmpty()) repaint(changed);
+}
+
+QRect CanvasWidget::takeChanges() {
+  if (!canvas_) return {};
+  const Surface& surface = canvas_->surface_;
+  const int width = surface.width();
+  const int height = surface.height();
+  if (picture_.size() != QSize(width, height)) {
+    picture_ = QImage(width, height, QImage::Format_RGB32);
+    picture_.fill(Qt::transparent);
+  }
+  const std::size_t bytes = static_cast<std::size_t>(width) * sizeof(std::uint32_t);
+  const auto changed = [&](int y) { return std::memcmp(picture_.constScanLine(y), surface.row(y), bytes) != 0; };
+  int first = 0;
+  int end = height;
+  while (first < end && !changed(first))
+    ++first;
+  while (first < end && !changed(end - 1))
+    --end;
+  for (int y = first; y < end; ++y)
+    std::memcpy(picture_.scanLine(y), surface.row(y), bytes);
+  return {0, first, width, end - first};
 }
 
 void CanvasWidget::showEvent(QShowEvent*) {
   if (!canvas_) return;
   canvas_->shown_ = true;
   canvas_->paintAfresh();
+  takeChanges();
 }
 
 void CanvasWidget::hideEvent(QHideEvent*) {
   if (canvas_) canvas_->shown_ = false;
 }
 
-void CanvasWidget::paintEvent(QPaintEvent*) {
-  dirty_ = false;
-  if (!canvas_ || canvas_->surface_.width() == 0 || canvas_->surface_.height() == 0) return;
-  const Surface& surface = canvas_->surface_;
-  const QImage image(reinterpret_cast<const uchar*>(surface.row(0)), surface.width(), surface.height(),
-                     surface.width() * static_cast<int>(sizeof(std::uint32_t)), QImage::Format_RGB32);
-  QPainter(this).drawImage(0, 0, image);
+void CanvasWidget::paintEvent(QPaintEvent* event) {
+  QPainter(this).drawImage(event->rect(), picture_, event->rect());
 }
 
 void CanvasWidget::mousePressEvent(QMouseEvent* event) {

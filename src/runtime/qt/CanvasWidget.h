@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QWidget>
 
 namespace tavrelkin {
@@ -14,12 +15,9 @@ class CanvasWidget : public QWidget {
   // The canvas goes; what still comes from the toolkit is ignored.
   void detach() { canvas_ = nullptr; }
 
-  // Has the surface on the screen when the event loop comes round to it.
-  void showSoon() {
-    if (dirty_) return;
-    dirty_ = true;
-    update();
-  }
+  // Has the surface on the screen when the event loop comes round to it, or at once. What looks the same as before
+  // costs no painting.
+  void showSoon();
   void showNow();
 
  protected:
@@ -36,7 +34,11 @@ class CanvasWidget : public QWidget {
  private:
   Canvas* canvas_;
   bool granted_ = false;  // the press now held was accepted by the canvas
-  bool dirty_ = false;
+  // Brings the picture up to date; gives the rows that differ from what was shown before.
+  QRect takeChanges();
+
+  QImage picture_;  // the surface as it was last shown
+  bool showPosted_ = false;
 };
 
 }  // namespace tavrelkin

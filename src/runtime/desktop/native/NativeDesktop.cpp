@@ -77,9 +77,9 @@ class NativeAlarm final : public Alarm {
 
 class NativeDesktop final : public Desktop {
  public:
-  NativeDesktop() : reader_(makeScreenReader()) {}
+  NativeDesktop() : reader_(makeScreenReader()), canReadScreen_(reader_->whyNoScreen().empty()) {}
 
-  bool canReadScreen() const override { return reader_->whyNoScreen().empty(); }
+  bool canReadScreen() const override { return canReadScreen_; }
   std::string whyNoScreen() const override { return reader_->whyNoScreen(); }
   void beginTurn() override { reader_->beginTurn(); }
   std::uint32_t pixel(ScreenPoint at) override { return reader_->pixel(at); }
@@ -98,6 +98,7 @@ class NativeDesktop final : public Desktop {
 
  private:
   std::unique_ptr<ScreenReader> reader_;
+  bool canReadScreen_;  // asked at each pixel
 };
 
 // Some displays state no rate, or a senseless one.
