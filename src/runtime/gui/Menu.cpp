@@ -19,7 +19,7 @@ MenuItem::MenuItem(String name, String text, String shortcut)
       name_(std::move(name)),
       text_(std::move(text)),
       shortcut_(std::move(shortcut)),
-      action_(std::make_unique<QAction>(toQt(text_))) {
+      action_(std::make_unique<QAction>(isSeparator() ? QString() : toQt(text_))) {
   action_->setObjectName(toQt(name_));
   action_->setSeparator(isSeparator());
   action_->setMenuRole(QAction::NoRole);

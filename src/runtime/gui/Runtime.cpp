@@ -26,8 +26,6 @@ std::unique_ptr<QApplication> makeToolkit() {
 // Light, whatever the desktop's theme is: the windows have light colours of their own.
 QPalette lightPalette() {
   QPalette colors(QColor(0xEFEFEF));
-  colors.setColor(QPalette::Base, Qt::white);
-  colors.setColor(QPalette::Text, Qt::black);
   colors.setColor(QPalette::Highlight, QColor(0x308CC6));
   colors.setColor(QPalette::HighlightedText, Qt::white);
   colors.setColor(QPalette::ToolTipBase, QColor(0xFFF8CE));
