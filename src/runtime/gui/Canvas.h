@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "runtime/base/Event.h"
 #include "runtime/drawing/Graphics.h"
 #include "runtime/gui/RectControl.h"
@@ -7,6 +9,12 @@
 namespace tavrelkin {
 
 class CanvasWidget;
+
+// Keys as KeyDown tells them.
+constexpr std::string_view kLeftArrow = "\x1C";
+constexpr std::string_view kRightArrow = "\x1D";
+constexpr std::string_view kUpArrow = "\x1E";
+constexpr std::string_view kDownArrow = "\x1F";
 
 // A control that the program draws by itself. Its surface keeps what is drawn on it, in a paint event or at any other
 // time, until the next paint event, ahead of which it is erased to the window's BackColor. That event comes when the
@@ -25,8 +33,8 @@ class Canvas : public RectControl, private DrawingObserver {
 
   // The events, for the host. Coordinates count from the canvas's top left corner and may lie outside of it during a
   // drag. Only a MouseDown that returns true grants the MouseDrag and the MouseUp of that press; MouseMove comes while
-  // no button is held. KeyDown gets the key as one byte, 28 to 31 for the arrows left, right, up and down, and returns
-  // true to keep it from the rest of the window.
+  // no button is held. KeyDown gets the key as one byte and returns true to keep it from the rest of the window; keys
+  // that stand for no character raise none. DropObject comes only for what the canvas accepts; its number is 0.
   Event<void()> Open;
   Event<void(tavrelkin::Graphics*)> Paint;
   Event<bool(Int32, Int32)> MouseDown;
@@ -36,6 +44,7 @@ class Canvas : public RectControl, private DrawingObserver {
   Event<void()> MouseEnter;
   Event<void()> MouseExit;
   Event<bool(const String&)> KeyDown;
+  Event<void(const Ref<DragItem>&, Int32)> DropObject;
 
   // The same events, for a class of canvas. The base versions hand them to the host.
   void Event_Open() override { Open(); }
@@ -47,6 +56,7 @@ class Canvas : public RectControl, private DrawingObserver {
   virtual void Event_MouseEnter() { MouseEnter(); }
   virtual void Event_MouseExit() { MouseExit(); }
   virtual bool Event_KeyDown(const String& key) { return KeyDown(key); }
+  virtual void Event_DropObject(const Ref<DragItem>& item, Int32 action) { DropObject(item, action); }
 
  protected:
   void resized() override;

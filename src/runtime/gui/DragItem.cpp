@@ -17,6 +17,13 @@ void DragItem::MacData(std::string_view type, String payload) {
   payloads_.insert_or_assign(String{type}, std::move(payload));
 }
 
+std::vector<String> DragItem::MacDataTypes() const {
+  std::vector<String> types;
+  for (const auto& [type, payload] : payloads_)
+    types.push_back(type);
+  return types;
+}
+
 bool DragItem::TextAvailable() const {
   return text_.has_value();
 }
@@ -27,6 +34,11 @@ String DragItem::Text() const {
 
 void DragItem::SetText(String text) {
   text_ = std::move(text);
+}
+
+void DragItem::Drag() {
+  const Ref<DragItem> keep(this);
+  if (begin_) begin_(*this);
 }
 
 }  // namespace tavrelkin

@@ -4,6 +4,8 @@
 #include <map>
 #include <optional>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "runtime/base/Ref.h"
 #include "runtime/text/Text.h"
@@ -14,6 +16,8 @@ namespace tavrelkin {
 // all at the same time. A type is the same only where its case is the same.
 class DragItem : public Object {
  public:
+  // The types that have a payload.
+  std::vector<String> MacDataTypes() const;
   bool MacDataAvailable(std::string_view type) const;
   // The payload of a type, or the empty string where there is none.
   String MacData(std::string_view type) const;
@@ -26,9 +30,17 @@ class DragItem : public Object {
   String Text() const;
   void SetText(String text);
 
+  // Begins the drag, for an item that NewDragItem has made, from within a MouseDrag event. Returns when the user has
+  // let go or given up; an item of another origin is not dragged. The press that began it grants no further events.
+  void Drag();
+
+  // For whoever makes an item that can be dragged.
+  void onDrag(std::function<void(const DragItem&)> begin) { begin_ = std::move(begin); }
+
  private:
   std::map<String, String, std::less<>> payloads_;
   std::optional<String> text_;
+  std::function<void(const DragItem&)> begin_;
 };
 
 }  // namespace tavrelkin

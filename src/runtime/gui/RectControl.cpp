@@ -1,11 +1,13 @@
 #include "runtime/gui/RectControl.h"
 
+#include <algorithm>
 #include <utility>
 
 #include <QWidget>
 
 #include "runtime/gui/Window.h"
 #include "runtime/qt/Convert.h"
+#include "runtime/qt/Drags.h"
 
 namespace tavrelkin {
 
@@ -42,6 +44,29 @@ void RectControl::place(Int32 left, Int32 top, Int32 width, Int32 height) {
 
 void RectControl::SetFocus() {
   native_->setFocus(Qt::OtherFocusReason);
+}
+
+void RectControl::AcceptMacDataDrop(const String& type) {
+  acceptedTypes_.push_back(type);
+  native_->setAcceptDrops(true);
+}
+
+void RectControl::AcceptTextDrop() {
+  acceptsText_ = true;
+  native_->setAcceptDrops(true);
+}
+
+bool RectControl::accepts(const DragItem& item) const {
+  const auto carried = [&item](const String& type) { return item.MacDataAvailable(type); };
+  return (acceptsText_ && item.TextAvailable()) || std::any_of(acceptedTypes_.begin(), acceptedTypes_.end(), carried);
+}
+
+Ref<DragItem> RectControl::NewDragItem(Int32 left, Int32 top, Int32 width, Int32 height) {
+  const Ref<DragItem> item = New<DragItem>();
+  item->onDrag([this, outline = QRect(left, top, width, height)](const DragItem& dragged) {
+    beginDrag(dragged, ownerWindow().content(), outline);
+  });
+  return item;
 }
 
 void RectControl::Refresh(bool now) {

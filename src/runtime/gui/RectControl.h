@@ -1,7 +1,10 @@
 #pragma once
 
+#include <vector>
+
 #include "runtime/base/Property.h"
 #include "runtime/gui/Control.h"
+#include "runtime/gui/DragItem.h"
 
 class QWidget;
 
@@ -32,6 +35,17 @@ class RectControl : public Control {
 
   void SetFocus();
 
+  // What the control takes when it is dropped there: private data of a four-character type, plain text. Until one of
+  // them is called it takes nothing.
+  void AcceptMacDataDrop(const String& type);
+  void AcceptTextDrop();
+
+  // An empty drag item whose picture is the outline of a rectangle, given in the window's pixels.
+  Ref<DragItem> NewDragItem(Int32 left, Int32 top, Int32 width, Int32 height);
+
+  // Whether a drop of the item would be taken.
+  bool accepts(const DragItem& item) const;
+
   // Repaints the control: now, or when the event loop comes round to it.
   virtual void Refresh(bool now);
 
@@ -49,6 +63,8 @@ class RectControl : public Control {
   void applyGeometry();
   void applyFocusPolicy();
 
+  std::vector<String> acceptedTypes_;
+  bool acceptsText_ = false;
   QWidget* native_;
   const RectControl* parent_;
 };

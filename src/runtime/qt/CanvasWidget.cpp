@@ -3,6 +3,7 @@
 #include <cstring>
 #include <utility>
 
+#include <QDropEvent>
 #include <QKeyEvent>
 #include <QMetaObject>
 #include <QMouseEvent>
@@ -11,6 +12,7 @@
 #include "runtime/gui/Canvas.h"
 #include "runtime/gui/Window.h"
 #include "runtime/qt/Delivery.h"
+#include "runtime/qt/Drags.h"
 
 namespace tavrelkin {
 
@@ -19,13 +21,13 @@ namespace {
 String asOneByte(const QKeyEvent& event) {
   switch (event.key()) {
     case Qt::Key_Left:
-      return ChrB(28);
+      return String(kLeftArrow);
     case Qt::Key_Right:
-      return ChrB(29);
+      return String(kRightArrow);
     case Qt::Key_Up:
-      return ChrB(30);
+      return String(kUpArrow);
     case Qt::Key_Down:
-      return ChrB(31);
+      return String(kDownArrow);
     default:
       return event.text().toUtf8().left(1).toStdString();
   }
@@ -101,6 +103,8 @@ void CanvasWidget::mousePressEvent(QMouseEvent* event) {
 
 void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
   if (!canvas_) return;
+  // A drag out of the canvas takes the release with it.
+  if (!(event->buttons() & Qt::LeftButton)) granted_ = false;
   const QPoint at = pixelOf(*event);
   deliver(canvas_->ownerWindow(), [&] {
     if (granted_) {
@@ -125,10 +129,25 @@ void CanvasWidget::leaveEvent(QEvent*) {
   if (canvas_) deliver(canvas_->ownerWindow(), [&] { canvas_->Event_MouseExit(); });
 }
 
-void CanvasWidget::keyPressEvent(QKeyEvent* event) {
-  if (!canvas_) return event->ignore();
-  const String key = asOneByte(*event);
-  event->setAccepted(deliver(canvas_->ownerWindow(), [&] { return canvas_->Event_KeyDown(key); }));
+void CanvasWidget::dragEnterEvent(QDragEnterEvent* event) {
+  if (canvas_ && canvas_->accepts(*fromMime(*event->mimeData()))) event->acceptProposedAction();
+}
+
+void CanvasWidget::dropEvent(QDropEvent* event) {
+  if (!canvas_) return;
+  event->acceptProposedAction();
+  const Ref<DragItem> item = fromMime(*event->mimeData());
+  deliver(canvas_->ownerWindow(), [&] { canvas_->Event_DropObject(item, 0); });
+}
+
+// Keys are taken here, ahead of the tabulator's way to the next control, which would never let the canvas see it.
+bool CanvasWidget::event(QEvent* event) {
+  if (canvas_ && event->type() == QEvent::KeyPress) {
+    const String key = asOneByte(*static_cast<QKeyEvent*>(event));
+    const auto handler = [&] { return canvas_->Event_KeyDown(key); };
+    if (!key.empty() && deliver(canvas_->ownerWindow(), handler)) return true;
+  }
+  return QWidget::event(event);
 }
 
 }  // namespace tavrelkin

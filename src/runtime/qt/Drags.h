@@ -1,0 +1,22 @@
+#pragma once
+
+#include <memory>
+
+#include "runtime/gui/DragItem.h"
+
+class QMimeData;
+class QRect;
+class QWidget;
+
+namespace tavrelkin {
+
+// What a drag item is to other programs, and what their drags are to this one. Private data travels under a MIME type
+// of its own; a colour ("hcol", three numbers with commas between them) goes along as application/x-color as well, and
+// a foreign application/x-color comes in as "hcol" where there is none. A malformed one counts as absent.
+std::unique_ptr<QMimeData> toMime(const DragItem& item);
+Ref<DragItem> fromMime(const QMimeData& data);
+
+// Drags an item out of a window, whose content has the outline at the given place. Returns when the drag is over.
+void beginDrag(const DragItem& item, QWidget& content, const QRect& outline);
+
+}  // namespace tavrelkin
