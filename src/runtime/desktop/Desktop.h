@@ -75,6 +75,10 @@ class Desktop {
 
   // Shows `text` with an OK button over the front window, and returns when the user has closed it.
   virtual void messageBox(const std::string& text) = 0;
+
+  // Lets the user choose a colour, 0xRRGGBB, in a dialog over the front window that begins at `initial` and has
+  // `prompt` as its title. Returns when it is closed; nothing where the user gives up.
+  virtual std::optional<std::uint32_t> selectColor(std::uint32_t initial, const std::string& prompt) = 0;
 };
 
 // The desktop in use. It must be installed before any other part of the runtime is used.

@@ -2,6 +2,7 @@
 
 #include "runtime/drawing/Color.h"
 #include "runtime/drawing/Surface.h"
+#include "runtime/text/Text.h"
 
 namespace tavrelkin {
 
@@ -34,6 +35,12 @@ class Graphics {
   // Asks that an enlargement stay hard-edged. It does in any case: every scaling here is.
   bool UseOldRenderer = false;
 
+  // The height of texts in pixels. They are set in the desktop's own family.
+  Int32 TextSize = 11;
+
+  // How far texts of that size reach above their baseline.
+  Int32 TextAscent() const;
+
   Int32 Width() const { return surface_.width(); }
   Int32 Height() const { return surface_.height(); }
 
@@ -53,6 +60,9 @@ class Graphics {
 
   // A line one pixel wide, both ends included.
   void DrawLine(Int32 x1, Int32 y1, Int32 x2, Int32 y2);
+
+  // Draws a text of one line that begins at x, with its baseline at y.
+  void DrawString(const String& text, Int32 x, Int32 y);
 
   // Draws a picture at its natural size, where its mask lets it.
   void DrawPicture(const Picture& picture, Int32 x, Int32 y);

@@ -10,7 +10,8 @@ class TextLabel;
 
 enum class TextAlignment { left, centred, right };
 
-// A text that the user can't edit. A line that is too wide for the control is set narrower until it fits, down to two
+// A text that the user can't edit. A single line stands in the middle of the control's height, several begin at its
+// top. A line that is too wide for the control is set narrower until it fits, down to two
 // thirds of its width.
 class StaticText : public RectControl {
  public:

@@ -57,9 +57,10 @@ void TextLabel::fit() {
 void TextLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setPen(palette().color(isEnabled() ? QPalette::Normal : QPalette::Disabled, QPalette::WindowText));
-  const int pitch = qRound(1.2 * base_.pixelSize());
+  const QStringList lines = text().split(QLatin1Char('\n'));
+  const int pitch = lines.size() == 1 ? height() : qRound(1.2 * base_.pixelSize());
   int top = 0;
-  for (const QString& line : text().split(QLatin1Char('\n'))) {
+  for (const QString& line : lines) {
     const QRect place(0, top, width(), pitch);
     painter.drawText(place, (alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter | Qt::TextDontClip, line);
     top += pitch;

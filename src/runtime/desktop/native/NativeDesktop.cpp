@@ -8,6 +8,7 @@
 #include <utility>
 
 #include <QApplication>
+#include <QColorDialog>
 #include <QMessageBox>
 #include <QMetaObject>
 #include <QPointer>
@@ -95,6 +96,7 @@ class NativeDesktop final : public Desktop {
   }
 
   void messageBox(const std::string& text) override;
+  std::optional<std::uint32_t> selectColor(std::uint32_t initial, const std::string& prompt) override;
 
  private:
   std::unique_ptr<ScreenReader> reader_;
@@ -118,6 +120,16 @@ void NativeDesktop::messageBox(const std::string& text) {
   box->setStandardButtons(QMessageBox::Ok);
   box->exec();
   if (box) box->deleteLater();
+}
+
+std::optional<std::uint32_t> NativeDesktop::selectColor(std::uint32_t initial, const std::string& prompt) {
+  const QPointer<QColorDialog> dialog(new QColorDialog(QColor::fromRgb(initial), QApplication::activeWindow()));
+  dialog->setWindowTitle(QString::fromStdString(prompt));
+  const bool accepted = dialog->exec() == QDialog::Accepted;
+  if (!dialog) return std::nullopt;
+  dialog->deleteLater();
+  if (!accepted) return std::nullopt;
+  return dialog->selectedColor().rgb() & 0xFFFFFF;
 }
 
 }  // namespace

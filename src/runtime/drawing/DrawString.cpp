@@ -1,0 +1,26 @@
+#include <QFontMetrics>
+#include <QImage>
+#include <QPainter>
+
+#include "runtime/drawing/Graphics.h"
+#include "runtime/qt/TextLabel.h"
+
+namespace tavrelkin {
+
+Int32 Graphics::TextAscent() const {
+  return QFontMetrics(fontFor("System", TextSize, false)).ascent();
+}
+
+// Text is the one thing that the toolkit draws on our surfaces.
+void Graphics::DrawString(const String& text, Int32 x, Int32 y) {
+  if (Width() == 0 || Height() == 0) return;
+  touch();
+  QImage image(reinterpret_cast<uchar*>(surface_.row(0)), Width(), Height(),
+               Width() * static_cast<int>(sizeof(std::uint32_t)), QImage::Format_RGB32);
+  QPainter painter(&image);
+  painter.setFont(fontFor("System", TextSize, false));
+  painter.setPen(QColor::fromRgb(ForeColor.bits));
+  painter.drawText(x, y, QString::fromStdString(text));
+}
+
+}  // namespace tavrelkin

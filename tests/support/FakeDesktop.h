@@ -1,0 +1,71 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "runtime/desktop/Desktop.h"
+
+namespace tavrelkin {
+
+// A desktop that a test plays: the screen is a function of the place, the pointer and the clock stand where the test
+// puts them, and messages are recorded in place of being shown.
+class FakeDesktop : public Desktop {
+ public:
+  FakeDesktop() = default;
+
+  // What the test plays.
+  std::function<std::uint32_t(ScreenPoint)> screen = [](ScreenPoint) { return 0u; };
+  ScreenPoint pointerAt;
+  bool optionHeld = false;
+  bool readable = true;
+  // What the user does in the colour dialog, given the colour that it begins at: nothing is giving up.
+  std::function<std::optional<std::uint32_t>(std::uint32_t)> colourChoice = [](std::uint32_t) { return std::nullopt; };
+  std::chrono::nanoseconds frame{std::chrono::milliseconds(16)};
+
+  // What the program did.
+  std::vector<std::string> messages;
+  std::vector<ScreenPoint> pixelsRead;
+  std::vector<std::string> colourPrompts;
+  int turns = 0;
+  bool watchesPointer() const { return static_cast<bool>(moved_); }
+
+  // Moves the pointer, and tells whoever watches it.
+  void movePointer(ScreenPoint to);
+
+  // Lets time go by, ringing each alarm at its time. With no time, what is due now rings, once each.
+  void advance(std::chrono::nanoseconds by);
+
+  // The time until the next alarm, or none.
+  std::optional<std::chrono::nanoseconds> nextAlarm() const;
+
+  bool canReadScreen() const override { return readable; }
+  std::string whyNoScreen() const override { return readable ? "" : "The screen can't be read here."; }
+  void beginTurn() override { ++turns; }
+  std::uint32_t pixel(ScreenPoint at) override;
+  ScreenPoint pointer() override { return pointerAt; }
+  void watchPointer(std::function<void()> moved) override { moved_ = std::move(moved); }
+  bool optionKey() override { return optionHeld; }
+  TimePoint now() const override { return now_ += costOfLook; }
+  std::chrono::nanoseconds frameInterval() const override { return frame; }
+  std::unique_ptr<Alarm> newAlarm(std::function<void()> ring) override;
+  void messageBox(const std::string& text) override { messages.push_back(text); }
+  std::optional<std::uint32_t> selectColor(std::uint32_t initial, const std::string& prompt) override;
+
+  // Has each look at the clock take some time, for code that works until its time is over.
+  std::chrono::nanoseconds costOfLook{0};
+
+ private:
+  class FakeAlarm;
+
+  FakeAlarm* next(TimePoint until) const;
+
+  mutable TimePoint now_{std::chrono::seconds(1000)};
+  std::function<void()> moved_;
+  std::vector<FakeAlarm*> alarms_;
+};
+
+}  // namespace tavrelkin
