@@ -3,10 +3,16 @@
 #include <utility>
 
 #include "color/zrColorLib.h"
+#include "controls/ColourDrag.h"
+#include "runtime/system/Keyboard.h"
 
 namespace tavrelkin {
 
 zrColorBox::zrColorBox(Window& owner, String name) : Canvas(owner, std::move(name)) {}
+
+void zrColorBox::Event_Open() {
+  ColourDrag::accept(*this);
+}
 
 void zrColorBox::SetValue(Color c) {
   Value = c;
@@ -29,11 +35,26 @@ void zrColorBox::Event_Paint(tavrelkin::Graphics&) {
 }
 
 bool zrColorBox::Event_MouseDown(Int32, Int32) {
+  IsDrag = false;
   return true;
 }
 
+void zrColorBox::Event_MouseDrag(Int32 x, Int32 y) {
+  if (IsDrag || !Keyboard::AsyncOptionKey()) return;
+  IsDrag = true;
+  ColourDrag::begin(*this, Value, x, y);
+}
+
 void zrColorBox::Event_MouseUp(Int32 x, Int32 y) {
+  if (std::exchange(IsDrag, false)) return;
   if (0 < x && x < Width && 0 < y && y < Height) Action();
+}
+
+void zrColorBox::Event_DropObject(const Ref<DragItem>& item, Int32) {
+  Color c;
+  if (!ColourDrag::take(item, c) || !ColorDrop(c)) return;
+  SetValue(c);
+  ColorChanged();
 }
 
 }  // namespace tavrelkin

@@ -5,27 +5,36 @@
 
 namespace tavrelkin {
 
-// A framed rectangle filled with one colour, which can be clicked.
+// A framed rectangle filled with one colour. It can be clicked, dragged away with the Option key held, and can take a
+// dropped colour if its host agrees. What a click means is the host's affair.
 class zrColorBox : public Canvas {
  public:
   zrColorBox(Window& owner, String name);
 
   // The colour shown.
   Color Value;
-  // As a window's design states it; nothing depends on it.
+  // From the start of a drag until the next press or release.
+  bool IsDrag = false;
+  // As a window's design states it; the Option key alone decides.
   bool optionAllowDrag = false;
-
-  // Shows a colour and tells it in the help tag. Raises nothing.
-  void SetValue(Color c);
-
-  void DrawBox();
 
   // A click inside the box. The first row and column don't count.
   Event<void()> Action;
+  // A colour is about to be taken by drop: true takes it. Without a handler every drop is refused.
+  Event<bool(Color)> ColorDrop;
+  // A drop has changed Value.
+  Event<void()> ColorChanged;
 
-  void Event_Paint(tavrelkin::Graphics& g) override;
-  bool Event_MouseDown(Int32 x, Int32 y) override;
+  void Event_DropObject(const Ref<DragItem>& item, Int32 action) override;
+  void Event_Open() override;
+  void Event_MouseDrag(Int32 x, Int32 y) override;
   void Event_MouseUp(Int32 x, Int32 y) override;
+  bool Event_MouseDown(Int32 x, Int32 y) override;
+  void Event_Paint(tavrelkin::Graphics& g) override;
+
+  // Shows a colour and tells it in the help tag. Raises nothing.
+  void SetValue(Color c);
+  void DrawBox();
 };
 
 }  // namespace tavrelkin

@@ -1,25 +1,82 @@
+// How the button behaves; its looks are in zrColorButton_painting.cpp.
+
 #include "controls/zrColorButton.h"
 
 #include <utility>
 
+#include "controls/ColourDrag.h"
+#include "runtime/gui/SelectColor.h"
+#include "runtime/system/Keyboard.h"
+
 namespace tavrelkin {
 
 zrColorButton::zrColorButton(Window& owner, String name) : Canvas(owner, std::move(name)) {}
+
+void zrColorButton::Event_Open() {
+  propFrameColor = Color{0x909090};
+  propColorBoxWidth = 15;
+  propColorFormat = 3;
+  propColorSelectionPrompt = "Select Color";
+  ColourDrag::accept(*this);
+  Open();
+}
 
 void zrColorButton::SetValue(Color c) {
   Value = c;
   drawColor(Graphics());
 }
 
-void zrColorButton::Event_Paint(tavrelkin::Graphics& g) {
-  drawColor(g);
+void zrColorButton::setColorFormat(Int32 format) {
+  propColorFormat = format;
+  drawValue();
 }
 
-void zrColorButton::drawColor(tavrelkin::Graphics& g) const {
-  g.ForeColor = Value;
-  g.FillRect(0, 0, g.Width(), g.Height());
-  g.ForeColor = propFrameColor;
-  g.DrawRect(0, 0, g.Width(), g.Height());
+void zrColorButton::Event_MouseEnter() {
+  if (!Enabled) return;
+  State = 1;
+  drawBevel(Graphics());
+}
+
+void zrColorButton::Event_MouseExit() {
+  const Int32 before = std::exchange(State, 0);
+  if (before == 0) return;
+  drawBevel(Graphics());
+  if (before == 2 || before == 3) Action();
+}
+
+bool zrColorButton::Event_MouseDown(Int32, Int32) {
+  IsDrag = false;
+  return true;
+}
+
+void zrColorButton::Event_MouseDrag(Int32 x, Int32 y) {
+  if (IsDrag || !Keyboard::AsyncOptionKey()) return;
+  IsDrag = true;
+  ColourDrag::begin(*this, Value, x, y);
+}
+
+// Only the swatch and its frame count.
+void zrColorButton::Event_MouseUp(Int32 x, Int32 y) {
+  if (std::exchange(IsDrag, false)) return;
+  if (x < 2 || x > toInt32(swatchWidth(Width) + 2.0) || y < 2 || y > Height - 4) return;
+  if (BeforeSelectColor()) {
+    Action();
+  } else {
+    intSelectColor();
+  }
+}
+
+void zrColorButton::intSelectColor() {
+  Color c = Value;
+  if (SelectColor(c, propColorSelectionPrompt)) SetValue(c);
+  Action();
+}
+
+void zrColorButton::Event_DropObject(const Ref<DragItem>& item, Int32) {
+  Color c;
+  if (!ColourDrag::take(item, c)) return;
+  SetValue(c);
+  Change();
 }
 
 }  // namespace tavrelkin

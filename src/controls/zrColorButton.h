@@ -1,30 +1,77 @@
 #pragma once
 
 #include "runtime/base/Event.h"
+#include "runtime/drawing/Picture.h"
 #include "runtime/gui/Canvas.h"
 
 namespace tavrelkin {
 
-// Shows the colour that a window works with.
+// A colour as a small swatch with its numbers beside it. A click on the swatch opens the desktop's colour dialog; a
+// drag with the Option key held carries the colour away, and a dropped one replaces it.
 class zrColorButton : public Canvas {
  public:
   zrColorButton(Window& owner, String name);
 
   // The colour shown.
   Color Value;
-  Color propFrameColor{0x909090};
+  String Label;
+  Int32 ButtonOffsetX = 0;
+  Int32 wBuff = 0;
+  Int32 hBuff = 0;
+  Int32 tw = 0;
+  // 0 with the pointer outside, 1 with the pointer inside.
+  Int32 State = 0;
+  // A picture beside the swatch, or nil.
+  Ref<Picture> Icon;
+  Color propFrameColor;
+  // The swatch's width in percent of the control's. This and the next two are set at opening.
+  Int32 propColorBoxWidth = 0;
+  // Which numbers are shown: 1 hue, saturation and value, 2 cyan, magenta and yellow, each in percent, 3 hexadecimal,
+  // any other red, green and blue.
+  Int32 propColorFormat = 0;
+  // The title of the colour dialog.
+  String propColorSelectionPrompt;
+  // From the start of a drag until the next press or release.
+  bool IsDrag = false;
+
+  // A click on the swatch is over, with or without a dialog, whatever the user did in it.
+  Event<void()> Action;
+  // A click on the swatch, ahead of the dialog: true skips it.
+  Event<bool()> BeforeSelectColor;
+  Event<bool()> ShowCMM;
+  // A drop has changed Value.
+  Event<void()> Change;
+
+  void Event_DropObject(const Ref<DragItem>& item, Int32 action) override;
+  void Event_MouseEnter() override;
+  void Event_MouseExit() override;
+  void Event_MouseUp(Int32 x, Int32 y) override;
+  bool Event_MouseDown(Int32 x, Int32 y) override;
+  void Event_Open() override;
+  void Event_Paint(tavrelkin::Graphics& g) override;
+  void Event_MouseDrag(Int32 x, Int32 y) override;
 
   // Shows a colour. Raises nothing.
   void SetValue(Color c);
+  // Paints a square button edge of 22 pixels and the swatch.
+  void DrawMainBTTN(tavrelkin::Graphics& g, bool pressed);
+  // Chooses the numbers; see propColorFormat.
+  void setColorFormat(Int32 format);
 
-  // Asked ahead of the colour dialog: true skips it.
-  Event<bool()> BeforeSelectColor;
-  Event<bool()> ShowCMM;
+ protected:
+  bool depressed = false;
 
-  void Event_Paint(tavrelkin::Graphics& g) override;
+  void drawBevel(tavrelkin::Graphics& g);
+  void drawColor(tavrelkin::Graphics& g);
+  // A hook without a use.
+  void showColorPal() {}
+  void drawValue();
+  String intGetHexValue() const;
+  void intSelectColor();
 
  private:
-  void drawColor(tavrelkin::Graphics& g) const;
+  Double swatchWidth(Int32 width) const { return width * (propColorBoxWidth / 100.0); }
+  String valueText() const;
 };
 
 }  // namespace tavrelkin

@@ -1,39 +1,19 @@
+// How the bar behaves; its looks are in zrColorCHBar_painting.cpp.
+
 #include "controls/zrColorCHBar.h"
 
-#include <array>
-#include <cstddef>
+#include <algorithm>
 #include <utility>
+
+#include "controls/BarPosition.h"
+#include "controls/ColorChannel.h"
+#include "controls/ColourDrag.h"
 
 namespace tavrelkin {
 
 namespace {
 
-struct Channel {
-  const char* word;
-  Int32 (*read)(Color);
-};
-
-template <Double (*reader)(Color)>
-Int32 asByte(Color c) {
-  return toInt32(255.0 * reader(c));
-}
-
-constexpr std::array kChannels{
-    Channel{"Red", [](Color c) { return c.red(); }},
-    Channel{"Green", [](Color c) { return c.green(); }},
-    Channel{"Blue", [](Color c) { return c.blue(); }},
-    Channel{"Hue", asByte<readColorHue>},
-    Channel{"Saturation", asByte<readColorSaturation>},
-    Channel{"Luminosity", asByte<readColorValue>},
-    Channel{"Cyan", asByte<readColorCyan>},
-    Channel{"Magenta", asByte<readColorMagenta>},
-    Channel{"Yellow", asByte<readColorYellow>},
-};
-
-const Channel* channelAt(Int32 number) {
-  const auto index = static_cast<std::size_t>(number);
-  return index < kChannels.size() ? &kChannels[index] : nullptr;
-}
+constexpr Int32 kWebSafeStep = 51;
 
 }  // namespace
 
@@ -45,42 +25,91 @@ void zrColorCHBar::Event_Open() {
   Minimum = 0;
   Maximum = 255;
   Value = 0;
+  Lastx = 6;
   propColorChannel = SetColorChannel();
+  ColourDrag::accept(*this);
 }
 
 void zrColorCHBar::SetBaseColor(Color c) {
   propBaseColor = c;
-  SetValue(channelOf(c));
+  Value = readChannel(propColorChannel, c);
+  SetValue(Value);
 }
 
 void zrColorCHBar::SetValue(Int32 v) {
+  Lastx = BarPosition::ofValue(v, Maximum, Width);
   Value = v;
   intSetTooltip();
   Update();
 }
 
-Int32 zrColorCHBar::channelOf(Color c) const {
-  const Channel* channel = channelAt(propColorChannel);
-  return channel ? channel->read(c) : Value;
-}
-
-// The help tag: a number for red, green and blue, a percentage of three digits for the others.
-void zrColorCHBar::intSetTooltip() {
-  const Channel* channel = channelAt(propColorChannel);
-  const String word = channel ? channel->word : "";
-  HelpTag = word + " " + (propColorChannel <= 2 ? Str(Value) : Format(Value / 255.0 * 100.0, "000"));
-}
-
-void zrColorCHBar::Update() {
-  auto& g = Graphics();
-  g.ForeColor = propBaseColor;
-  g.FillRect(0, 0, g.Width(), g.Height());
-  g.ForeColor = Color{0x949494};
-  g.DrawRect(0, 0, g.Width(), g.Height());
-}
-
-void zrColorCHBar::Event_Paint(tavrelkin::Graphics&) {
+void zrColorCHBar::CopyChannel(Color c) {
+  Value = readChannel(propColorChannel, c);
+  intRecreateColor();
+  intSetTooltip();
+  Lastx = BarPosition::ofKeyedValue(Value, Maximum, Width);
   Update();
+  Action();
+}
+
+void zrColorCHBar::intRecreateColor() {
+  propBaseColor = withChannel(propColorChannel, propBaseColor, Value);
+}
+
+// A number for red, green and blue, a percentage of three digits for the others.
+void zrColorCHBar::intSetTooltip() {
+  const String number = propColorChannel <= 2 ? Str(Value) : Format(Value / 255.0 * 100.0, "000");
+  HelpTag = channelWord(propColorChannel) + " " + number;
+}
+
+// The hand has to take the indicator; a press elsewhere only brings the keyboard here.
+bool zrColorCHBar::Event_MouseDown(Int32 x, Int32 y) {
+  SetFocus();
+  return Abs(x - Lastx) <= 3.0 && y >= 1 && y <= Height - 1;
+}
+
+void zrColorCHBar::Event_MouseDrag(Int32 x, Int32 y) {
+  DoMouseDrag(x, y);
+}
+
+// While the pointer is above or below the bar, the value stands still.
+void zrColorCHBar::DoMouseDrag(Int32 x, Int32 y) {
+  if (y < 1 || y > Height - 1) return;
+  const Int32 at = std::max(std::min(x, BarPosition::last(Width)), BarPosition::kFirst);
+  Value = BarPosition::valueAt(at, Maximum, Width);
+  if (at != Lastx) {
+    DrawValue();
+    DrawArrow(at);
+    intSetTooltip();
+    ValueChanging();
+  }
+  Lastx = at;
+}
+
+void zrColorCHBar::Event_MouseUp(Int32, Int32) {
+  if (WebSafe && Value % kWebSafeStep != 0) SetValue(Value / kWebSafeStep * kWebSafeStep);
+  intRecreateColor();
+  Action();
+}
+
+bool zrColorCHBar::Event_KeyDown(const String& key) {
+  if (key == kRightArrow) {
+    if (Value < Maximum) ++Value;
+  } else if (key == kLeftArrow) {
+    if (Value >= 1) --Value;
+  }
+  const Int32 position = BarPosition::ofKeyedValue(Value, Maximum, Width);
+  intSetTooltip();
+  intRecreateColor();
+  Lastx = position;
+  Update();
+  Change();
+  return false;
+}
+
+void zrColorCHBar::Event_DropObject(const Ref<DragItem>& item, Int32) {
+  Color c;
+  if (ColourDrag::take(item, c)) CopyChannel(c);
 }
 
 }  // namespace tavrelkin

@@ -5,7 +5,8 @@
 
 namespace tavrelkin {
 
-// A bar for one channel of a colour. Each bar has its own copy of the colour; the host keeps them in step.
+// A horizontal slider that edits one channel of one colour, and shows what the colour would be at each value of it.
+// Each bar has its own copy of the colour; the host keeps them in step.
 class zrColorCHBar : public Canvas {
  public:
   zrColorCHBar(Window& owner, String name, Int32 index = 0);
@@ -14,35 +15,52 @@ class zrColorCHBar : public Canvas {
   Int32 Minimum = 0;
   // The channel's value, 0 to 255 for every channel.
   Int32 Value = 0;
+  Int32 ColorChannel = 0;
+  // The column of the indicator's centre.
+  Int32 Lastx = 6;
+  Int32 arrowLastX = 0;
   // The colour that the bar edits.
   Color propBaseColor;
+  // Whether letting go of the indicator takes the value down to a multiple of 51.
   bool WebSafe = false;
-  // 0 red, 1 green, 2 blue, 3 hue, 4 saturation, 5 value ("Luminosity"), 6 cyan, 7 magenta, 8 yellow.
+  // The number of the channel; see ColorChannel.h.
   Int32 propColorChannel = 0;
+
+  // A finished change, by mouse or drop; propBaseColor is up to date.
+  Event<void()> Action;
+  // Asked once, at opening: the number of the channel.
+  Event<Int32()> SetColorChannel;
+  // A key was pressed; propBaseColor is up to date.
+  Event<void()> Change;
+  // A new value during a drag. HelpTag and Value tell it, propBaseColor does not yet.
+  Event<void()> ValueChanging;
+
+  void Event_DropObject(const Ref<DragItem>& item, Int32 action) override;
+  bool Event_KeyDown(const String& key) override;
+  void Event_MouseUp(Int32 x, Int32 y) override;
+  bool Event_MouseDown(Int32 x, Int32 y) override;
+  void Event_MouseDrag(Int32 x, Int32 y) override;
+  void Event_Paint(tavrelkin::Graphics& g) override;
+  void Event_Open() override;
+
+  void DrawBorder();
+  // The strip and the border around it.
+  void DrawValue();
+  // The indicator, centred on column x.
+  void DrawArrow(Int32 x);
+  void DoMouseDrag(Int32 x, Int32 y);
 
   // Pushes a colour into the bar. Raises nothing.
   void SetBaseColor(Color c);
-
-  // Shows a value of the channel, without a look at its range. Raises nothing and leaves propBaseColor alone.
-  void SetValue(Int32 v);
-
   // Paints the bar anew.
   void Update();
-
-  // A finished change, by mouse or drop, and a change by key: propBaseColor is up to date.
-  Event<void()> Action;
-  Event<void()> Change;
-  // A new value during a drag: only HelpTag tells it yet.
-  Event<void()> ValueChanging;
-  // Asked once, at opening: the number of the channel.
-  Event<Int32()> SetColorChannel;
-
-  void Event_Open() override;
-  void Event_Paint(tavrelkin::Graphics& g) override;
-
- private:
-  Int32 channelOf(Color c) const;
+  // Moves the indicator to a value, without a look at its range. Raises nothing and leaves propBaseColor alone.
+  void SetValue(Int32 v);
   void intSetTooltip();
+  // Puts the value into propBaseColor.
+  void intRecreateColor();
+  // Takes only this bar's channel from a colour into propBaseColor, and raises Action.
+  void CopyChannel(Color c);
 };
 
 }  // namespace tavrelkin

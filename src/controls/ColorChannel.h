@@ -1,0 +1,34 @@
+#pragma once
+
+#include "runtime/drawing/Color.h"
+#include "runtime/text/Text.h"
+
+namespace tavrelkin {
+
+// The channels that a bar can edit, by number: 0 red, 1 green, 2 blue, 3 hue, 4 saturation, 5 value, 6 cyan, 7 magenta,
+// 8 yellow. The value of each is 0 to 255. A number outside of these is no channel: it has no word, reads 0 and changes
+// nothing.
+
+// The word that names a channel to the user. Channel 5 is called "Luminosity".
+String channelWord(Int32 channel);
+
+// A channel's value in a colour.
+Int32 readChannel(Int32 channel, Color c);
+
+// A colour with one channel replaced. Cyan, magenta and yellow are for reading only: the colour comes back as it is.
+Color withChannel(Int32 channel, Color c, Int32 value);
+
+// The ramp of a channel: the colours that a base colour has at each value of it. All parts of the base, those that do
+// not vary too, have gone through bytes in the channel's own colour space.
+class ChannelRamp {
+ public:
+  ChannelRamp(Int32 channel, Color base);
+
+  Color at(Int32 value) const;
+
+ private:
+  Int32 channel_;
+  Int32 parts_[3];
+};
+
+}  // namespace tavrelkin

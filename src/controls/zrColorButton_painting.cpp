@@ -1,0 +1,91 @@
+// How the button looks.
+
+#include "controls/zrColorButton.h"
+#include "runtime/gui/ThemeColors.h"
+
+namespace tavrelkin {
+
+namespace {
+
+Color between(Color a, Color b) {
+  return RGB((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
+}
+
+String percent(Double share) {
+  return Format(share * 100.0, "000");
+}
+
+}  // namespace
+
+void zrColorButton::Event_Paint(tavrelkin::Graphics& g) {
+  drawBevel(g);
+}
+
+void zrColorButton::drawBevel(tavrelkin::Graphics& g) {
+  g.ForeColor = kWhite;
+  g.FillRect(0, 0, g.Width(), g.Height());
+  g.ForeColor = propFrameColor;
+  g.DrawRect(0, 0, g.Width(), g.Height());
+  if (Icon) g.DrawPicture(*Icon, 3, 2);
+  g.ForeColor = Enabled ? kBlack : DarkBevelColor();
+  g.DrawLine(25, 11, 30, 11);
+  g.DrawLine(26, 12, 29, 12);
+  g.DrawLine(27, 13, 28, 13);
+  drawColor(g);
+}
+
+void zrColorButton::drawColor(tavrelkin::Graphics& g) {
+  const Int32 width = toInt32(swatchWidth(g.Width()));
+  g.ForeColor = Enabled ? Value : between(Value, FillColor());
+  g.FillRect(2, 2, width, g.Height() - 4);
+  g.ForeColor = propFrameColor;
+  g.DrawRect(2, 2, width, g.Height() - 4);
+  drawValue();
+}
+
+void zrColorButton::drawValue() {
+  auto& g = Graphics();
+  const Int32 x = toInt32(swatchWidth(g.Width()) + 6.0);
+  g.ForeColor = kWhite;
+  g.FillRect(x, 2, g.Width() - 2 - x, g.Height() - 4);
+  g.ForeColor = Enabled ? TextColor() : DarkBevelColor();
+  g.DrawString(valueText(), x + 2, 2 + g.TextAscent());
+}
+
+String zrColorButton::valueText() const {
+  switch (propColorFormat) {
+    case 1:
+      return percent(readColorHue(Value)) + "." + percent(readColorSaturation(Value)) + "." +
+             percent(readColorValue(Value));
+    case 2:
+      return percent(readColorCyan(Value)) + "." + percent(readColorMagenta(Value)) + "." +
+             percent(readColorYellow(Value));
+    case 3:
+      return "#" + intGetHexValue();
+    default:
+      return Str(Value.red()) + "." + Str(Value.green()) + "." + Str(Value.blue());
+  }
+}
+
+String zrColorButton::intGetHexValue() const {
+  String digits;
+  for (const Int32 channel : {Value.red(), Value.green(), Value.blue()}) {
+    const String number = Hex(channel);
+    digits += Len(number) < 2 ? "0" + number : number;
+  }
+  return Uppercase(digits);
+}
+
+void zrColorButton::DrawMainBTTN(tavrelkin::Graphics& g, bool pressed) {
+  const Color upper = pressed ? DarkTingeColor() : LightTingeColor();
+  const Color lower = pressed ? LightTingeColor() : DarkTingeColor();
+  g.ForeColor = upper;
+  g.DrawLine(1, 1, 1, 22);
+  g.DrawLine(1, 1, 22, 1);
+  g.ForeColor = lower;
+  g.DrawLine(22, 1, 22, 22);
+  g.DrawLine(1, 22, 22, 22);
+  drawColor(g);
+}
+
+}  // namespace tavrelkin
