@@ -1,5 +1,7 @@
 // What the preview shows: the screen, or one of three views in its place.
 
+#include "toolwindow/ColourCells.h"
+#include "toolwindow/Suggestions.h"
 #include "toolwindow/frmVesk.h"
 
 namespace tavrelkin {
@@ -49,8 +51,11 @@ void frmVesk::leaveColourViews() {
   menuItem("mnuShowColors").Checked = false;
 }
 
-// The views themselves are still to come; until then each leaves the canvas as the erase has left it.
-void frmVesk::drawSuggestions(Graphics*) {}
+void frmVesk::drawSuggestions(Graphics* g) {
+  if (g) drawCells(*g, suggestionsFor(SelectedColor));
+}
+
+// These are still to come; until then each leaves the canvas as the erase has left it.
 
 void frmVesk::drawColorsInScreen(Graphics*) {}
 
