@@ -1,0 +1,87 @@
+#!/usr/bin/env bash
+# Runs every check that is not a test and prints OK or FAIL for each, with what was found; fails if one fails.
+set -euo pipefail
+root=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
+# shellcheck source=scripts/packages.sh
+source "$root/scripts/packages.sh"
+# shellcheck source=scripts/build.sh
+source "$root/scripts/build.sh"
+cd -- "$root"
+
+# Headers that other layers never see, and that may therefore name the libraries beneath.
+private_headers='^src/runtime/(qt|desktop/native|desktop/x11)/|_p\.h$'
+# The folders of those libraries' headers.
+private_libraries='/(qt6|boost|xcb|X11)/'
+
+# Prints the files of the work tree that match the patterns, each with a zero byte behind it: those that git knows, and
+# new ones.
+files() {
+  local file
+  git ls-files -z --cached --others --exclude-standard -- "$@" | while IFS= read -r -d '' file; do
+    [[ ! -e $file ]] || printf '%s\0' "$file"
+  done
+}
+
+check_build() {
+  configure release -DTAVRELKIN_TESTS=ON
+  cmake --build build/release
+}
+
+check_format() { files '*.cpp' '*.h' | xargs -0 --no-run-if-empty clang-format --dry-run --Werror; }
+
+check_tidy() {
+  local here
+  # shellcheck disable=SC2001  # The replacement names what was found, which ${root//} can't.
+  here=$(sed 's/[][\\.*^$+?(){}|]/\\&/g' <<<"$root")
+  run-clang-tidy -p build/release -j "$(nproc)" -quiet "^$here/(src|tests)/" 2>&1 |
+    sed -e 's/\x1b\[[0-9;]*m//g' -e '/^clang-tidy/d' -e '/warnings\? .*generated/d'
+}
+
+check_scripts() { files '*.sh' .ci/run | xargs -0 shellcheck --external-sources; }
+
+# check_header HEADER: whether it compiles with nothing before it and, unless it is private, reaches none of the private
+# libraries, not even through another header.
+check_header() {
+  local header=$1 dependencies reached
+  local -a flags
+  read -ra flags <<<"$(pkg-config --cflags Qt6Widgets xcb)"
+  dependencies=$(g++ -std=c++20 -fPIC -Wall -Wextra -Werror "${flags[@]}" -I src -fsyntax-only -MD -MF /dev/stdout \
+    -x c++ - <<<"#include \"${header#src/}\"") || return 1
+  [[ ! $header =~ $private_headers ]] || return 0
+  reached=$(grep -oE "[^ ]*${private_libraries}[^ ]*" <<<"$dependencies" | head -n 1 || true)
+  [[ -n $reached ]] || return 0
+  echo "$header is public, but reaches $reached"
+  return 1
+}
+
+check_headers() {
+  export -f check_header
+  export private_headers private_libraries
+  # shellcheck disable=SC2016  # It is the inner shell that expands this.
+  files 'src/*.h' | xargs -0 --no-run-if-empty -n 1 -P "$(nproc)" bash -c 'check_header "$1"' check_header
+}
+
+failures=0
+# check NAME FUNCTION: the function runs in a shell of its own, for `set -e` is off inside a condition.
+check() {
+  local output status=0
+  set +e
+  output=$(set -e; "$2" 2>&1)
+  status=$?
+  set -e
+  if ((status == 0)); then
+    echo "OK    $1"
+    return
+  fi
+  failures=$((failures + 1))
+  echo "FAIL  $1"
+  printf '%s\n' "$output"
+}
+
+require_packages build run test check
+check "build without warnings" check_build
+check "format (clang-format)" check_format
+check "headers compile alone; public ones hide the libraries" check_headers
+check "scripts (shellcheck)" check_scripts
+check "code (clang-tidy)" check_tidy
+((failures == 0))

@@ -1,0 +1,68 @@
+# shellcheck shell=bash
+# The Debian 12 packages that each purpose needs, and their installation. Sourced by the scripts in the root.
+
+packages_for() {
+  case $1 in
+    build)
+      echo cmake g++ libboost-context-dev libxcb-shm0-dev libxcb-xinput-dev libxcb1-dev ninja-build pkgconf qt6-base-dev
+      ;;
+    run) echo fonts-dejavu-core ;;
+    wayland) echo qt6-wayland ;;
+    display) echo imagemagick openbox x11-utils x11-xserver-utils xvfb ;;
+    test) echo libgmock-dev libgtest-dev libxcb-randr0-dev libxcb-xtest0-dev openbox x11-utils xclip xvfb ;;
+    bench) echo libbenchmark-dev ;;
+    check) echo clang-format clang-tidy git shellcheck ;;
+    *) echo "packages_for: no purpose is called '$1'" >&2; return 2 ;;
+  esac
+}
+
+# Prints those of the given packages that are not installed, one a line.
+missing_packages() {
+  local package status installed=" "
+  while read -r package status; do
+    [[ $status != installed ]] || installed+="$package "
+  done < <(dpkg-query --show --showformat='${Package} ${db:Status-Status}\n' "$@" 2>/dev/null)
+  for package in "$@"; do
+    [[ $installed == *" $package "* ]] || printf '%s\n' "$package"
+  done
+}
+
+# Runs apt-get with the given arguments as root, asking nothing. Only sudo may want its password, and only at a
+# terminal.
+apt_get() {
+  local -a as_root=()
+  if ((EUID != 0)); then
+    if ! command -v sudo >/dev/null; then
+      echo "Installing packages takes root rights, and there is no sudo here." >&2
+      return 1
+    fi
+    as_root=(sudo)
+    [[ -t 0 && -t 2 ]] || as_root=(sudo -n)
+  fi
+  "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get -q -o DPkg::Lock::Timeout=120 \
+    -o Dpkg::Use-Pty=0 "$@" </dev/null
+}
+
+# Installs what is missing of the packages for the given purposes; with nothing missing it says and does nothing.
+require_packages() {
+  local purpose
+  local -a wanted=() more missing
+  for purpose in "$@"; do
+    read -ra more <<<"$(packages_for "$purpose")"
+    wanted+=("${more[@]}")
+  done
+  if ! command -v dpkg-query >/dev/null; then
+    echo "This is no Debian system: what the Debian packages ${wanted[*]} hold must be installed by hand." >&2
+    return 0
+  fi
+  mapfile -t missing < <(missing_packages "${wanted[@]}" | sort -u)
+  ((${#missing[@]} > 0)) || return 0
+
+  echo "Installing ${missing[*]}"
+  local -a install=(install --yes --no-install-recommends "${missing[@]}")
+  # The lists are fetched only where they are absent, or so old that the packages they name are gone.
+  if apt-cache show --no-all-versions "${missing[@]}" &>/dev/null && apt_get "${install[@]}"; then return 0; fi
+  if apt_get update && apt_get "${install[@]}"; then return 0; fi
+  echo "Could not install what is missing. As root, run: apt-get ${install[*]}" >&2
+  return 1
+}

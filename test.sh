@@ -1,0 +1,26 @@
+#!/usr/bin/env bash
+# Builds everything twice, as users run it and under the sanitizers, and runs all tests; installs what that takes.
+# Fails if anything fails; the last lines are the count of tests and failures.
+set -euo pipefail
+root=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
+# shellcheck source=scripts/packages.sh
+source "$root/scripts/packages.sh"
+# shellcheck source=scripts/build.sh
+source "$root/scripts/build.sh"
+
+# Nothing of the desktop that this runs on may matter, or be touched.
+export LANG=C.UTF-8 LC_ALL=C.UTF-8 DBUS_SESSION_BUS_ADDRESS=disabled:
+unset DISPLAY WAYLAND_DISPLAY XAUTHORITY LANGUAGE "${!QT_@}"
+export XDG_RUNTIME_DIR="$root/build/runtime" UBSAN_OPTIONS=print_stacktrace=1
+
+require_packages build run test
+mkdir -p -- "$XDG_RUNTIME_DIR"
+chmod 700 -- "$XDG_RUNTIME_DIR"
+for preset in release sanitized; do
+  configure "$preset" -DTAVRELKIN_TESTS=ON
+  cmake --build "$root/build/$preset"
+done
+
+# One run over both builds, so that one count says it all.
+echo 'subdirs("release" "sanitized")' >"$root/build/CTestTestfile.cmake"
+exec ctest --test-dir "$root/build" --output-on-failure --no-tests=error --timeout 300 --parallel "$(nproc)"
