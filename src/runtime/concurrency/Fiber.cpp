@@ -79,7 +79,8 @@ Fiber::Fiber(std::function<void()> body, std::size_t stackSize) : state_(std::ma
 
 Fiber::~Fiber() {
   assert(State::running != state_.get());
-  if (!finished()) kill();
+  state_->killed = true;
+  resume();
 }
 
 bool Fiber::finished() const {

@@ -16,7 +16,7 @@ class MenuHandlers {
   // Registers a handler, once for each name.
   void add(const String& itemName, Handler handler) { handlers_.emplace(itemName, std::move(handler)); }
 
-  bool has(const String& itemName) const { return handlers_.count(itemName) != 0; }
+  bool has(const String& itemName) const { return handlers_.contains(itemName); }
 
   // Runs the handler of that name. False where there is none, or where it says so.
   bool run(const String& itemName) const {

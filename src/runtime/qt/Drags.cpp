@@ -53,7 +53,7 @@ std::unique_ptr<QMimeData> toMime(const DragItem& item) {
 }
 
 Ref<DragItem> fromMime(const QMimeData& data) {
-  const Ref<DragItem> item = New<DragItem>();
+  Ref<DragItem> item = New<DragItem>();
   const QString prefix = QLatin1String(kPrivatePrefix);
   for (const QString& format : data.formats()) {
     if (format.startsWith(prefix)) item->MacData(fromQt(format.mid(prefix.size())), data.data(format).toStdString());

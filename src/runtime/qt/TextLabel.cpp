@@ -58,11 +58,12 @@ void TextLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setPen(palette().color(isEnabled() ? QPalette::Normal : QPalette::Disabled, QPalette::WindowText));
   const QStringList lines = text().split(QLatin1Char('\n'));
+  const Qt::Alignment across = alignment() & Qt::AlignHorizontal_Mask;
   const int pitch = lines.size() == 1 ? height() : qRound(1.2 * base_.pixelSize());
   int top = 0;
   for (const QString& line : lines) {
     const QRect place(0, top, width(), pitch);
-    painter.drawText(place, (alignment() & Qt::AlignHorizontal_Mask) | Qt::AlignVCenter | Qt::TextDontClip, line);
+    painter.drawText(place, static_cast<int>(across) | Qt::AlignVCenter | Qt::TextDontClip, line);
     top += pitch;
   }
 }

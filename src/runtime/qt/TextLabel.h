@@ -16,7 +16,7 @@ class TextLabel : public QLabel {
  public:
   TextLabel();
 
-  void setLines(const QString& text);
+  void setLines(const QString& lines);
   void setBaseFont(const QFont& font);
   void setTextColor(const QColor& c);
   void align(TextAlignment where);

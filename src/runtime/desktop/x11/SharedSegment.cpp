@@ -18,7 +18,7 @@ std::unique_ptr<SharedSegment> SharedSegment::make(xcb_connection_t* connection,
 
   std::unique_ptr<SharedSegment> segment;
   void* const memory = shmat(kernelId, nullptr, 0);
-  if (memory != reinterpret_cast<void*>(-1)) {
+  if (reinterpret_cast<std::intptr_t>(memory) != -1) {
     segment.reset(new SharedSegment(connection, static_cast<std::uint8_t*>(memory)));
     if (!segment->attach(kernelId)) segment.reset();
   }
