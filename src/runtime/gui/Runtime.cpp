@@ -69,6 +69,7 @@ int Runtime::run(Ref<Application> application) {
 
 void shutDownRuntime() {
   Scheduler::shutDown();
+  forgetFault();
 }
 
 }  // namespace tavrelkin

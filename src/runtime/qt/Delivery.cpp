@@ -29,6 +29,10 @@ void reportFault(const RuntimeException& fault) {
       QCoreApplication::instance(), [what = std::string(fault.what())] { tellAndEnd(what); }, Qt::QueuedConnection);
 }
 
+void forgetFault() {
+  ending = false;
+}
+
 bool enterProgram() {
   if (ending) return false;
   desktop().beginTurn();

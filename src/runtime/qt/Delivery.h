@@ -14,6 +14,9 @@ namespace tavrelkin {
 // Tells the user about a fault of the program and ends it, in order, with exit status 1. Called once at most.
 void reportFault(const RuntimeException& fault);
 
+// The runtime has ended, and may begin anew.
+void forgetFault();
+
 // Prepares for a handler: what was read of the screen before is stale. False where the program is ending.
 bool enterProgram();
 

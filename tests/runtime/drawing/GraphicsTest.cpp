@@ -1,0 +1,126 @@
+#include <array>
+#include <limits>
+#include <random>
+
+#include <gtest/gtest.h>
+
+#include "runtime/drawing/Graphics.h"
+#include "runtime/drawing/Picture.h"
+
+namespace tavrelkin {
+namespace {
+
+constexpr Color kInk{0x123456};
+constexpr Int32 kLeast = std::numeric_limits<Int32>::min();
+constexpr Int32 kMost = std::numeric_limits<Int32>::max();
+
+int inked(const Picture& picture) {
+  int count = 0;
+  for (Int32 y = 0; y < picture.Height(); ++y) {
+    for (Int32 x = 0; x < picture.Width(); ++x) {
+      count += Color{picture.surface().row(y)[x]} == kInk;
+    }
+  }
+  return count;
+}
+
+TEST(GraphicsTest, RectanglesLieInsideTheirBoundsAndAreClippedAnywhere) {
+  const struct {
+    Int32 left, top, width, height;
+    int filled, outlined;
+  } rows[] = {
+      {2, 3, 4, 5, 20, 14},
+      {2, 3, 1, 1, 1, 1},
+      {2, 3, 0, 5, 0, 0},
+      {2, 3, 4, -1, 0, 0},
+      {-2, -2, 4, 4, 4, 3},
+      {8, 8, 10, 10, 4, 3},
+      {-5, 4, 100, 1, 10, 10},
+      {kLeast, kLeast, kMost, kMost, 0, 0},
+      {kMost, kMost, kMost, kMost, 0, 0},
+      {-1, -1, kMost, kMost, 100, 0},
+      {kLeast, 5, kMost, 1, 0, 0},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(testing::Message() << row.left << " " << row.top << " " << row.width << " " << row.height);
+    const Ref<Picture> filled = NewPicture(10, 10, 32);
+    filled->Graphics().ForeColor = kInk;
+    filled->Graphics().FillRect(row.left, row.top, row.width, row.height);
+    EXPECT_EQ(inked(*filled), row.filled);
+    const Ref<Picture> outlined = NewPicture(10, 10, 32);
+    outlined->Graphics().ForeColor = kInk;
+    outlined->Graphics().DrawRect(row.left, row.top, row.width, row.height);
+    EXPECT_EQ(inked(*outlined), row.outlined);
+  }
+}
+
+TEST(GraphicsTest, LinesIncludeBothEndsAndAreClippedAnywhere) {
+  const struct {
+    Int32 x1, y1, x2, y2;
+    int count;
+  } rows[] = {
+      {1, 2, 5, 2, 5},   {5, 2, 1, 2, 5},   {3, 9, 3, 0, 10},          {4, 4, 4, 4, 1},
+      {0, 0, 9, 9, 10},  {0, 9, 9, 0, 10},  {0, 0, 9, 4, 10},          {-5, 5, 20, 5, 10},
+      {0, -1, 9, -1, 0}, {12, 0, 12, 9, 0}, {kLeast, 3, kMost, 3, 10}, {kLeast, kLeast, kMost, kMost, 10},
+  };
+  for (const auto& row : rows) {
+    const Ref<Picture> picture = NewPicture(10, 10, 32);
+    picture->Graphics().ForeColor = kInk;
+    picture->Graphics().DrawLine(row.x1, row.y1, row.x2, row.y2);
+    EXPECT_EQ(inked(*picture), row.count) << row.x1 << " " << row.y1 << " " << row.x2 << " " << row.y2;
+  }
+}
+
+// Against the rule itself, applied to each pixel of the destination.
+TEST(GraphicsTest, ScalingShowsForEachPixelTheSourcePixelBelowIt) {
+  std::mt19937 random(1);
+  const Ref<Picture> source = NewPicture(5, 4, 32);
+  for (Int32 y = 0; y < 4; ++y) {
+    for (Int32 x = 0; x < 5; ++x)
+      source->Graphics().Pixel(x, y, RGB(x * 40, y * 50, 7));
+  }
+  const auto between = [&random](Int32 least, Int32 most) {
+    return std::uniform_int_distribution<Int32>(least, most)(random);
+  };
+  for (int round = 0; round < 500; ++round) {
+    const Int32 x = between(-6, 14), y = between(-6, 14), w = between(0, 20), h = between(0, 20);
+    const Int32 sx = between(-3, 6), sy = between(-3, 6), sw = between(0, 8), sh = between(0, 8);
+    const Ref<Picture> drawn = NewPicture(12, 12, 32);
+    drawn->Graphics().DrawPicture(*source, x, y, w, h, sx, sy, sw, sh);
+    for (Int32 py = 0; py < 12; ++py) {
+      for (Int32 px = 0; px < 12; ++px) {
+        const bool covered = px >= x && px < x + w && py >= y && py < y + h && sw > 0 && sh > 0;
+        const Int32 fromX = covered ? sx + (px - x) * sw / w : -1;
+        const Int32 fromY = covered ? sy + (py - y) * sh / h : -1;
+        const bool exists = fromX >= 0 && fromX < 5 && fromY >= 0 && fromY < 4;
+        const Color expected = exists ? source->Graphics().Pixel(fromX, fromY) : kWhite;
+        ASSERT_EQ(drawn->Graphics().Pixel(px, py), expected) << "round " << round << " at " << px << ", " << py;
+      }
+    }
+  }
+}
+
+TEST(GraphicsTest, AMaskLetsBlackThroughAndKeepsWhiteBack) {
+  const Ref<Picture> stamp = NewPicture(3, 1, 32);
+  stamp->Graphics().ForeColor = kBlack;
+  stamp->Graphics().FillRect(0, 0, 3, 1);
+  Graphics& mask = stamp->Mask(true)->Graphics();
+  mask.Pixel(1, 0, kBlack);
+  mask.Pixel(2, 0, RGB(127, 127, 127));
+  const Ref<Picture> ground = NewPicture(3, 1, 32);
+  ground->Graphics().DrawPicture(*stamp, 0, 0);
+  EXPECT_EQ(ground->Graphics().Pixel(0, 0), kWhite);
+  EXPECT_EQ(ground->Graphics().Pixel(1, 0), kBlack);
+  EXPECT_EQ(ground->Graphics().Pixel(2, 0), RGB(127, 127, 127));
+}
+
+TEST(PictureTest, IsNilForASizeOrDepthThatNoPictureHas) {
+  EXPECT_TRUE(NewPicture(32767, 1, 32));
+  for (const auto& [width, height, depth] :
+       {std::array{0, 5, 32}, {5, -1, 32}, {32768, 1, 32}, {5, 5, 31}, {kMost, kMost, 32}}) {
+    EXPECT_FALSE(NewPicture(width, height, depth)) << width << " " << height << " " << depth;
+  }
+}
+
+}  // namespace
+}  // namespace tavrelkin

@@ -1,0 +1,146 @@
+#include <string>
+
+#include "runtime/gui/Application.h"
+#include "runtime/gui/Slider.h"
+#include "runtime/gui/Window.h"
+#include "runtime/system/System.h"
+#include "support/Gestures.h"
+#include "support/RuntimeTest.h"
+
+namespace tavrelkin {
+namespace {
+
+// A window that answers the commands it is made for and writes down what happens to it.
+class Host : public Window {
+ public:
+  Host(std::string& events, std::string commandNames)
+      : Window({.title = "Host", .width = 100, .height = 100}), log(events), commands(std::move(commandNames)) {
+    MenuBar = Application::current().MenuBar;
+  }
+  void AddMenuHandlers() override {
+    for (const char each : commands) {
+      addMenuHandler(String(1, each), [this, each] {
+        log += String("window:") + each + " ";
+        return true;
+      });
+    }
+  }
+  void Event_Open() override { log += "open "; }
+  void Event_Close() override { log += "close "; }
+  void Event_Minimize() override { log += "minimise "; }
+
+  std::string& log;
+  std::string commands;
+};
+
+class Commands : public Application {
+ public:
+  explicit Commands(std::string& events) : log(events) {
+    const Ref<tavrelkin::MenuBar> bar = New<tavrelkin::MenuBar>();
+    const Ref<MenuItem> menu = New<MenuItem>("menu", "Menu");
+    menu->Append(New<MenuItem>("a", "A", "Cmd+A"));
+    menu->Append(New<MenuItem>("separator", "-"));
+    menu->Append(New<MenuItem>("b", "B", "Cmd+B"));
+    menu->Append(New<MenuItem>("c", "C", "Cmd+B"));
+    bar->Append(menu);
+    MenuBar = bar;
+  }
+  void AddMenuHandlers() override {
+    addMenuHandler("a", [this] {
+      log += "application:a ";
+      return true;
+    });
+    enableMenuItems();
+  }
+  std::string& log;
+};
+
+class WindowTest : public RuntimeTest {
+ protected:
+  WindowTest() { start(New<Commands>(log)); }
+  Ref<Host> open(const char* commands) {
+    Ref<Host> window = New<Host>(log, commands);
+    window->Show();
+    return window;
+  }
+  bool enabled(const char* name) { return Application::current().MenuBar->Child(name)->Enabled; }
+  std::string log;
+};
+
+TEST_F(WindowTest, AnItemIsEnabledForTheFrontWindowOrTheApplication) {
+  EXPECT_TRUE(enabled("a"));
+  EXPECT_FALSE(enabled("b"));
+  const Ref<Host> first = open("b");
+  EXPECT_TRUE(enabled("b"));
+  const Ref<Host> second = open("c");
+  EXPECT_FALSE(enabled("b"));
+  EXPECT_TRUE(enabled("c"));
+  second->Close();
+  EXPECT_TRUE(enabled("b"));
+}
+
+TEST_F(WindowTest, ACommandGoesToTheFrontWindowFirst) {
+  const Ref<Host> first = open("ab");
+  const Ref<Host> second = open("c");
+  log.clear();
+  gesture::shortcut(*second, "Cmd+A");
+  gesture::shortcut(*second, "Cmd+B");
+  EXPECT_EQ(log, "application:a window:c ") << "of two items with one shortcut, the enabled one";
+  log.clear();
+  first->SetFocus();
+  gesture::shortcut(*first, "Cmd+A");
+  gesture::shortcut(*first, "Cmd+B");
+  EXPECT_EQ(log, "window:a window:b ");
+}
+
+TEST_F(WindowTest, ClosesOnceHoweverItIsClosed) {
+  Ref<Host> window = open("");
+  window->Close();
+  window->Close();
+  gesture::closeByFrame(*open(""));
+  EXPECT_EQ(log, "open close open close ");
+}
+
+TEST_F(WindowTest, MinimisingIsToldOnce) {
+  const Ref<Host> window = open("");
+  gesture::minimise(*window);
+  EXPECT_EQ(log, "open minimise ");
+}
+
+TEST_F(WindowTest, ACheckMarkIsTheProgramsOwn) {
+  const Ref<Host> window = open("b");
+  const Ref<MenuItem> item = Application::current().MenuBar->Child("b");
+  item->Checked = true;
+  gesture::shortcut(*window, "Cmd+B");
+  EXPECT_TRUE(item->Checked);
+}
+
+TEST_F(WindowTest, ASliderTellsOfTheUsersChangesOnly) {
+  class WithSlider : public Window {
+   public:
+    WithSlider() : Window({.title = "Slider", .width = 100, .height = 100}) {}
+    Slider slider{*this, "slider"};
+  };
+  const Ref<WithSlider> window = New<WithSlider>();
+  int changes = 0;
+  window->slider.ValueChanged = [&] { ++changes; };
+  window->slider.Maximum = 3;
+  window->slider.Value = 7;
+  EXPECT_EQ(window->slider.Value, 3);
+  EXPECT_EQ(changes, 0);
+  gesture::key(window->slider, 0x01000012);
+  EXPECT_EQ(window->slider.Value, 2);
+  EXPECT_EQ(changes, 1);
+}
+
+TEST_F(WindowTest, TheUserIsToldOnceThatTheScreenCantBeRead) {
+  fake().readable = false;
+  for (int i = 0; i < 3; ++i)
+    System::Pixel(i, i);
+  EXPECT_TRUE(fake().messages.empty()) << "a thread may be asking";
+  processEvents();
+  EXPECT_EQ(fake().messages.size(), 1u);
+}
+
+}  // namespace
+}  // namespace tavrelkin

@@ -1,0 +1,29 @@
+#pragma once
+
+#include "runtime/gui/RectControl.h"
+
+// What a user does to a control, as real events of the toolkit. Coordinates count from the control's top left corner
+// and may lie outside of it while the button is held.
+namespace tavrelkin::gesture {
+
+void press(const RectControl& control, Int32 x, Int32 y);
+void dragTo(const RectControl& control, Int32 x, Int32 y);
+void release(const RectControl& control, Int32 x, Int32 y);
+void click(const RectControl& control, Int32 x, Int32 y);
+// The pointer moves with no button held.
+void hover(const RectControl& control, Int32 x, Int32 y);
+
+// A key goes to the control. `qtKey` is the toolkit's code: an upper-case letter stands for itself.
+void key(const RectControl& control, int qtKey);
+
+// Whether keys go to the control, as long as its window is in front.
+bool hasKeyboard(const RectControl& control);
+
+// A shortcut such as "Cmd+Option+C" is pressed while the window is in front.
+void shortcut(const Window& window, const String& keys);
+
+// The user closes, or minimises, the window by its frame.
+void closeByFrame(const Window& window);
+void minimise(const Window& window);
+
+}  // namespace tavrelkin::gesture

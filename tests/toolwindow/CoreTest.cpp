@@ -1,0 +1,196 @@
+// The tool window itself: its layout, its selected colour and the controls that show and change it.
+
+#include <set>
+
+#include "toolwindow/ToolWindowTest.h"
+
+namespace tavrelkin {
+namespace {
+
+class CoreTest : public ToolWindowTest {
+ protected:
+  // Every place where the selected colour shows.
+  void expectShown(Color c, const String& title, const String& standard) const {
+    EXPECT_EQ(window->SelectedColor, c);
+    EXPECT_EQ(window->Title.get(), title);
+    EXPECT_EQ(window->view0_lblColor.Text.get(), standard);
+    EXPECT_EQ(window->cmdColor.Value, c);
+    EXPECT_EQ(window->sm.Value, c);
+    for (const zrColorCHBar& bar : window->cmdMixer)
+      EXPECT_EQ(bar.propBaseColor, c) << bar.Index;
+  }
+
+  bool tipShows() const { return window->rTIP.Visible; }
+};
+
+TEST_F(CoreTest, OpensFoldedAndIdleAtTheStartColour) {
+  expectShown(Color{0x70ABFF}, "Color: 112.171.255, #70ABFF", "Color: 112.171.255, 215.56.100, #70ABFF");
+  EXPECT_EQ(window->Height, 262);
+  EXPECT_FALSE(window->flgTrackMouse);
+  EXPECT_TRUE(window->gridImage);
+  EXPECT_EQ(window->zoomImage->Width(), 408);
+  EXPECT_EQ(window->zoomImage->Height(), 192);
+  EXPECT_EQ(window->view0_lblcoordinates.Text.get(), "{0, 0}");
+  EXPECT_FALSE(tipShows());
+  EXPECT_TRUE(fake().pixelsRead.empty());
+  EXPECT_FALSE(fake().nextAlarm());
+  EXPECT_EQ(firstFault(*window, {1, [](Int32, Int32) { return kWhite; }, kBlack, 4}), "");
+}
+
+TEST_F(CoreTest, TheTriangleFoldsAndUnfoldsTheWindow) {
+  for (const Int32 height : {400, 262, 400}) {
+    gesture::click(window->DisclosureTriangle1, 9, 9);
+    EXPECT_EQ(window->Height, height);
+    EXPECT_EQ(window->DisclosureTriangle1.Value, height == 400);
+  }
+}
+
+TEST_F(CoreTest, ControlsKeepApartAndOnlyTheMixerLiesBelowTheFold) {
+  const std::pair<const char*, bool> names[] = {{"cmdColor", false},
+                                                {"imgWebSafe", false},
+                                                {"cmdMakeWebSafe", false},
+                                                {"imgScreen", false},
+                                                {"DisclosureTriangle1", false},
+                                                {"view0_lblcoordinates", false},
+                                                {"view0_lblColor", false},
+                                                {"sm", true},
+                                                {"StaticText1", true},
+                                                {"StaticText2", true},
+                                                {"StaticText3", true},
+                                                {"slZoom", true},
+                                                {"rTIP", true},
+                                                {"cmdMixer", true}};
+  std::vector<const RectControl*> seen;
+  for (const auto& [name, below] : names) {
+    for (Int32 index = 0; index < (String(name) == "cmdMixer" ? 6 : 1); ++index) {
+      const auto* next = dynamic_cast<const RectControl*>(window->control(name, index));
+      ASSERT_TRUE(next) << name;
+      const Int32 right = next->Left + next->Width;
+      const Int32 bottom = next->Top + next->Height;
+      EXPECT_TRUE(next->Left >= 0 && next->Top >= 0 && right <= 448 && bottom <= 400) << name;
+      EXPECT_EQ(next->Top >= 262, below) << name;
+      EXPECT_EQ(bottom > 262, below) << name;
+      for (const RectControl* other : seen) {
+        const bool apart = right <= other->Left || other->Left + other->Width <= next->Left || bottom <= other->Top ||
+                           other->Top + other->Height <= next->Top;
+        EXPECT_TRUE(apart) << name << " and " << other->Name();
+      }
+      seen.push_back(next);
+    }
+  }
+  for (Int32 i = 0; i < 6; ++i) {
+    const zrColorCHBar& bar = window->cmdMixer.at(static_cast<std::size_t>(i));
+    EXPECT_EQ(bar.Index, i);
+    EXPECT_EQ(bar.propColorChannel, i);
+  }
+}
+
+TEST_F(CoreTest, TheTabulatorVisitsTheBarsInAnOrderOfTheirOwn) {
+  constexpr int kTab = 0x01000001;
+  auto& bar = window->cmdMixer;
+  const RectControl* const order[] = {
+      &window->DisclosureTriangle1, &window->slZoom, &bar[4], &bar[5], &bar[2], &bar[1], &bar[0], &bar[3],
+      &window->DisclosureTriangle1};
+  const RectControl* at = order[0];
+  window->DisclosureTriangle1.SetFocus();
+  ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(*at); }));
+  for (const RectControl* next : order) {
+    EXPECT_TRUE(gesture::hasKeyboard(*next)) << next->Name() << " " << next->Index;
+    gesture::key(*next, kTab);
+  }
+}
+
+TEST_F(CoreTest, TheWebSafePairShowsForAnyOtherColour) {
+  const struct {
+    std::uint32_t color;
+    bool safe;
+    std::uint32_t box;  // what the box shows from here on
+  } rows[] = {{0x70ABFF, false, 0x6699FF}, {0xFF9900, true, 0x6699FF}, {0x010203, false, 0x000000},
+              {0x033669, true, 0x000000},  {0xFFFFFF, true, 0x000000}, {0xFF00FE, false, 0xFF00FF}};
+  for (const auto& row : rows) {
+    window->setColor(Color{row.color}, false);
+    EXPECT_EQ(window->imgWebSafe.Visible, !row.safe) << row.color;
+    EXPECT_EQ(window->cmdMakeWebSafe.Visible, !row.safe) << row.color;
+    EXPECT_EQ(window->cmdMakeWebSafe.Value, Color{row.box}) << row.color;
+  }
+  gesture::click(window->cmdMakeWebSafe, 6, 6);
+  expectShown(Color{0xFF00FF}, "Color: 255.0.255, #FF00FF", "Color: 255.0.255, 300.100.100, #FF00FF");
+  EXPECT_FALSE(window->imgWebSafe.Visible || window->cmdMakeWebSafe.Visible);
+}
+
+// A thread that gets a turn meanwhile finds the swatches done, and any number of the bars.
+TEST_F(CoreTest, ANewColourLetsThreadsRunBetweenTheBars) {
+  class Watched : public frmVesk {
+   public:
+    Thread watcher{*this, "watcher"};
+  };
+  const Ref<Watched> watched = New<Watched>();
+  std::set<int> done;
+  bool running = true;
+  Color now = watched->SelectedColor;
+  watched->watcher.RunEvent = [&] {
+    while (running) {
+      int bars = 0;
+      for (const zrColorCHBar& bar : watched->cmdMixer)
+        bars += bar.propBaseColor == now ? 1 : 0;
+      done.insert(bars);
+      EXPECT_EQ(watched->SelectedColor, now);
+      EXPECT_EQ(watched->sm.Value, now);
+      EXPECT_EQ(watched->cmdColor.Value, now);
+      EXPECT_EQ(watched->imgWebSafe.Visible, now != kWhite);
+      RuntimeBackgroundTask();
+    }
+  };
+  watched->watcher.Run();
+  fake().costOfLook = 5ms;
+  for (int i = 0; i < 300; ++i) {
+    now = i % 2 == 0 ? kWhite : Color{0x70ABFF};
+    watched->setColor(now, false);
+    RuntimeBackgroundTask();  // the calls don't fall into step with the looks at the clock
+  }
+  running = false;
+  fake().advance(1ms);
+  EXPECT_EQ(done, std::set<int>({1, 2, 3, 4, 5, 6}));
+}
+
+TEST_F(CoreTest, ABarChangesTheColourWhenTheHandLetsGoOrWithAKey) {
+  constexpr int kKeyRight = 0x01000014;
+  zrColorCHBar& green = window->cmdMixer[1];
+  window->imgScreen.Graphics().Pixel(10, 10, Color{0x010203});
+  gesture::press(green, green.Lastx, 10);
+  gesture::dragTo(green, 5, 10);
+  EXPECT_EQ(window->SelectedColor, Color{0x70ABFF});
+  EXPECT_EQ(window->Title.get(), "Color: 112.171.255, #70ABFF");
+  EXPECT_EQ(window->rLblTip.Text.get(), "Green 0");
+  EXPECT_TRUE(tipShows());
+  gesture::release(green, 5, 10);
+  expectShown(Color{0x7000FF}, "Color: 112.0.255, #7000FF", "Color: 112.0.255, 266.100.100, #7000FF");
+  EXPECT_FALSE(tipShows());
+  EXPECT_FALSE(fake().nextAlarm());
+  gesture::key(green, kKeyRight);
+  expectShown(Color{0x7001FF}, "Color: 112.1.255, #7001FF", "Color: 112.1.255, 266.99.100, #7001FF");
+  EXPECT_FALSE(tipShows());
+  EXPECT_EQ(window->imgScreen.Graphics().Pixel(10, 10), Color{0x010203});
+  EXPECT_TRUE(fake().pixelsRead.empty());
+}
+
+TEST_F(CoreTest, TheTipGoesASecondAfterTheLastChange) {
+  zrColorCHBar& bar = window->cmdMixer[3];
+  bar.SetValue(128);
+  bar.ValueChanging();
+  EXPECT_TRUE(tipShows());
+  EXPECT_EQ(window->rLblTip.Text.get(), "Hue 050");
+  fake().advance(600ms);
+  bar.SetValue(255);
+  bar.ValueChanging();
+  EXPECT_EQ(window->rLblTip.Text.get(), "Hue 100");
+  fake().advance(999ms);
+  EXPECT_TRUE(tipShows());
+  fake().advance(1ms);
+  EXPECT_FALSE(tipShows());
+  EXPECT_EQ(window->rTIP_Timer.Mode, 0);
+  EXPECT_FALSE(fake().nextAlarm());
+}
+
+}  // namespace
+}  // namespace tavrelkin
