@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstdint>
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include <xcb/randr.h>
+#include <xcb/xcb.h>
+
+namespace tavrelkin::test {
+
+struct Area {
+  std::int16_t x, y;
+  std::uint16_t width, height;
+};
+
+// Another program on the display, as far as the tests need one: it shows windows, moves the pointer, presses keys and
+// changes the size of the screen. Each operation returns when the server has done it.
+class X11Client {
+ public:
+  using Pattern = std::function<std::uint32_t(int x, int y)>;  // 0xRRGGBB at a place on the screen
+
+  // `display` as in DISPLAY; without it, the display that DISPLAY names.
+  explicit X11Client(const char* display = nullptr);
+
+  xcb_connection_t* connection() const { return connection_.get(); }
+  xcb_window_t root() const { return screen_->root; }
+
+  int screenWidth() const { return screen_->width_in_pixels; }
+  int screenHeight() const { return screen_->height_in_pixels; }
+
+  // Shows a window above all others, without a frame, until close().
+  xcb_window_t open(const Area& area);
+  void close(xcb_window_t window);
+
+  // Paints an area of a window that open() gave for `window`, each pixel by itself.
+  void paint(xcb_window_t window, const Area& window_area, const Pattern& pattern);
+  void fill(xcb_window_t window, std::uint32_t rgb);
+
+  // What the screen is able to show for 0xRRGGBB.
+  std::uint32_t shown(std::uint32_t rgb) const;
+
+  // What an area of the screen shows, row by row.
+  std::vector<std::uint32_t> read(const Area& area) const;
+
+  void movePointer(int x, int y);
+  void pressAlt();
+  void releaseAlt();
+
+  // An event of a device, as the core protocol has them: its type, its button or key code, and where a motion goes.
+  void fake(std::uint8_t type, std::uint8_t detail, int x = 0, int y = 0);
+  void sync() const;
+
+  // False where the server can't.
+  bool resizeScreen(std::uint16_t width, std::uint16_t height);
+  // Makes the screen two monitors side by side, the left one of this width.
+  bool splitScreen(std::uint16_t width);
+
+ private:
+  struct Disconnect {
+    void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
+  };
+
+  std::uint32_t stored(std::uint32_t rgb) const;
+  std::uint32_t fromStored(std::uint32_t pixel) const;
+  void fakeAlt(std::uint8_t type);
+  bool setMonitor(const std::string& name, const Area& area, const xcb_randr_output_t* output);
+
+  std::unique_ptr<xcb_connection_t, Disconnect> connection_;
+  const xcb_screen_t* screen_;
+  const xcb_visualtype_t* visual_;
+  xcb_gcontext_t gc_;
+};
+
+}  // namespace tavrelkin::test

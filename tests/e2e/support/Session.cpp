@@ -1,0 +1,53 @@
+#include "e2e/support/Session.h"
+
+#include <stdexcept>
+
+#include "e2e/support/WaitUntil.h"
+
+namespace tavrelkin::test {
+
+namespace {
+
+std::vector<std::string> programEnvironment(const Home& home, const XServer& server,
+                                            const std::vector<std::string>& more) {
+  auto result = home.environment(server.display());
+  result.insert(result.end(), more.begin(), more.end());
+  return result;
+}
+
+}  // namespace
+
+Session::Session(const Options& options)
+    : server(options.server),
+      client(server.display().c_str()),
+      windows(client),
+      hand(client),
+      manager(server),
+      clipboard(server, client),
+      program({TAVRELKIN_PROGRAM}, programEnvironment(home, server, options.environment)) {}
+
+xcb_window_t Session::waitForWindow(const std::string& titleBeginning) {
+  std::vector<xcb_window_t> found;
+  const auto isThere = [&] {
+    found = windows.titled(titleBeginning);
+    return !found.empty();
+  };
+  if (!waitUntil(isThere)) {
+    const std::string state = program.isRunning() ? "runs" : "has ended";
+    throw std::runtime_error("No window has the title \"" + titleBeginning + "\"; the program " + state + ". " +
+                             program.errors());
+  }
+  return found.front();
+}
+
+void Session::bringToFront(xcb_window_t window) {
+  if (windows.hasKeyboard(window)) return;
+  // Asked for again, since a window manager may still be at work on the window's first appearance.
+  const auto isInFront = [&] {
+    windows.activate(window);
+    return waitUntil([&] { return windows.hasKeyboard(window); }, std::chrono::milliseconds(200));
+  };
+  if (!waitUntil(isInFront)) throw std::runtime_error("The window doesn't get the keyboard.");
+}
+
+}  // namespace tavrelkin::test

@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "e2e/X11Client.h"
+#include "e2e/support/Hand.h"
+#include "e2e/support/Home.h"
+#include "e2e/support/OutsideClipboard.h"
+#include "e2e/support/Process.h"
+#include "e2e/support/WindowManager.h"
+#include "e2e/support/Windows.h"
+#include "e2e/support/XServer.h"
+
+namespace tavrelkin::test {
+
+// A desktop session of its own, and the program in it, which has just been started.
+struct Session {
+  struct Options {
+    XServer::Options server{};
+    std::vector<std::string> environment{};  // more variables for the program, in the form NAME=value
+  };
+
+  Session() : Session(Options()) {}
+  explicit Session(const Options& options);
+
+  // The first window with such a title, as soon as there is one.
+  xcb_window_t waitForWindow(const std::string& titleBeginning);
+  // Returns when the window has the keyboard.
+  void bringToFront(xcb_window_t window);
+
+  Home home;  // the program's
+  XServer server;
+  X11Client client;
+  Windows windows;
+  Hand hand;
+  WindowManager manager;
+  OutsideClipboard clipboard;
+  Process program;
+};
+
+}  // namespace tavrelkin::test

@@ -1,0 +1,121 @@
+#include "e2e/support/ToolWindow.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <stdexcept>
+
+#include "e2e/support/WaitUntil.h"
+
+namespace tavrelkin::test {
+
+namespace {
+
+constexpr int kFrame = 40;  // the most that a window manager puts around a window
+constexpr int kFoldedHeight = 262;
+constexpr int kUnfoldedHeight = 400;
+constexpr ScreenPoint kPreview{20, 33};
+constexpr ScreenPoint kTriangle{29, 241};
+constexpr ScreenPoint kSliderEnd{124, 359};  // beyond the handle while it is at the lower steps
+
+bool isNear(std::uint32_t left, std::uint32_t right, int tolerance) {
+  for (const int shift : {0, 8, 16}) {
+    const auto a = static_cast<int>(left >> shift & 255);
+    const auto b = static_cast<int>(right >> shift & 255);
+    if (std::abs(a - b) > tolerance) return false;
+  }
+  return true;
+}
+
+// Empty if there is none.
+std::string firstDifference(const Pixels& shown, const Pixels& expected, int tolerance) {
+  int count = 0;
+  std::string first;
+  for (std::size_t i = 0; i < expected.size(); ++i) {
+    if (isNear(shown[i], expected[i], tolerance)) continue;
+    if (++count > 1) continue;
+    char text[100];
+    std::snprintf(text, sizeof text, "(%zu, %zu) is #%06X, not #%06X", i % kPreviewWidth, i / kPreviewWidth, shown[i],
+                  expected[i]);
+    first = text;
+  }
+  return count == 0 ? "" : std::to_string(count) + " pixels differ; " + first;
+}
+
+}  // namespace
+
+std::string titleOf(std::uint32_t rgb) {
+  char text[60];
+  std::snprintf(text, sizeof text, "Color: %u.%u.%u, #%06X", rgb >> 16 & 255, rgb >> 8 & 255, rgb & 255, rgb);
+  return text;
+}
+
+// Out of the way of the other windows of the tests, which stand more to the right and further down.
+ToolWindow::ToolWindow(Session& session) : ToolWindow(session, session.waitForWindow("Color: ")) {
+  session.bringToFront(window_);
+  session.windows.moveTo(window_, 20, 20);
+  const auto isThere = [&] { return session.windows.area(window_).x < 40 && session.windows.area(window_).y < 60; };
+  if (!waitUntil(isThere)) throw std::runtime_error("The window doesn't move.");
+}
+
+ScreenPoint ToolWindow::onScreen(int x, int y) const {
+  const Area area = session_.windows.area(window_);
+  const int menuBar = area.height - (isUnfolded_ ? kUnfoldedHeight : kFoldedHeight);
+  return {area.x + x, area.y + menuBar + y};
+}
+
+void ToolWindow::keys(const std::string& chord) {
+  session_.bringToFront(window_);
+  session_.hand.keys(chord);
+}
+
+void ToolWindow::click(int x, int y) {
+  session_.hand.click(onScreen(x, y));
+}
+
+testing::AssertionResult ToolWindow::paste(std::uint32_t rgb) {
+  const std::string title = titleOf(rgb);
+  session_.clipboard.copy(title.substr(title.find('#')));
+  keys("Ctrl+V");
+  return getsTitleOf(rgb);
+}
+
+void ToolWindow::unfold() {
+  const int before = session_.windows.area(window_).height;
+  click(kTriangle.x, kTriangle.y);
+  isUnfolded_ =
+      waitUntil([&] { return session_.windows.area(window_).height == before + kUnfoldedHeight - kFoldedHeight; });
+  if (!isUnfolded_) throw std::runtime_error("The window doesn't unfold.");
+}
+
+void ToolWindow::zoomIn(int from, int to) {
+  for (int step = from; step < to; ++step)
+    click(kSliderEnd.x, kSliderEnd.y);
+}
+
+ScreenPoint ToolWindow::onPreview(int x, int y) const {
+  return onScreen(kPreview.x + x, kPreview.y + y);
+}
+
+Pixels ToolWindow::preview() const {
+  const ScreenPoint at = onPreview(0, 0);
+  return session_.client.read(
+      {static_cast<std::int16_t>(at.x), static_cast<std::int16_t>(at.y), kPreviewWidth, kPreviewHeight});
+}
+
+testing::AssertionResult ToolWindow::getsTitleOf(std::uint32_t rgb) const {
+  if (waitUntil([&] { return title() == titleOf(rgb); })) return testing::AssertionSuccess();
+  return testing::AssertionFailure() << "The title is \"" << title() << "\", not \"" << titleOf(rgb) << "\".";
+}
+
+testing::AssertionResult ToolWindow::getsPreview(const Preview& expected, int tolerance) const {
+  const Pixels pixels = expected.pixels();
+  std::string difference;
+  const auto isShown = [&] {
+    difference = firstDifference(preview(), pixels, tolerance);
+    return difference.empty();
+  };
+  if (waitUntil(isShown)) return testing::AssertionSuccess();
+  return testing::AssertionFailure() << difference;
+}
+
+}  // namespace tavrelkin::test
