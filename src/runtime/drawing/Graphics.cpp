@@ -41,7 +41,15 @@ void Graphics::DrawRect(Int32 left, Int32 top, Int32 width, Int32 height) {
   if (right < Width()) FillRect(static_cast<Int32>(right), top, 1, height);
 }
 
+// A line along an axis is a rectangle; only what lies on the surface fits the size of one.
+void Graphics::drawStraight(Int32 left, Int32 top, Int32 right, Int32 bottom) {
+  const Int32 fromX = std::max(left, 0);
+  const Int32 fromY = std::max(top, 0);
+  FillRect(fromX, fromY, std::min(right, Width()) - fromX + 1, std::min(bottom, Height()) - fromY + 1);
+}
+
 void Graphics::DrawLine(Int32 x1, Int32 y1, Int32 x2, Int32 y2) {
+  if (x1 == x2 || y1 == y2) return drawStraight(std::min(x1, x2), std::min(y1, y2), std::max(x1, x2), std::max(y1, y2));
   const std::int64_t dx = std::int64_t{x2} - x1;
   const std::int64_t dy = std::int64_t{y2} - y1;
   const bool steep = std::abs(dy) > std::abs(dx);
@@ -55,7 +63,7 @@ void Graphics::DrawLine(Int32 x1, Int32 y1, Int32 x2, Int32 y2) {
   const std::int64_t last = std::min(step > 0 ? limit - 1 - start : start, length);
   for (std::int64_t i = first; i <= last; ++i) {
     const std::int64_t along = start + i * step;
-    const double share = length == 0 ? 0.0 : static_cast<double>(i) / static_cast<double>(length);
+    const double share = static_cast<double>(i) / static_cast<double>(length);
     const auto across = [&](std::int64_t from, std::int64_t by) {
       return from + std::llround(static_cast<double>(by) * share);
     };

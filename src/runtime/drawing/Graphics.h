@@ -74,6 +74,8 @@ class Graphics {
                    Int32 sourceX, Int32 sourceY, Int32 sourceWidth, Int32 sourceHeight);
 
  private:
+  void drawStraight(Int32 left, Int32 top, Int32 right, Int32 bottom);
+
   void touch() {
     if (observer_) observer_->drawn();
   }

@@ -1,0 +1,21 @@
+// The built program, from outside: its start and memory (StartBench.cpp), and what it takes to follow the pointer
+// (FollowBench.cpp). Prints rows of a table on the standard output.
+
+#include <exception>
+#include <iostream>
+
+#include <sys/prctl.h>
+
+#include "FollowBench.h"
+#include "StartBench.h"
+
+int main() {
+  prctl(PR_SET_TIMERSLACK, 1);  // the pauses between two looks at the screen are shorter than the usual slack
+  try {
+    tavrelkin::bench::benchStart();
+    tavrelkin::bench::benchFollowing();
+  } catch (const std::exception& fault) {
+    std::cerr << "desktop_bench: " << fault.what() << std::endl;
+    return 1;
+  }
+}

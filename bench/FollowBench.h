@@ -1,0 +1,8 @@
+#pragma once
+
+namespace tavrelkin::bench {
+
+// Prints the rows for the program at rest and for one or more of its windows that follow the pointer.
+void benchFollowing();
+
+}  // namespace tavrelkin::bench

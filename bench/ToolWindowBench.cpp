@@ -1,0 +1,187 @@
+// The pieces of the tool window, each by itself, with the toolkit on a real X server: a sample of the screen, the
+// choice of a colour while idle and while following, the paint of the preview and the guides.
+//
+// The window lies unfolded on an X server of its own, beside another program's window whose pixels all differ and over
+// which the pointer stands. Figures are medians of several rounds. A choice of a colour is entered as every handler is;
+// between two of them the event loop runs for some milliseconds, so that frames and turns of the thread go on.
+
+#include <chrono>
+#include <cstdlib>
+#include <map>
+#include <string>
+#include <vector>
+
+#include <QApplication>
+#include <QScreen>
+
+#include <benchmark/benchmark.h>
+
+#include "app/App.h"
+#include "bench/support/Figures.h"
+#include "e2e/support/ForeignWindow.h"
+#include "e2e/support/WaitUntil.h"
+#include "runtime/desktop/Desktop.h"
+#include "runtime/gui/Runtime.h"
+#include "runtime/qt/Delivery.h"
+#include "runtime/system/System.h"
+#include "toolwindow/PreviewGrid.h"
+#include "toolwindow/frmVesk.h"
+
+namespace tavrelkin::bench {
+namespace {
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+constexpr ScreenPoint kPointer{820, 570};
+constexpr int kRounds = 9;
+
+void runEventLoop(std::chrono::milliseconds span) {
+  const auto end = Clock::now() + span;
+  while (Clock::now() < end)
+    QCoreApplication::processEvents();
+}
+
+void sample(benchmark::State& state, frmVesk& window) {
+  for (auto _ : state) {
+    desktop().beginTurn();
+    window.drawSys(kPointer.x, kPointer.y);
+  }
+}
+
+// As a sample reads them, column by column. The time is that of one read.
+void readPixels(benchmark::State& state, const frmVesk& window) {
+  const PreviewGrid grid(1, window.imgScreen.Width, window.imgScreen.Height);
+  desktop().beginTurn();
+  Int32 x = 0;
+  Int32 y = 0;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(System::Pixel(kPointer.x - grid.reachX() + x, kPointer.y - grid.reachY() + y));
+    if (++y < grid.rows) continue;
+    y = 0;
+    x = (x + 1) % grid.columns;
+  }
+}
+
+// No two in a row are alike; web-safe ones, which hide two controls, are among them.
+Color nextColor() {
+  static std::uint32_t number = 0;
+  ++number;
+  return Color{number % 4 == 0 ? (number / 4 % 2 == 0 ? 0x336699U : 0xCC9966U) : number * 2654435761U >> 8};
+}
+
+void setColor(benchmark::State& state, frmVesk& window) {
+  for (auto _ : state) {
+    runEventLoop(3ms);
+    const Color color = nextColor();
+    const auto begun = Clock::now();
+    deliver(window, [&] { window.setColor(color, false); });
+    state.SetIterationTime(std::chrono::duration<double>(Clock::now() - begun).count());
+  }
+}
+
+void drawScreen(benchmark::State& state, frmVesk& window) {
+  for (auto _ : state)
+    window.drawScreen(&window.imgScreen.Graphics());
+}
+
+void drawGrid(benchmark::State& state, frmVesk& window) {
+  for (auto _ : state)
+    window.drawGrid();
+}
+
+// Keeps the median of each benchmark, in milliseconds.
+class Medians : public benchmark::BenchmarkReporter {
+ public:
+  bool ReportContext(const Context&) override { return true; }
+  void ReportRuns(const std::vector<Run>& runs) override {
+    for (const Run& run : runs) {
+      if (run.aggregate_name == "median") medians_[run.run_name.function_name] = run.GetAdjustedRealTime();
+    }
+  }
+
+  double operator[](const std::string& name) const { return medians_.at(name); }
+
+ private:
+  std::map<std::string, double> medians_;
+};
+
+template <class Body>
+benchmark::internal::Benchmark* add(const std::string& name, Body&& body) {
+  return benchmark::RegisterBenchmark(name.c_str(), std::forward<Body>(body))
+      ->Unit(benchmark::kMillisecond)
+      ->Repetitions(kRounds)
+      ->ReportAggregatesOnly();
+}
+
+void addAll(frmVesk& window) {
+  for (const Int32 step : {1, 2, 3}) {
+    add("sample " + std::to_string(step), [&window, step](benchmark::State& state) {
+      window.ScreenZoomValue = step;
+      sample(state, window);
+      window.ScreenZoomValue = 1;
+    })->MinTime(0.1);
+  }
+  add("Pixel", [&](benchmark::State& state) { readPixels(state, window); })->MinTime(0.1);
+  add("drawScreen", [&](benchmark::State& state) { drawScreen(state, window); })->MinTime(0.1);
+  add("drawGrid", [&](benchmark::State& state) { drawGrid(state, window); })->MinTime(0.1);
+  add("setColor idle", [&](benchmark::State& state) { setColor(state, window); })->UseManualTime()->Iterations(100);
+  add("setColor following",
+      [&](benchmark::State& state) {
+        window.mnuFollow();
+        setColor(state, window);
+        window.mnuFollow();
+      })
+      ->UseManualTime()
+      ->Iterations(100);
+}
+
+void printRows(const Medians& medians) {
+  const auto milliseconds = [&](const std::string& name) { return fixed(medians[name], 3) + " ms"; };
+  printRow("rate of the display, as the toolkit reports it", {},
+           fixed(QGuiApplication::primaryScreen()->refreshRate(), 2) + " Hz");
+  printRow("one sample at step 1 (5047 reads, yields included)", "at most 1 ms", milliseconds("sample 1"));
+  printRow("one sample at step 2 (1275 reads)", {}, milliseconds("sample 2"));
+  printRow("one sample at step 3 (595 reads)", {}, milliseconds("sample 3"));
+  printRow("one read of System.Pixel within a sample", {}, fixed(medians["Pixel"] * 1e6, 1) + " ns");
+  printRow("drawScreen", {}, milliseconds("drawScreen"));
+  printRow("drawGrid", {}, milliseconds("drawGrid"));
+  const double idle = medians["setColor idle"];
+  const double following = medians["setColor following"];
+  printRow("setColor, unfolded, idle", "at most 3 ms", milliseconds("setColor idle"));
+  printRow("setColor, unfolded, following", "at most 3 ms; at most 1.5 times apart",
+           milliseconds("setColor following") + "; " + fixed(following / idle, 2) + " times");
+}
+
+int run() {
+  const Runtime runtime;
+  const auto app = New<App>();
+  app->AddMenuHandlers();
+  const Ref<frmVesk> window = frmVesk::Default();
+  window->Height = 400;
+  runEventLoop(500ms);
+
+  addAll(*window);
+  Medians medians;
+  benchmark::RunSpecifiedBenchmarks(&medians);
+  printRows(medians);
+  window->Close();
+  shutDownRuntime();
+  return 0;
+}
+
+}  // namespace
+}  // namespace tavrelkin::bench
+
+int main(int argc, char** argv) {
+  using namespace tavrelkin::test;
+  benchmark::Initialize(&argc, argv);
+  const XServer server;
+  setenv("DISPLAY", server.display().c_str(), 1);
+  setenv("QT_QPA_PLATFORM", "xcb", 1);
+  unsetenv("WAYLAND_DISPLAY");
+  X11Client client;
+  const ForeignWindow foreign(client, {700, 500, 240, 140});
+  client.movePointer(tavrelkin::bench::kPointer.x, tavrelkin::bench::kPointer.y);
+  return tavrelkin::bench::run();
+}
