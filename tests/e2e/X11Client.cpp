@@ -1,6 +1,7 @@
 #include "e2e/X11Client.h"
 
 #include <bit>
+#include <cmath>
 #include <cstdlib>
 #include <cstring>
 #include <stdexcept>
@@ -38,7 +39,7 @@ std::uint32_t shownChannel(std::uint32_t pixel, std::uint32_t mask) {
   const std::uint32_t value = (pixel & mask) >> std::countr_zero(mask);
   if (bits >= 8) return value >> (bits - 8);
   const double greatest = (1 << bits) - 1;
-  return static_cast<std::uint32_t>(value / greatest * 255 + 0.5);
+  return static_cast<std::uint32_t>(std::lround(value / greatest * 255));
 }
 
 }  // namespace
@@ -133,7 +134,7 @@ void X11Client::fakeAlt(std::uint8_t type) {
   auto* const c = connection_.get();
   const auto mapping = owned(xcb_get_modifier_mapping_reply(c, xcb_get_modifier_mapping(c), nullptr));
   const auto* codes = xcb_get_modifier_mapping_keycodes(mapping.get());
-  fake(type, codes[XCB_MAP_INDEX_1 * mapping->keycodes_per_modifier]);
+  fake(type, codes[std::size_t{XCB_MAP_INDEX_1} * mapping->keycodes_per_modifier]);
 }
 
 void X11Client::pressAlt() {

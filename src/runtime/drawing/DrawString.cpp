@@ -16,7 +16,7 @@ void Graphics::DrawString(const String& text, Int32 x, Int32 y) {
   if (Width() == 0 || Height() == 0) return;
   touch();
   QImage image(reinterpret_cast<uchar*>(surface_.row(0)), Width(), Height(),
-               Width() * static_cast<int>(sizeof(std::uint32_t)), QImage::Format_RGB32);
+               static_cast<qsizetype>(sizeof(std::uint32_t)) * Width(), QImage::Format_RGB32);
   QPainter painter(&image);
   painter.setFont(fontFor("System", TextSize, false));
   painter.setPen(QColor::fromRgb(ForeColor.bits));

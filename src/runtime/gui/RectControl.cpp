@@ -62,7 +62,7 @@ bool RectControl::accepts(const DragItem& item) const {
 }
 
 Ref<DragItem> RectControl::NewDragItem(Int32 left, Int32 top, Int32 width, Int32 height) {
-  const Ref<DragItem> item = New<DragItem>();
+  Ref<DragItem> item = New<DragItem>();
   item->onDrag([this, outline = QRect(left, top, width, height)](const DragItem& dragged) {
     beginDrag(dragged, ownerWindow().content(), outline);
   });

@@ -1,10 +1,10 @@
 #include "e2e/support/Hand.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cstdlib>
 #include <map>
 #include <memory>
-#include <ranges>
 #include <sstream>
 #include <stdexcept>
 #include <vector>
@@ -60,7 +60,8 @@ void Hand::keys(const std::string& chord) {
     codes.push_back(keyCode(name));
   for (const std::uint8_t code : codes)
     client_.fake(XCB_KEY_PRESS, code);
-  for (const std::uint8_t code : codes | std::views::reverse)
+  std::reverse(codes.begin(), codes.end());
+  for (const std::uint8_t code : codes)
     client_.fake(XCB_KEY_RELEASE, code);
 }
 

@@ -10,7 +10,6 @@ namespace tavrelkin::test {
 
 namespace {
 
-constexpr int kFrame = 40;  // the most that a window manager puts around a window
 constexpr int kFoldedHeight = 262;
 constexpr int kUnfoldedHeight = 400;
 constexpr ScreenPoint kPreview{20, 33};

@@ -87,7 +87,8 @@ TEST_F(SchedulerTest, AThreadThatDrawsNothingIsNeverHeldBackAndLeavesWhenItsTurn
 }
 
 TEST_F(SchedulerTest, NoThreadStarves) {
-  int mine = 0, its = 0;
+  int mine = 0;
+  int its = 0;
   draw(window->thread, mine);
   draw(window->other, its);
   for (int i = 0; i < 160; ++i)
