@@ -107,6 +107,7 @@ void Fiber::kill() {
 void Fiber::suspend() {
   assert(State::running);
   State& state = *State::running;
+  if (state.killed) return;
   void* fakeStack = nullptr;
   StackSwitch::leave(&fakeStack, state.callerStack, state.callerStackSize);
   state.caller = std::move(state.caller).resume();

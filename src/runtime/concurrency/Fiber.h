@@ -30,7 +30,8 @@ class Fiber {
   // kills itself does not return from here.
   void kill();
 
-  // Leaves the running body; returns when it is resumed. May only be called from within a body.
+  // Leaves the running body; returns when it is resumed. Returns at once in a body that has been killed, since its
+  // destructors may come here while its stack unwinds. May only be called from within a body.
   static void suspend();
 
  private:

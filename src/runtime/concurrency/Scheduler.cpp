@@ -19,16 +19,16 @@ Scheduler& Scheduler::instance() {
   return *installed;
 }
 
+// The threads end before the scheduler is let go of: their destructors may still yield or draw.
 void Scheduler::shutDown() {
+  while (installed && !installed->entries_.empty())
+    installed->kill(*installed->entries_.back()->thread);
   installed.reset();
 }
 
 Scheduler::Scheduler() : alarm_(desktop().newAlarm([this] { runDueThread(); })) {}
 
-Scheduler::~Scheduler() {
-  while (!entries_.empty())
-    kill(*entries_.back()->thread);
-}
+Scheduler::~Scheduler() = default;
 
 void Scheduler::start(Thread& thread, Ref<Window> owner) {
   if (runs(thread)) return;
@@ -47,7 +47,11 @@ void Scheduler::kill(Thread& thread) {
   const auto is = [&thread](const auto& entry) { return entry->thread == &thread; };
   const auto found = std::find_if(entries_.begin(), entries_.end(), is);
   if (found == entries_.end()) return;
-  (*found)->fiber->kill();
+  // What its destructors do is done in a turn of its own: a yield there is none of the main thread's.
+  Entry& entry = **found;
+  Entry* const outer = std::exchange(current_, &entry);
+  entry.fiber->kill();
+  current_ = outer;
   remove(thread);
 }
 
@@ -59,7 +63,7 @@ bool Scheduler::runs(const Thread& thread) const {
 void Scheduler::lookAtClock() {
   const TimePoint now = desktop().now();
   if (current_) {
-    if (drew_ || now - turnBegan_ >= kTurn) Fiber::suspend();
+    if (handlers_ == 0 && (drew_ || now - turnBegan_ >= kTurn)) Fiber::suspend();
   } else if (now - mainTurnBegan_ >= kTurn) {
     runDueThread();
     mainTurnBegan_ = desktop().now();
@@ -77,7 +81,9 @@ void Scheduler::runTurn(Entry& entry) {
   turnBegan_ = desktop().now();
   current_ = &entry;
   drew_ = false;
+  const int outerHandlers = std::exchange(handlers_, 0);
   entry.fiber->resume();
+  handlers_ = outerHandlers;
   entry.paced = std::exchange(drew_, false);
   current_ = nullptr;
   desktop().beginTurn();

@@ -52,6 +52,16 @@ class Scheduler {
   // A handler is entered from the event loop.
   void beginMainTurn() { mainTurnBegan_ = desktop().now(); }
 
+  // Held while the toolkit runs a handler. A thread may have made it do so, by showing a control for instance; it gives
+  // way only afterwards, so that no half-done work of the toolkit waits on its stack, or is unwound.
+  class InHandler {
+   public:
+    InHandler() { ++instance().handlers_; }
+    InHandler(const InHandler&) = delete;
+    InHandler& operator=(const InHandler&) = delete;
+    ~InHandler() { --instance().handlers_; }
+  };
+
  private:
   static constexpr unsigned kYieldsPerLook = 32;
 
@@ -78,6 +88,7 @@ class Scheduler {
   std::unique_ptr<Alarm> alarm_;
   Entry* current_ = nullptr;
   bool drew_ = false;
+  int handlers_ = 0;  // at work in this turn, one within the other
   unsigned yields_ = 0;
   TimePoint turnBegan_{};
   TimePoint mainTurnBegan_{};

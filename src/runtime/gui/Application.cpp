@@ -1,10 +1,12 @@
 #include "runtime/gui/Application.h"
 
 #include <algorithm>
+#include <utility>
 
 #include <QCoreApplication>
 #include <QMetaObject>
 
+#include "runtime/desktop/Desktop.h"
 #include "runtime/qt/Delivery.h"
 
 namespace tavrelkin {
@@ -46,8 +48,7 @@ void Application::Quit() {
 bool Application::dispatch(const String& itemName) {
   return deliver([&] {
     const Ref<Window> front(frontWindow());
-    if (front && front->menuHandlers().has(itemName)) return front->menuHandlers().run(itemName);
-    return handlers_.run(itemName);
+    return (front && front->menuHandlers().run(itemName)) || handlers_.run(itemName);
   });
 }
 
@@ -66,6 +67,13 @@ void Application::enable(const std::vector<Ref<MenuItem>>& items) {
     const bool taken = (front && front->menuHandlers().has(item->Name())) || handlers_.has(item->Name());
     item->Enabled = taken || item->answersItself();
   }
+}
+
+// From the event loop, since a thread may be asking, whose stack can't hold a dialog's loop.
+void Application::tellWhyNoScreen() {
+  if (std::exchange(toldWhyNoScreen_, true)) return;
+  QMetaObject::invokeMethod(
+      QCoreApplication::instance(), [] { desktop().messageBox(desktop().whyNoScreen()); }, Qt::QueuedConnection);
 }
 
 void Application::windowInFront(Window& window) {

@@ -35,7 +35,7 @@ class Application : public Object {
   // Ends the program, without a question. Windows that are open just go.
   void Quit();
 
-  // A menu command: the front window's handler takes it if it has one, else the application's. False where neither has.
+  // A menu command: the front window's handler goes first, then the application's. False where neither has handled it.
   bool dispatch(const String& itemName);
 
   // Enables each item of the menu bar that somebody answers, and disables the others.
@@ -63,6 +63,9 @@ class Application : public Object {
     return made;
   }
 
+  // Has the user told, at the first call, why the screen can't be read.
+  void tellWhyNoScreen();
+
   // For windows: one comes to the front, or goes.
   void windowInFront(Window& window);
   void windowClosed(Window& window);
@@ -78,6 +81,7 @@ class Application : public Object {
   MenuHandlers handlers_;
   std::vector<Ref<Window>> openWindows_;
   std::map<std::type_index, Window*> defaults_;
+  bool toldWhyNoScreen_ = false;
 };
 
 }  // namespace tavrelkin

@@ -27,6 +27,7 @@ RectControl::RectControl(Window& owner, String name, QWidget* native, const Rect
   native_->setParent(parent ? &parent->native() : &owner.content());
   native_->setObjectName(toQt(Name()));
   native_->setFocusPolicy(Qt::NoFocus);
+  native_->setGeometry(0, 0, 0, 0);
 }
 
 // The widget goes with its window, which outlives its controls.

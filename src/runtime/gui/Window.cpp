@@ -80,8 +80,10 @@ void Window::applySize() {
 
 void Window::cameToFront() {
   if (!open_) return;
-  Application::current().windowInFront(*this);
-  deliver(*this, [this] { Event_Activate(); });
+  deliver(*this, [this] {
+    Application::current().windowInFront(*this);
+    Event_Activate();
+  });
 }
 
 }  // namespace tavrelkin

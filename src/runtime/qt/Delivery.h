@@ -4,6 +4,7 @@
 
 #include "runtime/base/Exceptions.h"
 #include "runtime/base/Ref.h"
+#include "runtime/concurrency/Scheduler.h"
 #include "runtime/gui/Window.h"
 
 namespace tavrelkin {
@@ -36,6 +37,7 @@ auto guarded(Code&& code) -> std::invoke_result_t<Code> {
 template <class Code>
 auto deliver(Code&& code) -> std::invoke_result_t<Code> {
   if (!enterProgram()) return std::invoke_result_t<Code>();
+  const Scheduler::InHandler inHandler;
   return guarded(code);
 }
 

@@ -49,8 +49,13 @@ void TextLabel::align(TextAlignment where) {
 void TextLabel::fit() {
   constexpr int narrowest = 66;
   QFont fitted = base_;
-  const int wanted = QFontMetrics(base_).size(0, text()).width();
-  if (wanted > width() && width() > 0) fitted.setStretch(std::max(narrowest, 100 * width() / wanted));
+  const auto wanted = [&] { return QFontMetrics(fitted).size(0, text()).width(); };
+  // Each character's width is rounded, so that the first stretch may not be narrow enough.
+  int stretch = 100;
+  for (int needs = wanted(); needs > width() && width() > 0 && stretch > narrowest; needs = wanted()) {
+    stretch = std::max(narrowest, std::min(stretch - 1, stretch * width() / needs));
+    fitted.setStretch(stretch);
+  }
   if (fitted != font()) setFont(fitted);
 }
 

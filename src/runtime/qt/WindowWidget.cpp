@@ -47,8 +47,15 @@ void WindowWidget::setBackColor(const QColor& c) {
 }
 
 void WindowWidget::setMenuBar(const Ref<MenuBar>& bar) {
-  auto* shown = new QMenuBar(this);
-  bar->attachTo(*shown);
+  if (QWidget* former = layout()->menuBar()) {
+    former->hide();
+    former->deleteLater();
+  }
+  QMenuBar* shown = nullptr;
+  if (bar) {
+    shown = new QMenuBar(this);
+    bar->attachTo(*shown);
+  }
   layout()->setMenuBar(shown);
 }
 

@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <limits>
 #include <random>
 
@@ -68,6 +70,63 @@ TEST(GraphicsTest, LinesIncludeBothEndsAndAreClippedAnywhere) {
     picture->Graphics().ForeColor = kInk;
     picture->Graphics().DrawLine(row.x1, row.y1, row.x2, row.y2);
     EXPECT_EQ(inked(*picture), row.count) << row.x1 << " " << row.y1 << " " << row.x2 << " " << row.y2;
+  }
+}
+
+TEST(GraphicsTest, ALineKeepsToTheIdealOneAndIsTheSameWhereItIsCutOff) {
+  for (Int32 x2 = -14; x2 <= 14; ++x2) {
+    for (Int32 y2 = -14; y2 <= 14; ++y2) {
+      const Ref<Picture> whole = NewPicture(40, 40, 32);
+      whole->Graphics().DrawLine(20, 20, 20 + x2, 20 + y2);
+      const Ref<Picture> cut = NewPicture(10, 10, 32);
+      cut->Graphics().DrawLine(5, 5, 5 + x2, 5 + y2);
+      const Int32 length = std::max(std::abs(x2), std::abs(y2));
+      int count = 0;
+      for (Int32 y = -20; y < 20; ++y) {
+        for (Int32 x = -20; x < 20; ++x) {
+          const Color c = whole->Graphics().Pixel(20 + x, 20 + y);
+          if (std::abs(x) <= 4 && std::abs(y) <= 4) {
+            ASSERT_EQ(cut->Graphics().Pixel(5 + x, 5 + y), c);
+          }
+          if (c == kWhite) continue;
+          ++count;
+          // Twice its distance along the shorter axis from the ideal line, times the length.
+          ASSERT_LE(2 * std::abs(x * y2 - y * x2), length) << x2 << " " << y2 << " at " << x << " " << y;
+        }
+      }
+      ASSERT_EQ(count, length + 1) << x2 << " " << y2;
+      ASSERT_EQ(whole->Graphics().Pixel(20, 20), kBlack);
+      ASSERT_EQ(whole->Graphics().Pixel(20 + x2, 20 + y2), kBlack);
+    }
+  }
+}
+
+TEST(GraphicsTest, APictureIsClippedAtAnyNumbersAndMayHaveItsNaturalSize) {
+  constexpr Int32 natural = Graphics::kNaturalSize;
+  const struct {
+    Int32 x, y, width, height, sourceX, sourceY, sourceWidth, sourceHeight;
+    int drawn;
+  } rows[] = {
+      {0, 0, natural, natural, 0, 0, natural, natural, 12},
+      {2, 3, natural, natural, 1, 1, natural, natural, 6},
+      {-1, -1, natural, 6, 0, 0, natural, natural, 15},
+      {0, 0, 8, natural, 0, 0, 2, 3, 24},
+      {0, 0, kMost, kMost, 0, 0, 4, 3, 100},
+      {kLeast, kLeast, kMost, kMost, 0, 0, 4, 3, 0},
+      {kMost, kMost, kMost, kMost, kMost, kMost, kMost, kMost, 0},
+      {-5, -5, kMost, kMost, kLeast, kLeast, kMost, kMost, 0},
+      {kLeast, 0, kMost, 3, kMost, 0, kMost, 3, 0},
+      {0, 0, 1, 1, 3, 2, kMost, kMost, 1},
+      {0, 0, kLeast, 3, 0, 0, kLeast, 3, 0},
+  };
+  const Ref<Picture> source = NewPicture(4, 3, 32);
+  source->Graphics().ForeColor = kInk;
+  source->Graphics().FillRect(0, 0, 4, 3);
+  for (const auto& row : rows) {
+    const Ref<Picture> ground = NewPicture(10, 10, 32);
+    ground->Graphics().DrawPicture(*source, row.x, row.y, row.width, row.height, row.sourceX, row.sourceY,
+                                   row.sourceWidth, row.sourceHeight);
+    EXPECT_EQ(inked(*ground), row.drawn) << "row " << &row - rows;
   }
 }
 
