@@ -9,7 +9,10 @@ packages_for() {
     run) echo fonts-dejavu-core ;;
     wayland) echo qt6-wayland ;;
     display) echo imagemagick openbox x11-utils x11-xserver-utils xvfb ;;
-    test) echo libgmock-dev libgtest-dev libxcb-randr0-dev libxcb-xtest0-dev openbox x11-utils xclip xvfb ;;
+    test)
+      echo gir1.2-gtk-3.0 libgmock-dev libgtest-dev libxcb-randr0-dev libxcb-xtest0-dev openbox python3-gi \
+        x11-utils xclip xvfb
+      ;;
     bench) echo libbenchmark-dev ;;
     check) echo clang-format clang-tidy git shellcheck ;;
     *) echo "packages_for: no purpose is called '$1'" >&2; return 2 ;;

@@ -18,6 +18,7 @@ namespace {
 
 constexpr auto kColourType = "hcol";
 constexpr auto kPrivatePrefix = "application/x-tavrelkin-";
+constexpr auto kPlainText = "text/plain;charset=utf-8";  // what the toolkit doesn't know as text by itself
 
 QColor toColor(const String& triple) {
   const auto channel = [&triple](Int32 n) { return toInt32(Val(NthField(triple, ",", n))); };
@@ -62,7 +63,11 @@ Ref<DragItem> fromMime(const QMimeData& data) {
     const auto c = qvariant_cast<QColor>(data.colorData());
     if (c.isValid()) item->MacData(kColourType, toTriple(c));
   }
-  if (data.hasText()) item->SetText(fromQt(data.text()));
+  if (data.hasText()) {
+    item->SetText(fromQt(data.text()));
+  } else if (data.hasFormat(kPlainText)) {
+    item->SetText(data.data(kPlainText).toStdString());
+  }
   return item;
 }
 

@@ -7,6 +7,7 @@
 #include "runtime/gui/Window.h"
 #include "runtime/qt/Convert.h"
 #include "runtime/qt/Delivery.h"
+#include "runtime/qt/FocusRing.h"
 
 namespace tavrelkin {
 
@@ -32,6 +33,7 @@ WindowWidget::WindowWidget(Window& window, const WindowDesign& design)
   layout->setSpacing(0);
   layout->addWidget(content_);
   layout->setSizeConstraint(QLayout::SetFixedSize);
+  new FocusRing(*content_);
 }
 
 void WindowWidget::setContentSize(int width, int height) {
@@ -64,6 +66,18 @@ void WindowWidget::showInFront() {
   show();
   raise();
   activateWindow();
+}
+
+// A control outside of the window's content, such as one below the fold, is passed over.
+bool WindowWidget::focusNextPrevChild(bool next) {
+  const QWidget* first = nullptr;
+  while (QWidget::focusNextPrevChild(next)) {
+    const QWidget* focus = focusWidget();
+    const QRect place(focus->mapTo(this, QPoint()), focus->size());
+    if (rect().intersects(place) || focus == first) return true;
+    if (!first) first = focus;
+  }
+  return false;
 }
 
 void WindowWidget::closeEvent(QCloseEvent* event) {

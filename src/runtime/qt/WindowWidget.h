@@ -28,6 +28,7 @@ class WindowWidget : public QWidget {
   void showInFront();
 
  protected:
+  bool focusNextPrevChild(bool next) override;
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
 

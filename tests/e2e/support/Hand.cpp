@@ -2,11 +2,13 @@
 
 #include <algorithm>
 #include <cctype>
+#include <chrono>
 #include <cstdlib>
 #include <map>
 #include <memory>
 #include <sstream>
 #include <stdexcept>
+#include <thread>
 #include <vector>
 
 namespace tavrelkin::test {
@@ -16,8 +18,9 @@ namespace {
 constexpr std::uint8_t kLeftButton = 1;
 
 std::uint32_t keySymbol(const std::string& name) {
-  static const std::map<std::string, std::uint32_t> kNamed{
-      {"Ctrl", 0xFFE3}, {"Shift", 0xFFE1}, {"Alt", 0xFFE9}, {"Return", 0xFF0D}, {"Escape", 0xFF1B}};
+  static const std::map<std::string, std::uint32_t> kNamed{{"Ctrl", 0xFFE3},   {"Shift", 0xFFE1},  {"Alt", 0xFFE9},
+                                                           {"Return", 0xFF0D}, {"Escape", 0xFF1B}, {"Tab", 0xFF09},
+                                                           {"Left", 0xFF51},   {"Right", 0xFF53}};
   const auto named = kNamed.find(name);
   if (named != kNamed.end()) return named->second;
   if (name.size() != 1) throw std::invalid_argument("No key is called " + name + ".");
@@ -38,6 +41,38 @@ void Hand::click(ScreenPoint at) {
   moveTo(at);
   pressButton();
   releaseButton();
+}
+
+// A hand takes its time, and a drag needs it: programs talk to each other at each place.
+void Hand::pull(ScreenPoint from, ScreenPoint to) {
+  constexpr int kSteps = 8;
+  moveTo(from);
+  pressButton();
+  for (int step = 1; step <= kSteps; ++step) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(15));
+    moveTo({from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps});
+  }
+  std::this_thread::sleep_for(std::chrono::milliseconds(60));
+}
+
+void Hand::drag(ScreenPoint from, ScreenPoint to) {
+  pull(from, to);
+  releaseButton();
+}
+
+void Hand::altDrag(ScreenPoint from, ScreenPoint to) {
+  beginAltDrag(from, to);
+  endAltDrag();
+}
+
+void Hand::beginAltDrag(ScreenPoint from, ScreenPoint to) {
+  client_.pressAlt();
+  pull(from, to);
+}
+
+void Hand::endAltDrag() {
+  releaseButton();
+  client_.releaseAlt();
 }
 
 std::uint8_t Hand::keyCode(const std::string& name) const {

@@ -16,11 +16,19 @@ class Hand {
   void pressButton();
   void releaseButton();
   void click(ScreenPoint at);
+  // Presses at one place and lets go at another, by way of a few places between; what an Alt-drag starts with is its
+  // own.
+  void drag(ScreenPoint from, ScreenPoint to);
+  void altDrag(ScreenPoint from, ScreenPoint to);
+  // Only up to the place: the button, and Alt, stay down.
+  void beginAltDrag(ScreenPoint from, ScreenPoint to);
+  void endAltDrag();
 
   // Such as "Ctrl+Alt+P" or "Return": goes to whatever has the keyboard.
   void keys(const std::string& chord);
 
  private:
+  void pull(ScreenPoint from, ScreenPoint to);
   std::uint8_t keyCode(const std::string& name) const;
 
   X11Client& client_;

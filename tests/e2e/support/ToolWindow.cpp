@@ -91,6 +91,15 @@ void ToolWindow::zoomIn(int from, int to) {
     click(kSliderEnd.x, kSliderEnd.y);
 }
 
+ScreenPoint ToolWindow::onBar(int bar, int column) const {
+  return onScreen((bar < 3 ? 158 : 307) + column, 277 + bar % 3 * 26);
+}
+
+std::uint32_t ToolWindow::shows(int x, int y) const {
+  const ScreenPoint at = onScreen(x, y);
+  return session_.client.read({static_cast<std::int16_t>(at.x), static_cast<std::int16_t>(at.y), 1, 1}).front();
+}
+
 ScreenPoint ToolWindow::onPreview(int x, int y) const {
   return onScreen(kPreview.x + x, kPreview.y + y);
 }
@@ -104,6 +113,12 @@ Pixels ToolWindow::preview() const {
 testing::AssertionResult ToolWindow::getsTitleOf(std::uint32_t rgb) const {
   if (waitUntil([&] { return title() == titleOf(rgb); })) return testing::AssertionSuccess();
   return testing::AssertionFailure() << "The title is \"" << title() << "\", not \"" << titleOf(rgb) << "\".";
+}
+
+testing::AssertionResult ToolWindow::gets(std::uint32_t rgb, int x, int y) const {
+  if (waitUntil([&] { return shows(x, y) == rgb; })) return testing::AssertionSuccess();
+  return testing::AssertionFailure() << "(" << x << ", " << y << ") is " << titleOf(shows(x, y)) << ", not "
+                                     << titleOf(rgb);
 }
 
 testing::AssertionResult ToolWindow::getsPreview(const Preview& expected, int tolerance) const {

@@ -31,12 +31,20 @@ class ToolWindow {
   // Step 1 to 3, in an unfolded window whose step is lower.
   void zoomIn(int from, int to);
 
+  // Of an unfolded window: a column of a bar, 0 to 120, in its middle row. Bars are 0 red to 5 value.
+  ScreenPoint onBar(int bar, int column) const;
+  ScreenPoint onSwatch() const { return onScreen(75, 296); }
+  // What one pixel of its content shows.
+  std::uint32_t shows(int x, int y) const;
+
   // Where a pixel of the preview is on the screen, and what the whole preview shows.
   ScreenPoint onPreview(int x, int y) const;
   Pixels preview() const;
 
-  // Whether title, or preview, become so before long. Each channel of the preview may differ by `tolerance`.
+  // Whether title, a pixel of the content, or preview, become so before long. Each channel of the preview may differ by
+  // `tolerance`.
   testing::AssertionResult getsTitleOf(std::uint32_t rgb) const;
+  testing::AssertionResult gets(std::uint32_t rgb, int x, int y) const;
   testing::AssertionResult getsPreview(const Preview& expected, int tolerance = 0) const;
 
  private:

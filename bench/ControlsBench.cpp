@@ -1,0 +1,79 @@
+#include "bench/ControlsBench.h"
+
+#include <chrono>
+#include <utility>
+
+#include <QCoreApplication>
+#include <QWidget>
+
+#include "bench/support/Figures.h"
+
+namespace tavrelkin::bench {
+
+namespace {
+
+constexpr int kMoves = 1000;
+
+void updateBar(benchmark::State& state, zrColorCHBar& bar, Int32 channel) {
+  const Int32 before = std::exchange(bar.propColorChannel, channel);
+  for (auto _ : state)
+    bar.Update();
+  bar.propColorChannel = before;
+}
+
+void drawSuggestions(benchmark::State& state, frmVesk& window) {
+  for (auto _ : state)
+    window.drawSuggestions(&window.imgScreen.Graphics());
+}
+
+ScreenPoint placeOn(const zrColorCHBar& bar, int column) {
+  const QPoint at = bar.native().mapToGlobal(QPoint(column, 10));
+  return {at.x(), at.y()};
+}
+
+// The pointer moves on only when the move before has changed the bar, so that none is lost and none waits. One
+// iteration is a move.
+void dragBar(benchmark::State& state, zrColorCHBar& bar, test::Hand& hand) {
+  const auto moveTo = [&](int column) {
+    hand.moveTo(placeOn(bar, column));
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(2);
+    while (bar.Lastx != column && std::chrono::steady_clock::now() < end)
+      QCoreApplication::processEvents();
+    if (bar.Lastx != column) state.SkipWithError("A move was lost.");
+  };
+  bar.SetValue(0);
+  hand.moveTo(placeOn(bar, bar.Lastx));
+  hand.pressButton();
+  int step = 0;
+  for (auto _ : state)
+    moveTo(6 + ++step % 100);
+  hand.releaseButton();
+  while (QWidget::mouseGrabber() || bar.propBaseColor.red() != bar.Value)
+    QCoreApplication::processEvents();
+}
+
+}  // namespace
+
+void addControlBenchmarks(frmVesk& window, test::Hand& hand) {
+  zrColorCHBar& red = window.cmdMixer[0];
+  const auto update = [&red](Int32 channel) {
+    return [&red, channel](benchmark::State& state) { updateBar(state, red, channel); };
+  };
+  add("Update RGB", update(0))->MinTime(0.1);
+  add("Update HSV", update(3))->MinTime(0.1);
+  add("Update CMY", update(6))->MinTime(0.1);
+  add("drawSuggestions", [&window](benchmark::State& state) { drawSuggestions(state, window); })->MinTime(0.1);
+  add("drag", [&red, &hand](benchmark::State& state) { dragBar(state, red, hand); })->Iterations(kMoves);
+}
+
+void printControlRows(const Medians& medians) {
+  for (const char* family : {"RGB", "HSV", "CMY"}) {
+    printRow(std::string("Update of a bar at 121 by 20, ") + family, "at most 30 µs",
+             fixed(medians[std::string("Update ") + family] * 1e3, 1) + " µs");
+  }
+  printRow("drawSuggestions at 408 by 192", "at most 0.3 ms", fixed(medians["drawSuggestions"], 3) + " ms");
+  printRow("a drag on a bar: moves of the pointer handled, one by one", "at least 1000 a second",
+           fixed(1e3 / medians["drag"], 0) + " a second");
+}
+
+}  // namespace tavrelkin::bench

@@ -1,0 +1,14 @@
+#pragma once
+
+#include "bench/support/Medians.h"
+#include "e2e/support/Hand.h"
+#include "toolwindow/frmVesk.h"
+
+namespace tavrelkin::bench {
+
+// The colour controls of an unfolded tool window, which shows on the display of `hand`: the paint of a bar and of the
+// suggestions, and a drag on a bar.
+void addControlBenchmarks(frmVesk& window, test::Hand& hand);
+void printControlRows(const Medians& medians);
+
+}  // namespace tavrelkin::bench

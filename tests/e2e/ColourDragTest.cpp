@@ -1,0 +1,97 @@
+// Colours that travel by drag: between two windows, and to and from another program.
+
+#include <memory>
+
+#include <gtest/gtest.h>
+
+#include "e2e/support/ForeignColours.h"
+#include "e2e/support/ToolWindow.h"
+#include "e2e/support/WaitUntil.h"
+
+namespace tavrelkin::test {
+namespace {
+
+constexpr std::uint32_t kStart = 0x70ABFF;
+
+class ColourDragTest : public testing::Test {
+ protected:
+  void SetUp() override { tool_.unfold(); }
+
+  Session session_;
+  ToolWindow tool_{session_};
+};
+
+class TwoWindowsDragTest : public ColourDragTest {
+ protected:
+  void SetUp() override {
+    ColourDragTest::SetUp();
+    tool_.keys("Ctrl+N");
+    const auto isThere = [this] { return session_.windows.titled("Color: ").size() == 2; };
+    ASSERT_TRUE(waitUntil(isThere));
+    other_ = std::make_unique<ToolWindow>(session_, session_.windows.titled("Color: ").back());
+    session_.bringToFront(other_->window());
+    session_.windows.moveTo(other_->window(), 620, 40);
+    ASSERT_TRUE(waitUntil([this] { return session_.windows.area(other_->window()).x > 600; }));
+    other_->unfold();
+    ASSERT_TRUE(other_->paste(0x204060));
+  }
+
+  std::unique_ptr<ToolWindow> other_;
+};
+
+TEST_F(TwoWindowsDragTest, ABarTakesItsChannelOfTheColourFromTheOtherWindowsSwatch) {
+  session_.hand.altDrag(tool_.onSwatch(), other_->onBar(1, 20));
+  EXPECT_TRUE(other_->getsTitleOf(0x20AB60));
+  EXPECT_EQ(tool_.title(), titleOf(kStart));
+}
+
+TEST_F(TwoWindowsDragTest, AButtonTakesTheColourOfTheOther) {
+  session_.hand.altDrag(tool_.onScreen(28, 16), other_->onScreen(90, 16));
+  EXPECT_TRUE(other_->gets(kStart, 28, 16));
+  EXPECT_EQ(other_->title(), titleOf(0x204060));
+}
+
+TEST_F(TwoWindowsDragTest, ADragThatEndsNowhereChangesNothing) {
+  const ScreenPoint places[] = {tool_.onScreen(90, 310), other_->onSwatch(), {300, 700}};
+  for (const ScreenPoint& place : places)
+    session_.hand.altDrag(tool_.onSwatch(), place);
+  session_.hand.drag(tool_.onSwatch(), other_->onBar(0, 20));
+  session_.hand.beginAltDrag(tool_.onSwatch(), other_->onBar(1, 20));
+  session_.hand.keys("Escape");
+  session_.hand.endAltDrag();
+  ASSERT_TRUE(other_->paste(0x204061)) << "a sign that all before is done";
+  EXPECT_EQ(tool_.title(), titleOf(kStart));
+  EXPECT_TRUE(other_->gets(0x204061, 75, 296));
+}
+
+TEST_F(TwoWindowsDragTest, ADragOutlivesTheWindowItCameFrom) {
+  session_.hand.beginAltDrag(tool_.onSwatch(), tool_.onScreen(75, 390));
+  session_.windows.close(tool_.window());
+  EXPECT_TRUE(waitUntil([this] { return session_.windows.titled("Color: ").size() == 1; }));
+  session_.hand.moveTo(other_->onBar(1, 20));
+  session_.hand.moveTo(other_->onBar(1, 22));
+  session_.hand.endAltDrag();
+  EXPECT_TRUE(other_->paste(0x102030)) << "still alive";
+}
+
+TEST_F(ColourDragTest, AnotherProgramGivesColours) {
+  const ForeignColours foreign(session_.server);
+  session_.hand.drag(foreign.kButton, tool_.onBar(1, 20));
+  EXPECT_TRUE(tool_.getsTitleOf(0x70ABFF)) << "its green happens to be ours";
+  session_.hand.drag(foreign.kButton, tool_.onBar(0, 20));
+  EXPECT_TRUE(tool_.getsTitleOf(0x12ABFF));
+  session_.hand.drag(foreign.kShortColour, tool_.onBar(1, 20));
+  session_.hand.drag(foreign.kLongColourAndText, tool_.onBar(1, 20));
+  EXPECT_TRUE(tool_.getsTitleOf(0x12C0FF)) << "the text alone counts";
+  session_.hand.drag(foreign.kText, tool_.onBar(0, 20));
+  EXPECT_TRUE(tool_.getsTitleOf(0xC0C0FF));
+}
+
+TEST_F(ColourDragTest, AnotherProgramTakesColours) {
+  const ForeignColours foreign(session_.server);
+  session_.hand.altDrag(tool_.onSwatch(), foreign.kButton);
+  EXPECT_TRUE(waitUntil([&] { return foreign.taken() == "7070ABABFFFF\n"; })) << foreign.taken();
+}
+
+}  // namespace
+}  // namespace tavrelkin::test

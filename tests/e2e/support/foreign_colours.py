@@ -1,0 +1,61 @@
+"""Another graphics program, as far as the exchange of colours by drag goes.
+
+A window without a frame at (900, 600) holds, each 60 by 60 and from left to right: the toolkit's own colour button, which
+gives and takes colours; and three that only give: a colour in too few bytes, a colour in too many bytes beside a text
+that names one, and nothing but a text that names one. Says "ready" when it can be used, then each colour that the button takes,
+as four hexadecimal digits a channel.
+"""
+import gi
+
+gi.require_version("Gdk", "3.0")
+gi.require_version("Gtk", "3.0")
+from gi.repository import Gdk, Gtk  # noqa: E402
+
+COLOUR = "application/x-color"
+TEXT = "text/plain;charset=utf-8"
+
+
+def colour_button():
+    button = Gtk.ColorButton()
+    button.set_rgba(Gdk.RGBA(0x12 / 255, 0xAB / 255, 0xF0 / 255, 1))
+
+    def tell(*_):
+        rgba = button.get_rgba()
+        print("".join("%04X" % round(part * 65535) for part in (rgba.red, rgba.green, rgba.blue)), flush=True)
+
+    button.connect("color-set", tell)
+    return button
+
+
+def source(payloads):
+    box = Gtk.EventBox()
+    box.drag_source_set(Gdk.ModifierType.BUTTON1_MASK, [], Gdk.DragAction.COPY)
+    box.drag_source_set_target_list([Gtk.TargetEntry.new(kind, 0, i) for i, (kind, _) in enumerate(payloads)])
+
+    def give(_widget, _context, data, info, _time):
+        kind, payload = payloads[info]
+        data.set(Gdk.Atom.intern(kind, False), 16 if kind == COLOUR else 8, payload)
+
+    box.connect("drag-data-get", give)
+    return box
+
+
+def main():
+    window = Gtk.Window(type=Gtk.WindowType.POPUP)
+    row = Gtk.Box()
+    for widget in (
+        colour_button(),
+        source([(COLOUR, b"\x12\x34\x56")]),
+        source([(COLOUR, bytes(30)), (TEXT, b"#00C0FF")]),
+        source([(TEXT, b"#C000FF")]),
+    ):
+        widget.set_size_request(60, 60)
+        row.pack_start(widget, False, False, 0)
+    window.add(row)
+    window.move(900, 600)
+    window.show_all()
+    window.connect("map-event", lambda *_: print("ready", flush=True))
+    Gtk.main()
+
+
+main()
