@@ -47,6 +47,11 @@ std::optional<std::uint32_t> FakeDesktop::selectColor(std::uint32_t initial, con
   return colourChoice(initial);
 }
 
+std::optional<std::string> FakeDesktop::chooseSaveFile(const std::string&, const std::string& name) {
+  saveNames.push_back(name);
+  return saveChoice(name);
+}
+
 FakeDesktop::FakeAlarm* FakeDesktop::next(TimePoint until) const {
   FakeAlarm* first = nullptr;
   for (FakeAlarm* alarm : alarms_) {

@@ -24,12 +24,19 @@ class FakeDesktop : public Desktop {
   bool readable = true;
   // What the user does in the colour dialog, given the colour that it begins at: nothing is giving up.
   std::function<std::optional<std::uint32_t>(std::uint32_t)> colourChoice = [](std::uint32_t) { return std::nullopt; };
+  // What the user does in the save dialog, given the name that it begins with: a path, or nothing for giving up.
+  std::function<std::optional<std::string>(const std::string&)> saveChoice = [](const std::string&) {
+    return std::nullopt;
+  };
+  // Where the program's own files go. The desktop has no such place while it is empty.
+  std::string applicationData;
   std::chrono::nanoseconds frame{std::chrono::milliseconds(16)};
 
   // What the program did.
   std::vector<std::string> messages;
   std::vector<ScreenPoint> pixelsRead;
   std::vector<std::string> colourPrompts;
+  std::vector<std::string> saveNames;
   int turns = 0;
   bool watchesPointer() const { return static_cast<bool>(moved_); }
 
@@ -54,6 +61,8 @@ class FakeDesktop : public Desktop {
   std::unique_ptr<Alarm> newAlarm(std::function<void()> ring) override;
   void messageBox(const std::string& text) override { messages.push_back(text); }
   std::optional<std::uint32_t> selectColor(std::uint32_t initial, const std::string& prompt) override;
+  std::optional<std::string> chooseSaveFile(const std::string& filter, const std::string& name) override;
+  std::string applicationDataFolder() override { return applicationData; }
 
   // Has each look at the clock take some time, for code that works until its time is over.
   std::chrono::nanoseconds costOfLook{0};

@@ -79,6 +79,16 @@ class Desktop {
   // Lets the user choose a colour, 0xRRGGBB, in a dialog over the front window that begins at `initial` and has
   // `prompt` as its title. Returns when it is closed; nothing where the user gives up.
   virtual std::optional<std::uint32_t> selectColor(std::uint32_t initial, const std::string& prompt) = 0;
+
+  // Lets the user choose where to save a file, in a dialog over the front window that begins with `name` and shows the
+  // files that `filter`, as "Swatches (*.aco)", lets through; all where that is empty. Asks before it gives the path of
+  // an existing file, and adds nothing to what the user typed. Returns when it is closed; nothing where the user gives
+  // up.
+  virtual std::optional<std::string> chooseSaveFile(const std::string& filter, const std::string& name) = 0;
+
+  // The path of the folder for the program's own files of this user, which is made first where it is missing. If that
+  // can't be done there is still a path, but no folder. Empty on a desktop without such a place.
+  virtual std::string applicationDataFolder() = 0;
 };
 
 // The desktop in use. It must be installed before any other part of the runtime is used.

@@ -9,6 +9,8 @@
 
 #include <QApplication>
 #include <QColorDialog>
+#include <QFile>
+#include <QFileDialog>
 #include <QMessageBox>
 #include <QMetaObject>
 #include <QPointer>
@@ -16,6 +18,7 @@
 #include <QTimer>
 
 #include "runtime/desktop/ScreenReader.h"
+#include "runtime/desktop/native/ApplicationDataFolder.h"
 #include "runtime/desktop/native/NoScreenReader.h"
 #include "runtime/desktop/x11/X11ScreenReader.h"
 
@@ -55,6 +58,14 @@ std::unique_ptr<ScreenReader> makeScreenReader() {
   if (QGuiApplication::platformName() == "xcb")
     if (auto reader = makeX11ScreenReader(endProgram)) return reader;
   return std::make_unique<NoScreenReader>(kWhyNotHere);
+}
+
+// A dialog that has just been closed may still count as active, though it goes soon, and would take one over it along.
+QWidget* frontWindow() {
+  QWidget* window = QApplication::activeWindow();
+  while (window && !window->isVisible())
+    window = window->parentWidget();
+  return window;
 }
 
 class NativeAlarm final : public Alarm {
@@ -97,6 +108,8 @@ class NativeDesktop final : public Desktop {
 
   void messageBox(const std::string& text) override;
   std::optional<std::uint32_t> selectColor(std::uint32_t initial, const std::string& prompt) override;
+  std::optional<std::string> chooseSaveFile(const std::string& filter, const std::string& name) override;
+  std::string applicationDataFolder() override { return makeApplicationDataFolder(); }
 
  private:
   std::unique_ptr<ScreenReader> reader_;
@@ -113,7 +126,7 @@ std::chrono::nanoseconds NativeDesktop::frameInterval() const {
 
 void NativeDesktop::messageBox(const std::string& text) {
   // The window underneath can be closed meanwhile, which takes the box with it.
-  const QPointer<QMessageBox> box(new QMessageBox(QApplication::activeWindow()));
+  const QPointer<QMessageBox> box(new QMessageBox(frontWindow()));
   box->setWindowTitle("Tavrelkin");
   box->setTextFormat(Qt::PlainText);
   box->setText(QString::fromStdString(text));
@@ -123,13 +136,25 @@ void NativeDesktop::messageBox(const std::string& text) {
 }
 
 std::optional<std::uint32_t> NativeDesktop::selectColor(std::uint32_t initial, const std::string& prompt) {
-  const QPointer<QColorDialog> dialog(new QColorDialog(QColor::fromRgb(initial), QApplication::activeWindow()));
+  const QPointer<QColorDialog> dialog(new QColorDialog(QColor::fromRgb(initial), frontWindow()));
   dialog->setWindowTitle(QString::fromStdString(prompt));
   const bool accepted = dialog->exec() == QDialog::Accepted;
   if (!dialog) return std::nullopt;
   dialog->deleteLater();
   if (!accepted) return std::nullopt;
   return dialog->selectedColor().rgb() & 0xFFFFFF;
+}
+
+std::optional<std::string> NativeDesktop::chooseSaveFile(const std::string& filter, const std::string& name) {
+  const QPointer<QFileDialog> dialog(new QFileDialog(frontWindow()));
+  dialog->setAcceptMode(QFileDialog::AcceptSave);
+  if (!filter.empty()) dialog->setNameFilter(QString::fromStdString(filter));
+  dialog->selectFile(QString::fromStdString(name));
+  const bool accepted = dialog->exec() == QDialog::Accepted;
+  if (!dialog) return std::nullopt;
+  dialog->deleteLater();
+  if (!accepted) return std::nullopt;
+  return QFile::encodeName(dialog->selectedFiles().constFirst()).toStdString();
 }
 
 }  // namespace
