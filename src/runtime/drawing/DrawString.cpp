@@ -3,7 +3,8 @@
 #include <QPainter>
 
 #include "runtime/drawing/Graphics.h"
-#include "runtime/qt/TextLabel.h"
+#include "runtime/qt/Convert.h"
+#include "runtime/qt/Fonts.h"
 
 namespace tavrelkin {
 
@@ -19,8 +20,8 @@ void Graphics::DrawString(const String& text, Int32 x, Int32 y) {
                static_cast<qsizetype>(sizeof(std::uint32_t)) * Width(), QImage::Format_RGB32);
   QPainter painter(&image);
   painter.setFont(fontFor("System", TextSize, false));
-  painter.setPen(QColor::fromRgb(ForeColor.bits));
-  painter.drawText(x, y, QString::fromStdString(text));
+  painter.setPen(toQt(ForeColor));
+  painter.drawText(x, y, toQt(text));
 }
 
 }  // namespace tavrelkin

@@ -2,6 +2,7 @@
 
 #include "runtime/base/Ref.h"
 #include "runtime/drawing/Graphics.h"
+#include "runtime/drawing/RGBSurface.h"
 #include "runtime/drawing/Surface.h"
 
 namespace tavrelkin {
@@ -19,6 +20,9 @@ class Picture : public Object {
   Int32 Depth() const { return depth_; }
 
   tavrelkin::Graphics& Graphics() { return graphics_; }
+
+  // The pixels for reading; of use as long as the picture lives.
+  tavrelkin::RGBSurface RGBSurface() const { return tavrelkin::RGBSurface(surface_); }
 
   // The mask as a picture of the same size: white is transparent, black opaque. Where there is none yet, a white one is
   // made if `create` says so, else the result is nil.

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "runtime/concurrency/Scheduler.h"
+#include "runtime/drawing/Picture.h"
 #include "runtime/gui/Window.h"
 #include "runtime/qt/CanvasWidget.h"
 #include "runtime/qt/Delivery.h"
@@ -10,7 +11,10 @@
 namespace tavrelkin {
 
 Canvas::Canvas(Window& owner, String name)
-    : RectControl(owner, std::move(name), new CanvasWidget(*this)), surface_(0, 0, kWhite), graphics_(surface_, this) {}
+    : RectControl(owner, std::move(name), new CanvasWidget(*this)),
+      Backdrop(nullptr, [this](const Ref<Picture>&) { backdropChanged(); }),
+      surface_(0, 0, kWhite),
+      graphics_(surface_, this) {}
 
 Canvas::~Canvas() {
   widget().detach();
@@ -31,7 +35,13 @@ void Canvas::Refresh(bool now) {
 
 void Canvas::paintAfresh() {
   surface_.fill(ownerWindow().BackColor);
+  if (Backdrop.get()) tavrelkin::Graphics(surface_).DrawPicture(*Backdrop.get(), 0, 0);
   deliver(ownerWindow(), [this] { Event_Paint(graphics_); });
+}
+
+// A canvas that doesn't show yet takes its backdrop along when it is painted first.
+void Canvas::backdropChanged() {
+  if (shown_) Refresh(false);
 }
 
 void Canvas::resized() {
@@ -39,6 +49,11 @@ void Canvas::resized() {
   surface_ = Surface(Width, Height, ownerWindow().BackColor);
   if (shown_) paintAfresh();
   widget().showSoon();
+}
+
+// The widget stays enabled, since a disabled one would take no drop.
+void Canvas::enabledChanged() {
+  if (shown_) Refresh(false);
 }
 
 void Canvas::drawn() {

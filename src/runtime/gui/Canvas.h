@@ -18,17 +18,23 @@ constexpr std::string_view kDownArrow = "\x1F";
 
 // A control that the program draws by itself. Its surface keeps what is drawn on it, in a paint event or at any other
 // time, until the next paint event, ahead of which it is erased to the window's BackColor. That event comes when the
-// canvas is first shown, becomes visible or changes size, and with Refresh; a window that is uncovered or moved raises
-// none.
+// canvas is first shown, becomes visible, changes size, gets another backdrop, is enabled or disabled, and with
+// Refresh; a window that is uncovered or moved raises none. A canvas that is disabled gets no press, move or key, but
+// takes drops.
 class Canvas : public RectControl, private DrawingObserver {
  public:
   Canvas(Window& owner, String name);
   ~Canvas() override;
 
+  // A picture that lies behind the drawing: at the top left corner, at its natural size, where its mask lets it. None
+  // at first. Setting it shows it at once.
+  Property<Ref<Picture>> Backdrop;
+
   // Draws straight on the control, also outside a paint event; reading a pixel gives what was drawn.
   tavrelkin::Graphics& Graphics() { return graphics_; }
 
-  // Erases the surface and raises Paint at once; `now` also has it on the screen before this returns.
+  // Erases the surface down to the backdrop and raises Paint at once; `now` also has it on the screen before this
+  // returns.
   void Refresh(bool now) override;
 
   // The events, for the host. Coordinates count from the canvas's top left corner and may lie outside of it during a
@@ -60,12 +66,14 @@ class Canvas : public RectControl, private DrawingObserver {
 
  protected:
   void resized() override;
+  void enabledChanged() override;
 
  private:
   friend class CanvasWidget;
 
   void drawn() override;
   void paintAfresh();
+  void backdropChanged();
 
   CanvasWidget& widget() const;
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <QCursor>
+#include <QToolTip>
 #include <QWidget>
 
 #include "runtime/gui/Window.h"
@@ -18,8 +20,8 @@ RectControl::RectControl(Window& owner, String name, QWidget* native, const Rect
       Width(0, [this](Int32) { applyGeometry(); }),
       Height(0, [this](Int32) { applyGeometry(); }),
       Visible(true, [this](bool on) { native_->setVisible(on); }),
-      Enabled(true, [this](bool on) { native_->setEnabled(on); }),
-      HelpTag({}, [this](const String& text) { native_->setToolTip(toDisplayText(text)); }),
+      Enabled(true, [this](bool) { enabledChanged(); }),
+      HelpTag({}, [this](const String&) { applyHelpTag(); }),
       AcceptFocus(false, [this](bool) { applyFocusPolicy(); }),
       TabStop(false, [this](bool) { applyFocusPolicy(); }),
       native_(native),
@@ -83,6 +85,16 @@ void RectControl::applyGeometry() {
   const Int32 top = Top - (parent_ ? parent_->Top.get() : 0);
   native_->setGeometry(left, top, Width, Height);
   resized();
+}
+
+// A tip that is on show changes with it.
+void RectControl::applyHelpTag() {
+  native_->setToolTip(toDisplayText(HelpTag));
+  if (QToolTip::isVisible() && native_->underMouse()) QToolTip::showText(QCursor::pos(), native_->toolTip(), native_);
+}
+
+void RectControl::enabledChanged() {
+  native_->setEnabled(Enabled);
 }
 
 void RectControl::applyFocusPolicy() {

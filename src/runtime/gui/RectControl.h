@@ -40,7 +40,8 @@ class RectControl : public Control {
   void AcceptMacDataDrop(const String& type);
   void AcceptTextDrop();
 
-  // An empty drag item whose picture is the outline of a rectangle, given in the window's pixels.
+  // An empty drag item whose picture is the outline of a rectangle, given in the window's pixels. Of use within the
+  // event that made it.
   Ref<DragItem> NewDragItem(Int32 left, Int32 top, Int32 width, Int32 height);
 
   // Whether a drop of the item would be taken.
@@ -58,9 +59,12 @@ class RectControl : public Control {
 
   // Called after a change of size.
   virtual void resized() {}
+  // Called after a change of Enabled.
+  virtual void enabledChanged();
 
  private:
   void applyGeometry();
+  void applyHelpTag();
   void applyFocusPolicy();
 
   std::vector<String> acceptedTypes_;

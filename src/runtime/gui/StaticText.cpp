@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "runtime/qt/Convert.h"
+#include "runtime/qt/Fonts.h"
 #include "runtime/qt/TextLabel.h"
 
 namespace tavrelkin {

@@ -11,8 +11,7 @@ class TextLabel;
 enum class TextAlignment { left, centred, right };
 
 // A text that the user can't edit. A single line stands in the middle of the control's height, several begin at its
-// top. A line that is too wide for the control is set narrower until it fits, down to two
-// thirds of its width.
+// top. A line that is too wide for the control is set narrower until it fits, down to two thirds of its width.
 class StaticText : public RectControl {
  public:
   // `parent` is the control that the text is part of, or null; the text shows and moves with it.

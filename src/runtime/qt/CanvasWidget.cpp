@@ -29,8 +29,16 @@ String asOneByte(const QKeyEvent& event) {
     case Qt::Key_Down:
       return String(kDownArrow);
     default:
+      // With the command key it is a command, taken or not, and its control character might pass for an arrow.
+      if (event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier)) return {};
       return event.text().toUtf8().left(1).toStdString();
   }
+}
+
+// A control copies what is dropped, and never takes it away from where it came from.
+void takeCopy(QDropEvent& event) {
+  event.setDropAction(Qt::CopyAction);
+  event.accept();
 }
 
 // The pixel that a position lies in, also left of and above the widget.
@@ -63,12 +71,12 @@ QRect CanvasWidget::takeChanges() {
   const Surface& surface = canvas_->surface_;
   const int width = surface.width();
   const int height = surface.height();
-  if (picture_.size() != QSize(width, height)) {
-    picture_ = QImage(width, height, QImage::Format_RGB32);
-    picture_.fill(Qt::transparent);
-  }
+  const bool isNew = picture_.size() != QSize(width, height);
+  if (isNew) picture_ = QImage(width, height, QImage::Format_RGB32);
   const std::size_t bytes = static_cast<std::size_t>(width) * sizeof(std::uint32_t);
-  const auto changed = [&](int y) { return std::memcmp(picture_.constScanLine(y), surface.row(y), bytes) != 0; };
+  const auto changed = [&](int y) {
+    return isNew || std::memcmp(picture_.constScanLine(y), surface.row(y), bytes) != 0;
+  };
   int first = 0;
   int end = height;
   while (first < end && !changed(first))
@@ -96,7 +104,7 @@ void CanvasWidget::paintEvent(QPaintEvent* event) {
 }
 
 void CanvasWidget::mousePressEvent(QMouseEvent* event) {
-  if (!canvas_ || event->button() != Qt::LeftButton) return event->ignore();
+  if (!canvas_ || !canvas_->Enabled || event->button() != Qt::LeftButton) return event->ignore();
   const QPoint at = pixelOf(*event);
   granted_ = deliver(canvas_->ownerWindow(), [&] { return canvas_->Event_MouseDown(at.x(), at.y()); });
 }
@@ -109,7 +117,7 @@ void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
   deliver(canvas_->ownerWindow(), [&] {
     if (granted_) {
       canvas_->Event_MouseDrag(at.x(), at.y());
-    } else if (event->buttons() == Qt::NoButton) {
+    } else if (event->buttons() == Qt::NoButton && canvas_->Enabled) {
       canvas_->Event_MouseMove(at.x(), at.y());
     }
   });
@@ -130,19 +138,19 @@ void CanvasWidget::leaveEvent(QEvent*) {
 }
 
 void CanvasWidget::dragEnterEvent(QDragEnterEvent* event) {
-  if (canvas_ && canvas_->accepts(*fromMime(*event->mimeData()))) event->acceptProposedAction();
+  if (canvas_ && canvas_->accepts(*fromMime(*event->mimeData()))) takeCopy(*event);
 }
 
 void CanvasWidget::dropEvent(QDropEvent* event) {
   if (!canvas_) return;
-  event->acceptProposedAction();
+  takeCopy(*event);
   const Ref<DragItem> item = fromMime(*event->mimeData());
   deliver(canvas_->ownerWindow(), [&] { canvas_->Event_DropObject(item, 0); });
 }
 
 // Keys are taken here, ahead of the tabulator's way to the next control, which would never let the canvas see it.
 bool CanvasWidget::event(QEvent* event) {
-  if (canvas_ && event->type() == QEvent::KeyPress) {
+  if (event->type() == QEvent::KeyPress && canvas_ && canvas_->Enabled) {
     const String key = asOneByte(*static_cast<QKeyEvent*>(event));
     const auto handler = [&] { return canvas_->Event_KeyDown(key); };
     if (!key.empty() && deliver(canvas_->ownerWindow(), handler)) return true;

@@ -34,12 +34,12 @@ class CanvasWidget : public QWidget {
   bool event(QEvent* event) override;
 
  private:
-  Canvas* canvas_;
-  bool granted_ = false;  // the press now held was accepted by the canvas
   // Brings the picture up to date; gives the rows that differ from what was shown before.
   QRect takeChanges();
 
-  QImage picture_;  // the surface as it was last shown
+  Canvas* canvas_;
+  bool granted_ = false;  // the press now held was accepted by the canvas
+  QImage picture_;        // the surface as it was last shown
   bool showPosted_ = false;
 };
 

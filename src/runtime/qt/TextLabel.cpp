@@ -2,21 +2,10 @@
 
 #include <algorithm>
 
-#include <QApplication>
 #include <QFontMetrics>
 #include <QPainter>
 
-#include "runtime/qt/Convert.h"
-
 namespace tavrelkin {
-
-QFont fontFor(const String& family, Int32 pixels, bool bold) {
-  QFont font = QApplication::font();
-  if (family != "System") font.setFamily(toQt(family));
-  font.setPixelSize(std::max(pixels, 1));
-  font.setBold(bold);
-  return font;
-}
 
 TextLabel::TextLabel() {
   setTextFormat(Qt::PlainText);

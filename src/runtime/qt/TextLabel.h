@@ -7,9 +7,6 @@
 
 namespace tavrelkin {
 
-// The font of a family, of a height in pixels. "System" is the desktop's own family.
-QFont fontFor(const String& family, Int32 pixels, bool bold);
-
 // A label whose single line stands in the middle of its height. It sets its text narrower where it would be cut off.
 // Its lines have the same pitch in every family of fonts, since other controls stand beside them.
 class TextLabel : public QLabel {

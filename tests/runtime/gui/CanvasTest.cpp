@@ -1,6 +1,10 @@
 #include <string>
+#include <utility>
 #include <vector>
 
+#include <QCoreApplication>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QWidget>
 
 #include "runtime/gui/Canvas.h"
@@ -26,6 +30,7 @@ class Host : public Window {
     canvas.MouseDrag = [this](Int32 x, Int32 y) { note("drag", x, y); };
     canvas.MouseUp = [this](Int32 x, Int32 y) { note("up", x, y); };
     canvas.MouseMove = [this](Int32 x, Int32 y) { note("move", x, y); };
+    canvas.DropObject = [this](const Ref<DragItem>& item, Int32) { log.push_back("drop " + item->Text()); };
     canvas.KeyDown = [this](const String& key) {
       log.push_back("key " + Str(AscB(key)));
       return false;
@@ -87,6 +92,46 @@ TEST_F(CanvasTest, KeysComeAsOneByteAndTheTabulatorStillMovesOn) {
   }
   const std::vector<std::string> expected{"key 28", "key 29", "key 30", "key 31", "key 97", "key 9"};
   EXPECT_EQ(window->log, expected) << "arrows, a letter, Shift alone, the tabulator";
+}
+
+TEST_F(CanvasTest, ACommandKeyIsNoCharacter) {
+  window->canvas.SetFocus();
+  gesture::shortcut(window->canvas, "Cmd+]");
+  gesture::shortcut(window->canvas, "Cmd+O");
+  EXPECT_EQ(window->log, std::vector<std::string>());
+}
+
+// Gives the action that the canvas agreed to, and whether the drop was taken.
+std::pair<Qt::DropAction, bool> dropText(const Canvas& canvas, Qt::DropActions offered, Qt::KeyboardModifiers held) {
+  QWidget& widget = canvas.native();
+  QMimeData data;
+  data.setText("#FF8000");
+  QDragEnterEvent enter(QPoint(2, 2), offered, &data, Qt::LeftButton, held);
+  QCoreApplication::sendEvent(&widget, &enter);
+  if (!enter.isAccepted()) return {Qt::IgnoreAction, false};
+  QDropEvent drop(QPointF(2, 2), offered, &data, Qt::LeftButton, held);
+  QCoreApplication::sendEvent(&widget, &drop);
+  return {drop.dropAction(), drop.isAccepted()};
+}
+
+TEST_F(CanvasTest, ADropIsCopiedAndNeverMoved) {
+  window->canvas.AcceptTextDrop();
+  const auto copied = std::pair(Qt::CopyAction, true);
+  EXPECT_EQ(dropText(window->canvas, Qt::CopyAction | Qt::MoveAction, Qt::NoModifier), copied);
+  EXPECT_EQ(dropText(window->canvas, Qt::CopyAction | Qt::MoveAction, Qt::ShiftModifier), copied);
+  EXPECT_EQ(window->log, std::vector<std::string>(2, "drop #FF8000"));
+}
+
+TEST_F(CanvasTest, ADisabledCanvasIsPaintedAnewAndTakesDropsAlone) {
+  window->canvas.AcceptTextDrop();
+  window->canvas.SetFocus();
+  window->canvas.Enabled = false;
+  EXPECT_EQ(window->paints, 2);
+  gesture::hover(window->canvas, 1, 1);
+  gesture::click(window->canvas, 1, 1);
+  gesture::key(window->canvas, Qt::Key_A);
+  EXPECT_TRUE(dropText(window->canvas, Qt::CopyAction, Qt::NoModifier).second);
+  EXPECT_EQ(window->log, std::vector<std::string>{"drop #FF8000"});
 }
 
 TEST_F(CanvasTest, AHandlerMayCloseTheWindow) {

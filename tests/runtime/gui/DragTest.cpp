@@ -31,5 +31,14 @@ TEST(DragTest, AForeignColourComesInAsThePrivateTypeUnlessItIsMalformed) {
   EXPECT_FALSE(fromMime(malformed)->MacDataAvailable("hcol"));
 }
 
+TEST(DragTest, TextComesInUnderEitherOfItsNames) {
+  QMimeData named;
+  named.setData("text/plain;charset=utf-8", "#00C0FF");
+  EXPECT_EQ(fromMime(named)->Text(), "#00C0FF");
+  QMimeData plain;
+  plain.setData("text/plain", "#C000FF");
+  EXPECT_EQ(fromMime(plain)->Text(), "#C000FF");
+}
+
 }  // namespace
 }  // namespace tavrelkin
