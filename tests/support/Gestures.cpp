@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "runtime/gui/Window.h"
+#include "runtime/qt/Convert.h"
 #include "runtime/qt/Shortcut.h"
 #include "runtime/qt/WindowWidget.h"
 
@@ -12,13 +13,15 @@ namespace tavrelkin::gesture {
 
 namespace {
 
-// The test library's own mouse events end at the widget's edge; a drag does not.
+// The test library's own mouse events end at the widget's edge; a drag does not. Marked as the user's, since the
+// toolkit lets no other press move the keyboard.
 void send(const RectControl& control, QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held, Int32 x,
           Int32 y) {
   QWidget& widget = control.native();
   const QPointF at(x, y);
   QMouseEvent event(type, at, widget.mapToGlobal(at), button, held, Qt::NoModifier);
-  QCoreApplication::sendEvent(&widget, &event);
+  QSpontaneKeyEvent::setSpontaneous(&event);
+  QCoreApplication::instance()->notify(&widget, &event);
 }
 
 }  // namespace
@@ -48,6 +51,10 @@ void key(const RectControl& control, int qtKey) {
   QTest::keyClick(&control.native(), static_cast<Qt::Key>(qtKey));
 }
 
+void type(const RectControl& control, const String& text) {
+  QTest::keyClicks(&control.native(), toQt(text));
+}
+
 bool hasKeyboard(const RectControl& control) {
   return control.native().hasFocus();
 }
@@ -55,6 +62,11 @@ bool hasKeyboard(const RectControl& control) {
 void shortcut(const Window& window, const String& keys) {
   EXPECT_TRUE(QTest::qWaitForWindowActive(&window.native()));
   QTest::keySequence(&window.native(), toKeySequence(keys));
+}
+
+void shortcut(const RectControl& control, const String& keys) {
+  EXPECT_TRUE(QTest::qWaitForWindowActive(control.native().window()));
+  QTest::keySequence(&control.native(), toKeySequence(keys));
 }
 
 void closeByFrame(const Window& window) {

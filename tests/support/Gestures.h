@@ -15,12 +15,16 @@ void hover(const RectControl& control, Int32 x, Int32 y);
 
 // A key goes to the control. `qtKey` is the toolkit's code: an upper-case letter stands for itself.
 void key(const RectControl& control, int qtKey);
+// The keys of a text go to the control, one by one. The text is in ASCII.
+void type(const RectControl& control, const String& text);
 
 // Whether keys go to the control, as long as its window is in front.
 bool hasKeyboard(const RectControl& control);
 
 // A shortcut such as "Cmd+Option+C" is pressed while the window is in front.
 void shortcut(const Window& window, const String& keys);
+// The same while the control has the keyboard.
+void shortcut(const RectControl& control, const String& keys);
 
 // The user closes, or minimises, the window by its frame.
 void closeByFrame(const Window& window);

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <array>
+#include <optional>
+
+#include "controls/zrColorBox.h"
+#include "runtime/gui/Line.h"
+#include "runtime/gui/PopupMenu.h"
+#include "runtime/gui/PushButton.h"
+#include "runtime/gui/Rectangle.h"
+#include "runtime/gui/StaticText.h"
+#include "runtime/gui/TextField.h"
+#include "runtime/gui/Window.h"
+
+namespace tavrelkin {
+
+// The simulator: it shows how one colour looks to the three kinds of dichromat on a display of a given gamma, and any
+// of the three results at large beside the colour itself. The colour comes in by a drop on the first box or by Paste. A
+// new window has simulated nothing yet.
+class frmColorBlind : public Window {
+ public:
+  frmColorBlind();
+
+  // The live default window; made and shown where there is none.
+  static Ref<frmColorBlind> Default();
+
+  // Part of the class, but neither read nor written: the gamma in force is the text of txtGamma.
+  Double gamma = 0;
+  // The "Protanopia" result of the last update. The user's own colour is the value of cmdColor[0].
+  Color SelectedColor;
+
+  // Runs the simulation of a colour and fills every display; the large field shows "Protanopia" again. A gamma of 0, or
+  // one that can't be read, is told to the user and replaced by 1.80 in the field, while this run goes on with 2.2.
+  void SetValue(Color c);
+
+  // Controls. The chosen gamma goes into the field only; the next update takes it from there.
+  void cmbGamma_Change();
+  // The first box takes a dropped colour, the results don't.
+  bool cmdColor_ColorDrop(zrColorBox& box, Color c);
+  // A result is shown at large.
+  void cmdColor_Action(zrColorBox& box);
+  void cmdUpdate_Action();
+
+  void AddMenuHandlers() override;
+  void Event_Activate() override;
+
+  // The menu command; reports itself as handled.
+  bool EditPaste();
+
+  Rectangle Rectangle1{*this, "Rectangle1"};
+  PopupMenu cmbGamma{*this, "cmbGamma"};
+  StaticText StaticText1{*this, "StaticText1"};
+  TextField txtGamma{*this, "txtGamma"};
+  // The normal colour, then the three results.
+  std::array<zrColorBox, 4> cmdColor{
+      {{*this, "cmdColor"}, {*this, "cmdColor"}, {*this, "cmdColor"}, {*this, "cmdColor"}}};
+  StaticText StaticText2{*this, "StaticText2"};
+  StaticText StaticText3{*this, "StaticText3"};
+  // The result under view, and on top of it the normal colour.
+  std::array<Rectangle, 2> colors{{{*this, "colors"}, {*this, "colors"}}};
+  PushButton cmdUpdate{*this, "cmdUpdate"};
+  StaticText lblColor{*this, "lblColor"};
+  StaticText StaticText5{*this, "StaticText5"};
+  StaticText StaticText6{*this, "StaticText6"};
+  StaticText StaticText7{*this, "StaticText7"};
+  Line Line1{*this, "Line1"};
+  StaticText lblRColor{*this, "lblRColor"};
+
+ private:
+  void layOut();
+  void styleTexts();
+  void dress();
+  void wire();
+
+  // The gamma that the field asks for, or nothing, after the user was told.
+  std::optional<Double> chosenGamma();
+};
+
+}  // namespace tavrelkin

@@ -1,0 +1,234 @@
+#include <initializer_list>
+
+#include "app/menubar/MenuBar1.h"
+#include "color/zrXYZ.h"
+#include "runtime/gui/Clipboard.h"
+#include "simulator/frmColorBlind.h"
+#include "support/DragGestures.h"
+#include "support/Gestures.h"
+#include "support/RuntimeTest.h"
+
+namespace tavrelkin {
+namespace {
+
+constexpr int kKeyTab = 0x01000001;
+constexpr int kKeyDelete = 0x01000007;
+constexpr int kKeyDown = 0x01000015;
+
+constexpr auto kMessage = "Invalid gamma value. Using default value.";
+
+class frmColorBlindTest : public RuntimeTest {
+ protected:
+  frmColorBlindTest() {
+    Application::current().MenuBar = MenuBar1::Instance();
+    window->Show();
+    EXPECT_TRUE(waitUntil([this] { return gesture::hasKeyboard(window->cmdColor[0]); }));
+  }
+
+  void update() const { gesture::click(window->cmdUpdate, 40, 10); }
+  void show(std::size_t result) const { gesture::click(window->cmdColor.at(result), 10, 10); }
+  void paste(const String& text) const {
+    Clipboard().SetText(text);
+    gesture::shortcut(*window, "Cmd+V");
+  }
+  // The user replaces what stands in the gamma field.
+  void typeGamma(const String& text) const {
+    gesture::shortcut(window->txtGamma, "Cmd+A");
+    gesture::key(window->txtGamma, kKeyDelete);
+    gesture::type(window->txtGamma, text);
+    EXPECT_EQ(window->txtGamma.Text.get(), text);
+  }
+
+  // Every place where a finished update shows.
+  void expectResults(Color c, std::initializer_list<Color> results) const {
+    const Color first = *results.begin();
+    EXPECT_EQ(window->cmdColor[0].Value, c);
+    std::size_t i = 0;
+    for (const Color result : results)
+      EXPECT_EQ(window->cmdColor.at(++i).Value, result) << i;
+    EXPECT_EQ(window->colors[0].FillColor, first);
+    EXPECT_EQ(window->colors[1].FillColor, c);
+    EXPECT_EQ(window->SelectedColor, first);
+  }
+
+  const Ref<frmColorBlind> window = New<frmColorBlind>();
+};
+
+// By worked examples: pure red, and a grey that takes a tint.
+constexpr Color kGrey{0x808080};
+const std::initializer_list<Color> kGreyAt18{RGB(134, 127, 127), RGB(145, 123, 128), RGB(133, 126, 138)};
+const std::initializer_list<Color> kGreyAt22{RGB(133, 127, 127), RGB(142, 124, 128), RGB(132, 126, 136)};
+const std::initializer_list<Color> kRedAt18{RGB(130, 110, 21), RGB(149, 103, 0), RGB(254, 14, 0)};
+
+TEST_F(frmColorBlindTest, ShowsNothingUntilTheFirstUpdateWhichIsOfBlack) {
+  EXPECT_EQ(window->Title.get(), "Color Blind Simulator");
+  EXPECT_EQ(window->lblColor.Text.get(), "-");
+  EXPECT_EQ(window->lblRColor.Text.get(), "-");
+  EXPECT_EQ(window->txtGamma.Text.get(), "1.8");
+  EXPECT_EQ(window->cmbGamma.ListIndex, 0);
+  EXPECT_EQ(window->colors[0].FillColor, kWhite);
+  EXPECT_EQ(window->colors[1].FillColor, kWhite);
+  update();
+  expectResults(kBlack, {kBlack, kBlack, kBlack});
+  EXPECT_EQ(window->lblColor.Text.get(), "Color: 0.0.0, 0.0.0, #000000");
+  EXPECT_EQ(window->lblRColor.Text.get(), "Color: 0.0.0, 0.0.0, #000000");
+}
+
+TEST_F(frmColorBlindTest, ControlsAreFoundByNameAndIndex) {
+  const struct {
+    const char* name;
+    Int32 index;
+    const Control* control;
+  } rows[] = {{"cmdColor", 0, &window->cmdColor[0]}, {"cmdColor", 1, &window->cmdColor[1]},
+              {"cmdColor", 2, &window->cmdColor[2]}, {"cmdColor", 3, &window->cmdColor[3]},
+              {"colors", 0, &window->colors[0]},     {"colors", 1, &window->colors[1]},
+              {"txtGamma", 0, &window->txtGamma},    {"cmbGamma", 0, &window->cmbGamma}};
+  for (const auto& row : rows)
+    EXPECT_EQ(window->control(row.name, row.index), row.control) << row.name << row.index;
+}
+
+TEST_F(frmColorBlindTest, PasteSimulatesWhatReadsAsAColourAndIgnoresTheRest) {
+  paste(" #808080\n");
+  expectResults(kGrey, kGreyAt18);
+  EXPECT_EQ(window->lblColor.Text.get(), "Color: 134.127.127, 0.5.52, #867F7F");
+  EXPECT_EQ(window->lblRColor.Text.get(), "Color: 128.128.128, 0.0.50, #808080");
+  paste("255.128.0");
+  expectResults(Color{0xFF0000}, kRedAt18);
+  for (const char* refused : {"808080", "255, 128, 0", "nonsense", ""}) {
+    paste(refused);
+    expectResults(Color{0xFF0000}, kRedAt18);
+    EXPECT_TRUE(Application::current().dispatch("EditPaste")) << "handled in any case";
+  }
+  EXPECT_TRUE(fake().messages.empty());
+}
+
+TEST_F(frmColorBlindTest, PasteGoesToTheSimulationAlsoFromTheGammaField) {
+  window->txtGamma.SetFocus();
+  Clipboard().SetText("#808080");
+  gesture::shortcut(window->txtGamma, "Cmd+V");
+  EXPECT_EQ(window->txtGamma.Text.get(), "1.8");
+  expectResults(kGrey, kGreyAt18);
+}
+
+TEST_F(frmColorBlindTest, AChosenGammaTakesEffectAtTheNextUpdate) {
+  paste("#808080");
+  for (const char* gamma : {"1.70", "1.80", "2.20", "2.20", "2.20"}) {
+    gesture::key(window->cmbGamma, kKeyDown);
+    EXPECT_EQ(window->txtGamma.Text.get(), gamma);
+    expectResults(kGrey, kGreyAt18);
+  }
+  EXPECT_EQ(window->cmbGamma.Text(), "Next Gamma (2.20)");
+  update();
+  expectResults(kGrey, kGreyAt22);
+}
+
+TEST_F(frmColorBlindTest, TheGammaIsWhatTheFieldBeginsWithUnlessThatIsNothing) {
+  const struct {
+    const char* text;
+    Double gamma;  // 0 where it is refused
+  } rows[] = {{"2.2", 2.2}, {" 1.8 or so", 1.8}, {"0.0001", 0.0001}, {"1,8", 1}, {"-1", -1},   {"&h2", 2},
+              {"1e0", 1},   {"abc", 0},          {"0", 0},           {"", 0},    {"0.000", 0}, {",5", 0}};
+  const Color c{0x336699};
+  window->cmdColor[0].SetValue(c);
+  for (const auto& row : rows) {
+    fake().messages.clear();
+    window->cmbGamma.ListIndex = 3;
+    typeGamma(row.text);
+    update();
+    const bool refused = row.gamma == 0;
+    EXPECT_EQ(fake().messages.size(), refused ? 1u : 0u) << row.text;
+    EXPECT_EQ(window->cmbGamma.ListIndex, refused ? 0 : 3) << row.text;
+    EXPECT_EQ(window->txtGamma.Text.get(), refused ? "1.80" : row.text);
+    zrXYZ model(c);
+    model.gamma = refused ? 2.2 : row.gamma;
+    model.XYZFromRGB(c);
+    expectResults(c, {model.getDichromatTranformation(0, c), model.getDichromatTranformation(1, c),
+                      model.getDichromatTranformation(2, c)});
+  }
+}
+
+TEST_F(frmColorBlindTest, ARefusedGammaIsToldOnceAndReplacedForTheNextUpdateOnly) {
+  window->cmdColor[0].SetValue(kGrey);
+  typeGamma("abc");
+  update();
+  EXPECT_EQ(fake().messages, std::vector<std::string>{kMessage});
+  expectResults(kGrey, kGreyAt22);
+  update();
+  EXPECT_EQ(fake().messages.size(), 1u);
+  expectResults(kGrey, kGreyAt18);
+}
+
+TEST_F(frmColorBlindTest, AClickShowsAResultAtLargeUntilTheNextUpdate) {
+  paste("#FF0000");
+  const Color first = window->SelectedColor;
+  for (const std::size_t result : {3u, 2u, 1u, 3u}) {
+    show(result);
+    EXPECT_EQ(window->colors[0].FillColor, window->cmdColor.at(result).Value);
+    EXPECT_EQ(window->SelectedColor, first);
+    show(0);
+    EXPECT_EQ(window->colors[0].FillColor, window->cmdColor.at(result).Value) << "the normal colour has no large view";
+  }
+  EXPECT_EQ(window->lblColor.Text.get(), "Color: 254.14.0, 3.100.99, #FE0E00");
+  EXPECT_EQ(window->lblRColor.Text.get(), "Color: 255.0.0, 0.100.100, #FF0000");
+  paste("#808080");
+  expectResults(kGrey, kGreyAt18);
+  show(3);
+  update();
+  expectResults(kGrey, kGreyAt18);
+}
+
+TEST_F(frmColorBlindTest, OnlyTheNormalBoxTakesADrop) {
+  const Ref<DragItem> grey = New<DragItem>();
+  grey->MacData("hcol", "128, 128, 128");
+  const Ref<DragItem> text = New<DragItem>();
+  text->SetText("#FF0000");
+  const Ref<DragItem> nonsense = New<DragItem>();
+  nonsense->SetText("red");
+
+  gesture::drop(window->cmdColor[0], *grey);
+  expectResults(kGrey, kGreyAt18);
+  for (const zrColorBox& box : window->cmdColor)
+    gesture::drop(box, *nonsense);
+  for (std::size_t result = 1; result < 4; ++result)
+    gesture::drop(window->cmdColor.at(result), *text);
+  EXPECT_FALSE(gesture::drop(window->txtGamma, *text));
+  expectResults(kGrey, kGreyAt18);
+  gesture::drop(window->cmdColor[0], *text);
+  expectResults(Color{0xFF0000}, kRedAt18);
+}
+
+TEST_F(frmColorBlindTest, AResultLeavesByDragWithTheOptionKeyOnly) {
+  paste("#808080");
+  const Color result = window->cmdColor[2].Value;
+  EXPECT_FALSE(gesture::carry(window->cmdColor[2], window->cmdColor[0]));
+  fake().optionHeld = true;
+  EXPECT_TRUE(gesture::carry(window->cmdColor[2], window->cmdColor[0]));
+  EXPECT_EQ(window->cmdColor[0].Value, result);
+  EXPECT_EQ(window->colors[1].FillColor, result);
+}
+
+TEST_F(frmColorBlindTest, TheNormalBoxHasTheKeyboardWheneverTheWindowComesToTheFront) {
+  gesture::click(window->txtGamma, 5, 5);
+  EXPECT_FALSE(gesture::hasKeyboard(window->cmdColor[0]));
+  const Ref<frmColorBlind> other = New<frmColorBlind>();
+  other->Show();
+  EXPECT_TRUE(waitUntil([&] { return gesture::hasKeyboard(other->cmdColor[0]); }));
+  window->Show();
+  EXPECT_TRUE(waitUntil([this] { return gesture::hasKeyboard(window->cmdColor[0]); }));
+}
+
+TEST_F(frmColorBlindTest, TheTabulatorKeyVisitsWhatTakesKeys) {
+  const RectControl* const order[] = {&window->cmbGamma, &window->txtGamma, &window->cmdColor[0], &window->cmdUpdate};
+  window->cmbGamma.SetFocus();
+  for (std::size_t i = 0; i < 8; ++i) {
+    ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(*order[i % 4]); })) << i;
+    gesture::key(*order[i % 4], kKeyTab);
+  }
+  for (std::size_t result = 1; result < 4; ++result) {
+    show(result);
+    EXPECT_FALSE(gesture::hasKeyboard(window->cmdColor.at(result)));
+  }
+}
+
+}  // namespace
+}  // namespace tavrelkin
