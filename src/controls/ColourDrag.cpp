@@ -7,27 +7,32 @@ namespace tavrelkin::ColourDrag {
 namespace {
 
 constexpr auto kType = "hcol";
-constexpr Int32 kOutline = 21;
-constexpr Int32 kReach = 10;
 
 }  // namespace
 
 void accept(RectControl& control) {
-  control.AcceptMacDataDrop(kType);
+  acceptPrivate(control);
   control.AcceptTextDrop();
 }
 
-bool take(const Ref<DragItem>& item, Color& c) {
-  if (item->MacDataAvailable(kType)) {
-    c = getColorFromDrop(item);
-    return true;
-  }
-  return item->TextAvailable() && getColorFromTextDrop(item, c);
+void acceptPrivate(RectControl& control) {
+  control.AcceptMacDataDrop(kType);
 }
 
-void begin(RectControl& control, Color c, Int32 x, Int32 y) {
+bool take(const Ref<DragItem>& item, Color& c) {
+  return takePrivate(item, c) || (item->TextAvailable() && getColorFromTextDrop(item, c));
+}
+
+bool takePrivate(const Ref<DragItem>& item, Color& c) {
+  if (!item->MacDataAvailable(kType)) return false;
+  c = getColorFromDrop(item);
+  return true;
+}
+
+void begin(RectControl& control, Color c, Int32 x, Int32 y, Int32 outline) {
+  const Int32 reach = outline / 2;
   const Ref<DragItem> item =
-      control.NewDragItem(control.Left + (x - kReach), control.Top + (y - kReach), kOutline, kOutline);
+      control.NewDragItem(control.Left + (x - reach), control.Top + (y - reach), outline, outline);
   item->MacData(kType, getRGBStr(c));
   item->SetText("#" + getHexStr(c));
   item->Drag();

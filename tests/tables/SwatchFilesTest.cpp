@@ -1,0 +1,190 @@
+// The table's files, byte for byte, with all in which its readers and writers differ.
+
+#include <filesystem>
+#include <random>
+#include <string>
+
+#include "support/RuntimeTest.h"
+#include "support/TemporaryFolder.h"
+#include "tables/zrClut.h"
+
+namespace tavrelkin {
+namespace {
+
+// Neighbours differ in all channels, and no channel is 0 or 255.
+Color colorAt(Int32 i) {
+  return RGB(i % 199 + 1, 200 - i % 197, i % 7 + 9);
+}
+String word(Int32 value) {
+  return ChrB(value >> 8) + ChrB(value);
+}
+String swatchEntry(Color c) {
+  return word(0) + word(c.red() * 257) + word(c.green() * 257) + word(c.blue() * 257) + word(0);
+}
+String swatch(Int32 stated, Int32 colors) {
+  String bytes = word(1) + word(stated);
+  for (Int32 i = 0; i < colors; ++i)
+    bytes += swatchEntry(colorAt(i));
+  return bytes;
+}
+String triples(Int32 colors) {
+  String bytes;
+  for (Int32 i = 0; i < colors; ++i)
+    bytes += ChrB(colorAt(i).red()) + ChrB(colorAt(i).green()) + ChrB(colorAt(i).blue());
+  return bytes;
+}
+
+class SwatchFilesTest : public RuntimeTest {
+ protected:
+  Ref<zrClut> readSwatch(const String& bytes) const {
+    const auto table = New<zrClut>();
+    EXPECT_TRUE(table->ReadSwatch(folder.write("in", bytes)));
+    return table;
+  }
+  Ref<zrClut> readClut(const String& bytes) const {
+    const auto table = New<zrClut>();
+    EXPECT_TRUE(table->ReadClut(folder.write("in", bytes)));
+    return table;
+  }
+  String writtenSwatch(const zrClut& table) const {
+    EXPECT_TRUE(table.writeSwatch(folder.item("out")));
+    return folder.read("out");
+  }
+  String writtenClut(const zrClut& table) const {
+    EXPECT_TRUE(table.WriteClut(folder.item("out")));
+    return folder.read("out");
+  }
+  // The table holds so many colours of the file, the last of them with only so many channels, and is otherwise as new.
+  static void expectRead(const zrClut& table, Int32 colors, std::size_t channels = 3) {
+    for (Int32 i = 0; i <= table.Count; ++i) {
+      const Color c = colorAt(i);
+      Color expected = i < colors ? c : i <= 255 ? kWhite : kBlack;
+      if (i + 1 == colors) expected = RGB(c.red(), channels > 1 ? c.green() : 0, channels > 2 ? c.blue() : 0);
+      ASSERT_EQ(table.getColor(i), expected) << i << " of " << colors;
+    }
+  }
+  const TemporaryFolder folder;
+};
+
+TEST_F(SwatchFilesTest, ANewTableIsWrittenAs256WhiteColours) {
+  const auto table = New<zrClut>();
+  String expected = word(1) + word(256);
+  for (int i = 0; i < 256; ++i)
+    expected += swatchEntry(kWhite);
+  EXPECT_EQ(writtenSwatch(*table), expected);
+  EXPECT_EQ(writtenClut(*table), String(768, '\xFF'));
+  table->SetColor(RGB(18, 52, 86), 255);
+  EXPECT_EQ(writtenSwatch(*table).substr(2554), String("\0\0\x12\x12\x34\x34\x56\x56\0\0", 10));
+}
+
+TEST_F(SwatchFilesTest, TheNumberInTheFileBecomesTheUpperBound) {
+  const struct {
+    Int32 stated, colors, count, read;
+  } rows[] = {
+      {3, 3, 3, 3},
+      {1, 1, 1, 1},
+      {255, 255, 255, 255},
+      {256, 256, 256, 256},
+      {300, 300, 300, 300},
+      {20, 10, 20, 10},
+      {300, 10, 300, 10},
+      {3, 10, 3, 3},
+      {0, 0, 0, 0},
+      {0, 1, 0, 1},
+      {0, 5, 0, 5},
+      {0x8000, 5, -32768, 5},
+      {32767, 32767, 32767, 32767},
+  };
+  for (const auto& row : rows) {
+    const auto table = readSwatch(swatch(row.stated, row.colors));
+    EXPECT_EQ(table->Count, row.count);
+    EXPECT_EQ(table->Index, row.read - 1) << row.stated;
+    EXPECT_EQ(table->aColors.size(), static_cast<std::size_t>(std::max(row.count, -1) + 1));
+    expectRead(*table, row.read);
+    EXPECT_EQ(writtenSwatch(*table).substr(0, 4), word(1) + word(row.stated + 1));
+  }
+}
+
+TEST_F(SwatchFilesTest, EachRoundAddsAnEntry) {
+  const auto table = New<zrClut>();
+  for (const Int32 stated : {256, 257, 258}) {
+    const String bytes = writtenSwatch(*table);
+    EXPECT_TRUE(table->ReadSwatch(folder.item("out")));
+    EXPECT_EQ(writtenSwatch(*table), word(1) + word(stated + 1) + bytes.substr(4) + swatchEntry(kBlack));
+  }
+}
+
+// Another version and colour space, low bytes, and the names of a version 2 section behind the colours.
+TEST_F(SwatchFilesTest, OnlyHighBytesAreLookedAt) {
+  const String cmyk = word(2) + word(0x12FF) + word(0x34FE) + word(0x5600) + word(0xFFFF);
+  const auto table = readSwatch(word(7) + word(1) + cmyk + word(2) + String(40, 'x'));
+  EXPECT_EQ(table->getColor(0), RGB(0x12, 0x34, 0x56));
+  EXPECT_EQ(table->getColor(1), kWhite);
+}
+
+TEST_F(SwatchFilesTest, AColourTableIs256TriplesOfWhichTheLastIsNeverRead) {
+  for (const Int32 colors : {255, 256, 400})
+    EXPECT_EQ(writtenClut(*readClut(triples(colors))), triples(255) + String(3, '\xFF'));
+  const auto few = readSwatch(swatch(2, 2));
+  EXPECT_EQ(writtenClut(*few), triples(2) + String(3, '\xFF') + String(759, '\0'));
+  EXPECT_TRUE(few->ReadClut(folder.write("in", "")));
+  EXPECT_EQ(writtenClut(*few), triples(2) + String(3, '\xFF') + String(759, '\0')) << "entries are not cleared";
+  EXPECT_EQ(few->Count, 255);
+}
+
+// A colour counts once its first byte is there, and what is missing of it is 0.
+TEST_F(SwatchFilesTest, FilesCutOffAnywhereGiveWhatTheyHave) {
+  const String whole = swatch(0x0104, 3);
+  for (std::size_t length = 0; length <= whole.size(); ++length) {
+    const auto table = readSwatch(whole.substr(0, length));
+    EXPECT_EQ(table->Count, length < 3 ? 0 : length == 3 ? 0x0100 : 0x0104);
+    const std::size_t colors = length < 7 ? 0 : (length + 3) / 10;
+    const std::size_t last = length + 4 - 10 * colors;
+    expectRead(*table, static_cast<Int32>(colors), last > 4 ? 3 : last > 2 ? 2 : 1);
+  }
+  const String clut = triples(256);
+  for (std::size_t length = 0; length <= clut.size(); ++length) {
+    const std::size_t colors = std::min<std::size_t>((length + 2) / 3, 255);
+    expectRead(*readClut(clut.substr(0, length)), static_cast<Int32>(colors), length + 3 - 3 * colors);
+  }
+}
+
+TEST_F(SwatchFilesTest, AnyBytesAreRead) {
+  std::minstd_rand random(1);  // the same bytes in each run
+  for (int round = 0; round < 200; ++round) {
+    String bytes(random() % 700, '\0');
+    for (char& c : bytes)
+      c = static_cast<char>(random());
+    const auto table = readSwatch(bytes);
+    EXPECT_EQ(table->aColors.size(), static_cast<std::size_t>(std::max(table->Count, -1) + 1));
+    EXPECT_EQ(readClut(bytes)->aColors.size(), 256U);
+  }
+}
+
+TEST_F(SwatchFilesTest, FailuresAreToldAndLeaveTheTable) {
+  using Operation = bool (*)(zrClut&, const Ref<FolderItem>&);
+  const struct {
+    Operation call;
+    String message;
+  } rows[] = {
+      {[](zrClut& t, const Ref<FolderItem>& f) { return t.ReadSwatch(f); }, "Unable to read color swatch"},
+      {[](zrClut& t, const Ref<FolderItem>& f) { return t.ReadClut(f); }, "Unable to read color clut"},
+      {[](zrClut& t, const Ref<FolderItem>& f) { return t.writeSwatch(f); }, "Unable to save swatch file"},
+      {[](zrClut& t, const Ref<FolderItem>& f) { return t.WriteClut(f); }, "Unable to save clut file"},
+  };
+  std::filesystem::create_directory(folder.path("folder"));
+  const auto table = readSwatch(swatch(20, 10));
+  EXPECT_FALSE(table->ReadSwatch(folder.item("none")));
+  EXPECT_FALSE(table->ReadClut(folder.item("none")));
+  for (const auto& row : rows) {
+    EXPECT_FALSE(row.call(*table, nullptr));
+    EXPECT_TRUE(fake().messages.empty());
+    EXPECT_FALSE(row.call(*table, folder.item("folder")));
+    EXPECT_EQ(std::exchange(fake().messages, {}), std::vector<std::string>{row.message});
+    EXPECT_EQ(table->Index, 9);
+    expectRead(*table, 10);
+  }
+}
+
+}  // namespace
+}  // namespace tavrelkin

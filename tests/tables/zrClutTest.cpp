@@ -1,0 +1,91 @@
+#include <gtest/gtest.h>
+
+#include "runtime/base/Exceptions.h"
+#include "tables/zrClut.h"
+
+namespace tavrelkin {
+namespace {
+
+constexpr Color kColor{0x123456};
+
+void expectNew(const zrClut& table) {
+  EXPECT_EQ(table.Count, 255);
+  EXPECT_EQ(table.Index, -1);
+  EXPECT_EQ(table.aColors, std::vector<Color>(256, kWhite));
+}
+
+// As it stands after reading a file of so many colours.
+void shorten(zrClut& table, Int32 upperBound) {
+  table.Count = upperBound;
+  table.aColors.resize(static_cast<std::size_t>(upperBound + 1));
+}
+
+TEST(zrClutTest, BeginsWhiteAndIsBlackOutside) {
+  const zrClut table;
+  expectNew(table);
+  EXPECT_EQ(table.getColor(255), kWhite);
+  for (const Int32 i : {-1, 256, INT32_MIN, INT32_MAX})
+    EXPECT_EQ(table.getColor(i), kBlack) << i;
+}
+
+TEST(zrClutTest, AFullTableTakesNoMoreUntilTheCursorIsBack) {
+  zrClut table;
+  for (std::uint32_t i = 0; i < 300; ++i)
+    table.Add(Color{i});
+  EXPECT_EQ(table.Index, 299);
+  EXPECT_EQ(table.Count, 255);
+  for (Int32 i = 0; i < 256; ++i)
+    ASSERT_EQ(table.getColor(i), RGB(0, 0, i));
+  table.Remove(3);
+  table.Add(kColor);
+  EXPECT_EQ(table.getColor(3), kWhite) << "a free entry is not used again";
+  EXPECT_EQ(table.getColor(4), RGB(0, 0, 4));
+  table.Reset();
+  table.Add(kColor);
+  EXPECT_EQ(table.getColor(0), kColor);
+  table.Clear();
+  expectNew(table);
+}
+
+TEST(zrClutTest, NextColorSharesTheCursor) {
+  zrClut table;
+  table.NextColor();
+  table.Add(kColor);
+  EXPECT_EQ(table.getColor(1), kColor);
+  for (Int32 i = 2; i < 256; ++i)
+    ASSERT_EQ(table.NextColor(), kWhite) << i;
+  EXPECT_EQ(table.NextColor(), kBlack);
+  EXPECT_EQ(table.Index, 255);
+}
+
+// The bounds are 0 and 255 whatever the table's own are, which a shorter table finds out the hard way.
+TEST(zrClutTest, EntriesAreSetWithinFixedBounds) {
+  zrClut table;
+  for (const Int32 i : {-1, 256, INT32_MIN, INT32_MAX}) {
+    table.SetColor(kColor, i);
+    table.Remove(i);
+  }
+  expectNew(table);
+  table.SetColor(kColor, 255);
+  EXPECT_EQ(table.getColor(255), kColor);
+  EXPECT_EQ(table.Index, -1);
+
+  shorten(table, 400);
+  table.SetColor(kColor, 256);
+  EXPECT_EQ(table.getColor(256), kBlack);
+
+  shorten(table, 2);
+  EXPECT_THROW(table.SetColor(kColor, 3), OutOfBoundsException);
+  EXPECT_THROW(table.Remove(255), OutOfBoundsException);
+  for (int i = 0; i < 3; ++i)
+    table.NextColor();
+  EXPECT_THROW(table.NextColor(), OutOfBoundsException);
+
+  shorten(table, -1);
+  table.SetColor(kColor, 0);
+  table.Remove(0);
+  EXPECT_EQ(table.getColor(0), kBlack);
+}
+
+}  // namespace
+}  // namespace tavrelkin
