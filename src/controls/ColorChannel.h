@@ -6,8 +6,8 @@
 namespace tavrelkin {
 
 // The channels that a bar can edit, by number: 0 red, 1 green, 2 blue, 3 hue, 4 saturation, 5 value, 6 cyan, 7 magenta,
-// 8 yellow. The value of each is 0 to 255. A number outside of these is no channel: it has no word, reads 0 and changes
-// nothing.
+// 8 yellow. The value of each is 0 to 255. A number outside of these is no channel: it has no word, reads 0, changes
+// nothing, and its ramp is that of channel 0.
 
 // The word that names a channel to the user. Channel 5 is called "Luminosity".
 String channelWord(Int32 channel);

@@ -33,8 +33,8 @@ class zrColorBox : public Canvas {
   void Event_Paint(tavrelkin::Graphics& g) override;
 
   // Shows a colour and tells it in the help tag. Raises nothing.
-  void SetValue(Color c);
-  void DrawBox();
+  virtual void SetValue(Color c);
+  virtual void DrawBox();
 };
 
 }  // namespace tavrelkin

@@ -23,8 +23,9 @@ class zrColorButton : public Canvas {
   Int32 State = 0;
   // A picture beside the swatch, or nil.
   Ref<Picture> Icon;
+  // This and the next three are set at opening.
   Color propFrameColor;
-  // The swatch's width in percent of the control's. This and the next two are set at opening.
+  // The swatch's width in percent of the control's.
   Int32 propColorBoxWidth = 0;
   // Which numbers are shown: 1 hue, saturation and value, 2 cyan, magenta and yellow, each in percent, 3 hexadecimal,
   // any other red, green and blue.
@@ -52,22 +53,22 @@ class zrColorButton : public Canvas {
   void Event_MouseDrag(Int32 x, Int32 y) override;
 
   // Shows a colour. Raises nothing.
-  void SetValue(Color c);
+  virtual void SetValue(Color c);
   // Paints a square button edge of 22 pixels and the swatch.
-  void DrawMainBTTN(tavrelkin::Graphics& g, bool pressed);
+  virtual void DrawMainBTTN(tavrelkin::Graphics& g, bool pressed);
   // Chooses the numbers; see propColorFormat.
-  void setColorFormat(Int32 format);
+  virtual void setColorFormat(Int32 format);
 
  protected:
   bool depressed = false;
 
-  void drawBevel(tavrelkin::Graphics& g);
-  void drawColor(tavrelkin::Graphics& g);
+  virtual void drawBevel(tavrelkin::Graphics& g);
+  virtual void drawColor(tavrelkin::Graphics& g);
   // A hook without a use.
-  void showColorPal() {}
-  void drawValue();
-  String intGetHexValue() const;
-  void intSelectColor();
+  virtual void showColorPal() {}
+  virtual void drawValue();
+  virtual String intGetHexValue() const;
+  virtual void intSelectColor();
 
  private:
   Double swatchWidth(Int32 width) const { return width * (propColorBoxWidth / 100.0); }

@@ -43,24 +43,24 @@ class zrColorCHBar : public Canvas {
   void Event_Paint(tavrelkin::Graphics& g) override;
   void Event_Open() override;
 
-  void DrawBorder();
+  virtual void DrawBorder();
   // The strip and the border around it.
-  void DrawValue();
+  virtual void DrawValue();
   // The indicator, centred on column x.
-  void DrawArrow(Int32 x);
-  void DoMouseDrag(Int32 x, Int32 y);
+  virtual void DrawArrow(Int32 x);
+  virtual void DoMouseDrag(Int32 x, Int32 y);
 
   // Pushes a colour into the bar. Raises nothing.
-  void SetBaseColor(Color c);
+  virtual void SetBaseColor(Color c);
   // Paints the bar anew.
-  void Update();
+  virtual void Update();
   // Moves the indicator to a value, without a look at its range. Raises nothing and leaves propBaseColor alone.
-  void SetValue(Int32 v);
-  void intSetTooltip();
+  virtual void SetValue(Int32 v);
+  virtual void intSetTooltip();
   // Puts the value into propBaseColor.
-  void intRecreateColor();
+  virtual void intRecreateColor();
   // Takes only this bar's channel from a colour into propBaseColor, and raises Action.
-  void CopyChannel(Color c);
+  virtual void CopyChannel(Color c);
 };
 
 }  // namespace tavrelkin
