@@ -7,6 +7,8 @@
 #include <QWidget>
 
 #include "bench/support/Figures.h"
+#include "favourites/frmFav.h"
+#include "toolwindow/DistinctColours.h"
 
 namespace tavrelkin::bench {
 
@@ -24,6 +26,42 @@ void updateBar(benchmark::State& state, zrColorCHBar& bar, Int32 channel) {
 void drawSuggestions(benchmark::State& state, frmVesk& window) {
   for (auto _ : state)
     window.drawSuggestions(&window.imgScreen.Graphics());
+}
+
+void drawColorBlind(benchmark::State& state, frmVesk& window) {
+  for (auto _ : state)
+    window.drawColorBlind(&window.imgScreen.Graphics());
+}
+
+Color noiseAt(std::uint32_t number) {
+  return Color{number * 2654435761U >> 8};
+}
+
+// The table has an entry more than there are cells.
+void paintPalette(benchmark::State& state) {
+  constexpr std::uint32_t cells = 256;
+  const Ref<frmFav> window = New<frmFav>();
+  const Ref<zrClut> table = New<zrClut>();
+  table->Count = cells;
+  table->aColors.resize(cells + 1);
+  for (std::uint32_t i = 0; i <= cells; ++i)
+    table->Add(noiseAt(i));
+  window->imgClut.SetClut(table);
+  for (auto _ : state)
+    window->imgClut.Event_Paint(window->imgClut.Graphics());
+}
+
+// Over a sample at zoom step 1, of pixels that all differ.
+void findDistinctColours(benchmark::State& state, std::size_t most) {
+  const Ref<Picture> picture = NewPicture(103, 49, 32);
+  for (Int32 y = 0; y < picture->Height(); ++y) {
+    for (Int32 x = 0; x < picture->Width(); ++x)
+      picture->Graphics().Pixel(x, y, noiseAt(static_cast<std::uint32_t>(y * picture->Width() + x)));
+  }
+  std::vector<Color> found;
+  for (auto _ : state)
+    benchmark::DoNotOptimize(found = distinctColours(*picture, most));
+  if (found.size() != most) state.SkipWithError("The noise has too few colours.");
 }
 
 ScreenPoint placeOn(const zrColorCHBar& bar, int column) {
@@ -63,6 +101,13 @@ void addControlBenchmarks(frmVesk& window, test::Hand& hand) {
   add("Update HSV", update(3))->MinTime(0.1);
   add("Update CMY", update(6))->MinTime(0.1);
   add("drawSuggestions", [&window](benchmark::State& state) { drawSuggestions(state, window); })->MinTime(0.1);
+  add("drawColorBlind", [&window](benchmark::State& state) { drawColorBlind(state, window); })->MinTime(0.1);
+  add("palette", paintPalette)->MinTime(0.1);
+  for (const std::size_t most : {112u, 255u}) {
+    add("distinct " + std::to_string(most), [most](benchmark::State& state) {
+      findDistinctColours(state, most);
+    })->MinTime(0.1);
+  }
   add("drag", [&red, &hand](benchmark::State& state) { dragBar(state, red, hand); })->Iterations(kMoves);
 }
 
@@ -72,6 +117,12 @@ void printControlRows(const Medians& medians) {
              fixed(medians[std::string("Update ") + family] * 1e3, 1) + " µs");
   }
   printRow("drawSuggestions at 408 by 192", "at most 0.3 ms", fixed(medians["drawSuggestions"], 3) + " ms");
+  printRow("drawColorBlind", "at most 50 µs", fixed(medians["drawColorBlind"] * 1e3, 1) + " µs");
+  printRow("paint of a palette of 256 cells", "at most 0.3 ms", fixed(medians["palette"], 3) + " ms");
+  printRow("112 distinct colours of 103 by 49 pixels of noise", "at most 3 ms",
+           fixed(medians["distinct 112"], 3) + " ms");
+  printRow("255 distinct colours of 103 by 49 pixels of noise", "at most 8 ms",
+           fixed(medians["distinct 255"], 3) + " ms");
   printRow("a drag on a bar: moves of the pointer handled, one by one", "at least 1000 a second",
            fixed(1e3 / medians["drag"], 0) + " a second");
 }

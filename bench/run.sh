@@ -17,7 +17,7 @@ export XDG_RUNTIME_DIR="$root/build/runtime"
 require_packages build run test bench >&2
 mkdir -p -m 700 -- "$root/build/runtime"
 configure bench >&2
-cmake --build "$build" --target tavrelkin tool_window_bench desktop_bench >&2
+cmake --build "$build" --target tavrelkin tool_window_bench swatch_bench dichromat_bench desktop_bench >&2
 
 processor=$(sed -n 's/^model name\s*: //p' /proc/cpuinfo | head -n 1)
 echo "$(hostname): ${processor:-$(uname -m)}, $(nproc) cores; Linux $(uname -r); Qt $(pkgconf --modversion Qt6Widgets);" \
@@ -26,4 +26,6 @@ echo
 echo "| What | Wanted | Measured |"
 echo "| --- | --- | --- |"
 "$build/bench/tool_window_bench"
+"$build/bench/swatch_bench"
+"$build/bench/dichromat_bench"
 "$build/bench/desktop_bench"

@@ -5,7 +5,7 @@ namespace tavrelkin {
 namespace {
 
 constexpr Color kGround{0xA0A0A0};
-constexpr Color kCellFrame{0x909090};
+constexpr Color kSwatchFrame{0x909090};
 constexpr Int32 kLeft = 13;
 constexpr Int32 kTop = 10;
 constexpr Int32 kCell = 20;
@@ -13,16 +13,16 @@ constexpr Int32 kRightMargin = 10;
 constexpr Int32 kStepAcross = 24;
 constexpr Int32 kStepDown = 25;
 
-void drawCell(Graphics& g, Int32 x, Int32 y, Color c) {
-  g.ForeColor = kCellFrame;
-  g.DrawRect(x, y, kCell, kCell);
-  g.ForeColor = kWhite;
-  g.DrawRect(x + 1, y + 1, kCell - 2, kCell - 2);
-  g.ForeColor = c;
-  g.FillRect(x + 2, y + 2, kCell - 4, kCell - 4);
-}
-
 }  // namespace
+
+void drawSwatch(Graphics& g, Int32 x, Int32 y, Int32 side, Color c) {
+  g.ForeColor = kSwatchFrame;
+  g.DrawRect(x, y, side, side);
+  g.ForeColor = kWhite;
+  g.DrawRect(x + 1, y + 1, side - 2, side - 2);
+  g.ForeColor = c;
+  g.FillRect(x + 2, y + 2, side - 4, side - 4);
+}
 
 void drawCells(Graphics& g, const std::vector<Color>& colours) {
   g.ForeColor = kGround;
@@ -34,7 +34,7 @@ void drawCells(Graphics& g, const std::vector<Color>& colours) {
       x = kLeft;
       y += kStepDown;
     }
-    drawCell(g, x, y, c);
+    drawSwatch(g, x, y, kCell, c);
     x += kStepAcross;
   }
   g.ForeColor = kWhite;

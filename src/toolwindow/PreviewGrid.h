@@ -13,7 +13,7 @@ struct PreviewGrid {
 
   // `zoomStep` is 1 to 3.
   PreviewGrid(Int32 zoomStep, Int32 canvasWidth, Int32 canvasHeight)
-      : cell(zoomStep * 4), columns(canvasWidth / cell), rows(canvasHeight / cell) {}
+      : cell(std::max(zoomStep, 1) * 4), columns(canvasWidth / cell), rows(canvasHeight / cell) {}
 
   // The screen pixels read to each side of the centre, which lies in this column and row.
   Int32 reachX() const { return columns / 2; }

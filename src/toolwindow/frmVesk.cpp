@@ -2,6 +2,8 @@
 
 #include "app/menubar/MenuBar1.h"
 #include "runtime/gui/Application.h"
+#include "tables/zrPixMap.h"
+#include "toolwindow/WebSafeBadge.h"
 
 namespace tavrelkin {
 
@@ -57,8 +59,10 @@ void frmVesk::layOut() {
 
   slZoom.TabStop = true;
   DisclosureTriangle1.TabStop = true;
-  for (zrColorCHBar& bar : cmdMixer)
+  for (zrColorCHBar& bar : cmdMixer) {
+    bar.propColorChannel = bar.Index;
     bar.TabStop = true;
+  }
   setTabOrder({&cmdColor, &imgScreen, &view0_lblcoordinates, &view0_lblColor, &imgWebSafe, &DisclosureTriangle1,
                &slZoom, &StaticText1, &StaticText2, &StaticText3, &cmdMixer[4], &cmdMixer[5], &cmdMixer[2],
                &cmdMixer[1], &cmdMixer[0], &cmdMixer[3], &sm, &cmdMakeWebSafe});
@@ -149,7 +153,10 @@ void frmVesk::DisclosureTriangle1_Action() {
 }
 
 void frmVesk::imgWebSafe_Open() {
+  const Ref<zrPixMap> badge = New<zrPixMap>();
   imgWebSafe.Visible = false;
+  badge->CreateFromPixMapData(kWebSafeBadge);
+  imgWebSafe.Backdrop = badge->GetPicture32();
 }
 
 }  // namespace tavrelkin

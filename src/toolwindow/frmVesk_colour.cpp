@@ -22,7 +22,7 @@ void frmVesk::setColor(Color c, bool) {
   }
 }
 
-// A hook: nothing in the preview depends on the selected colour.
+// A hook: the preview takes a new colour at its next paint.
 void frmVesk::doSetUpToolScreenPeeker() {}
 
 bool frmVesk::cmdColor_BeforeSelectColor() {

@@ -1,6 +1,9 @@
 // What the preview shows: the screen, or one of three views in its place.
 
+#include "color/zrXYZ.h"
+#include "favourites/frmFav.h"
 #include "toolwindow/ColourCells.h"
+#include "toolwindow/DistinctColours.h"
 #include "toolwindow/Suggestions.h"
 #include "toolwindow/frmVesk.h"
 
@@ -55,12 +58,34 @@ void frmVesk::drawSuggestions(Graphics* g) {
   if (g) drawCells(*g, suggestionsFor(SelectedColor));
 }
 
-// These are still to come; until then each leaves the canvas as the erase has left it.
+void frmVesk::drawColorsInScreen(Graphics* g) {
+  if (g) drawCells(*g, distinctColours(*zoomImage, 112));
+}
 
-void frmVesk::drawColorsInScreen(Graphics*) {}
+// The window is up before its colours arrive.
+void frmVesk::saveColorsInScreen() {
+  const Ref<frmFav> window = New<frmFav>();
+  window->Show();
+  window->NewClut();
+  for (const Color c : distinctColours(*zoomImage, 255))
+    window->DoAddColor(c);
+  window->SetFocus();
+}
 
-void frmVesk::drawColorBlind(Graphics*) {}
-
-void frmVesk::saveColorsInScreen() {}
+// A row for each gamma, a column for each deficiency.
+void frmVesk::drawColorBlind(Graphics* g) {
+  if (!g) return;
+  constexpr Int32 side = 40;
+  const Color c = SelectedColor;
+  zrXYZ colour(c);
+  Int32 y = 12;
+  for (const Double gamma : {1.7, 1.8, 2.2}) {
+    colour.gamma = gamma;
+    colour.XYZFromRGB(c);
+    for (Int32 index = 0; index < 3; ++index)
+      drawSwatch(*g, 100 + index * 48, y, side, colour.getDichromatTranformation(index, c));
+    y += 44;
+  }
+}
 
 }  // namespace tavrelkin

@@ -92,12 +92,17 @@ TEST_F(CoreTest, TheTabulatorVisitsTheBarsInAnOrderOfTheirOwn) {
       &window->DisclosureTriangle1, &window->slZoom, &bar[4], &bar[5], &bar[2], &bar[1], &bar[0], &bar[3],
       &window->DisclosureTriangle1};
   const RectControl* at = order[0];
+  window->Height = 400;
   window->DisclosureTriangle1.SetFocus();
   ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(*at); }));
   for (const RectControl* next : order) {
     EXPECT_TRUE(gesture::hasKeyboard(*next)) << next->Name() << " " << next->Index;
     gesture::key(*next, kTab);
   }
+  window->Height = 262;
+  window->DisclosureTriangle1.SetFocus();
+  gesture::key(window->DisclosureTriangle1, kTab);
+  EXPECT_TRUE(gesture::hasKeyboard(window->DisclosureTriangle1)) << "nothing else is in sight";
 }
 
 TEST_F(CoreTest, TheWebSafePairShowsForAnyOtherColour) {
