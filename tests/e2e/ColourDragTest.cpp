@@ -26,12 +26,9 @@ class TwoWindowsDragTest : public ColourDragTest {
   void SetUp() override {
     ColourDragTest::SetUp();
     tool_.keys("Ctrl+N");
-    const auto isThere = [this] { return session_.windows.titled("Color: ").size() == 2; };
-    ASSERT_TRUE(waitUntil(isThere));
-    other_ = std::make_unique<ToolWindow>(session_, session_.windows.titled("Color: ").back());
+    other_ = std::make_unique<ToolWindow>(session_, session_.waitForWindow("Color: ", 2));
     session_.bringToFront(other_->window());
-    session_.windows.moveTo(other_->window(), 620, 40);
-    ASSERT_TRUE(waitUntil([this] { return session_.windows.area(other_->window()).x > 600; }));
+    other_->moveTo(620, 40);
     other_->unfold();
     ASSERT_TRUE(other_->paste(0x204060));
   }
@@ -80,11 +77,13 @@ TEST_F(ColourDragTest, AnotherProgramGivesColours) {
   EXPECT_TRUE(tool_.getsTitleOf(0x70ABFF)) << "its green happens to be ours";
   session_.hand.drag(foreign.kButton, tool_.onBar(0, 20));
   EXPECT_TRUE(tool_.getsTitleOf(0x12ABFF));
-  session_.hand.drag(foreign.kShortColour, tool_.onBar(1, 20));
   session_.hand.drag(foreign.kLongColourAndText, tool_.onBar(1, 20));
   EXPECT_TRUE(tool_.getsTitleOf(0x12C0FF)) << "the text alone counts";
   session_.hand.drag(foreign.kText, tool_.onBar(0, 20));
   EXPECT_TRUE(tool_.getsTitleOf(0xC0C0FF));
+  session_.hand.drag(foreign.kShortColour, tool_.onBar(1, 20));
+  EXPECT_TRUE(tool_.paste(0xC0C0FE)) << "a sign that the drag is over";
+  EXPECT_TRUE(tool_.gets(0xC0C0FE, 75, 296));
 }
 
 TEST_F(ColourDragTest, AnotherProgramTakesColours) {

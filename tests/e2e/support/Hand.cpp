@@ -18,9 +18,9 @@ namespace {
 constexpr std::uint8_t kLeftButton = 1;
 
 std::uint32_t keySymbol(const std::string& name) {
-  static const std::map<std::string, std::uint32_t> kNamed{{"Ctrl", 0xFFE3},   {"Shift", 0xFFE1},  {"Alt", 0xFFE9},
-                                                           {"Return", 0xFF0D}, {"Escape", 0xFF1B}, {"Tab", 0xFF09},
-                                                           {"Left", 0xFF51},   {"Right", 0xFF53}};
+  static const std::map<std::string, std::uint32_t> kNamed{
+      {"Ctrl", 0xFFE3}, {"Shift", 0xFFE1}, {"Alt", 0xFFE9},   {"Return", 0xFF0D}, {"Escape", 0xFF1B},
+      {"Tab", 0xFF09},  {"Left", 0xFF51},  {"Right", 0xFF53}, {"Up", 0xFF52},     {"Down", 0xFF54}};
   const auto named = kNamed.find(name);
   if (named != kNamed.end()) return named->second;
   if (name.size() != 1) throw std::invalid_argument("No key is called " + name + ".");
@@ -35,6 +35,10 @@ void Hand::pressButton() {
 
 void Hand::releaseButton() {
   client_.fake(XCB_BUTTON_RELEASE, kLeftButton);
+}
+
+void Hand::rest() const {
+  std::this_thread::sleep_for(std::chrono::milliseconds(80));
 }
 
 void Hand::click(ScreenPoint at) {
@@ -52,7 +56,7 @@ void Hand::pull(ScreenPoint from, ScreenPoint to) {
     std::this_thread::sleep_for(std::chrono::milliseconds(15));
     moveTo({from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps});
   }
-  std::this_thread::sleep_for(std::chrono::milliseconds(60));
+  rest();
 }
 
 void Hand::drag(ScreenPoint from, ScreenPoint to) {

@@ -24,6 +24,9 @@ class Hand {
   void beginAltDrag(ScreenPoint from, ScreenPoint to);
   void endAltDrag();
 
+  // As long as a person takes at least between two strokes; a menu that was opened is there afterwards.
+  void rest() const;
+
   // Such as "Ctrl+Alt+P" or "Return": goes to whatever has the keyboard.
   void keys(const std::string& chord);
 

@@ -27,17 +27,22 @@ Session::Session(const Options& options)
       program({TAVRELKIN_PROGRAM}, programEnvironment(home, server, options.environment)) {}
 
 xcb_window_t Session::waitForWindow(const std::string& titleBeginning) {
+  waitForWindow(titleBeginning, 1);
+  return windows.titled(titleBeginning).front();
+}
+
+xcb_window_t Session::waitForWindow(const std::string& titleBeginning, std::size_t count) {
   std::vector<xcb_window_t> found;
-  const auto isThere = [&] {
+  const auto areThere = [&] {
     found = windows.titled(titleBeginning);
-    return !found.empty();
+    return found.size() >= count;
   };
-  if (!waitUntil(isThere)) {
+  if (!waitUntil(areThere)) {
     const std::string state = program.isRunning() ? "runs" : "has ended";
-    throw std::runtime_error("No window has the title \"" + titleBeginning + "\"; the program " + state + ". " +
+    throw std::runtime_error("Too few windows have the title \"" + titleBeginning + "\"; the program " + state + ". " +
                              program.errors());
   }
-  return found.front();
+  return found.back();
 }
 
 void Session::bringToFront(xcb_window_t window) {

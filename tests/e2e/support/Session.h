@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -26,6 +27,8 @@ struct Session {
 
   // The first window with such a title, as soon as there is one.
   xcb_window_t waitForWindow(const std::string& titleBeginning);
+  // The newest window with such a title, as soon as there are so many of them.
+  xcb_window_t waitForWindow(const std::string& titleBeginning, std::size_t count);
   // Returns when the window has the keyboard.
   void bringToFront(xcb_window_t window);
 

@@ -50,40 +50,26 @@ std::string titleOf(std::uint32_t rgb) {
 
 // Out of the way of the other windows of the tests, which stand more to the right and further down.
 ToolWindow::ToolWindow(Session& session) : ToolWindow(session, session.waitForWindow("Color: ")) {
-  session.bringToFront(window_);
-  session.windows.moveTo(window_, 20, 20);
-  const auto isThere = [&] { return session.windows.area(window_).x < 40 && session.windows.area(window_).y < 60; };
-  if (!waitUntil(isThere)) throw std::runtime_error("The window doesn't move.");
+  session.bringToFront(window());
+  moveTo(20, 20);
 }
 
-ScreenPoint ToolWindow::onScreen(int x, int y) const {
-  const Area area = session_.windows.area(window_);
-  const int menuBar = area.height - (isUnfolded_ ? kUnfoldedHeight : kFoldedHeight);
-  return {area.x + x, area.y + menuBar + y};
-}
-
-void ToolWindow::keys(const std::string& chord) {
-  session_.bringToFront(window_);
-  session_.hand.keys(chord);
-}
-
-void ToolWindow::click(int x, int y) {
-  session_.hand.click(onScreen(x, y));
-}
+ToolWindow::ToolWindow(Session& session, xcb_window_t window) : ProgramWindow(session, window, kFoldedHeight) {}
 
 testing::AssertionResult ToolWindow::paste(std::uint32_t rgb) {
   const std::string title = titleOf(rgb);
-  session_.clipboard.copy(title.substr(title.find('#')));
+  session().clipboard.copy(title.substr(title.find('#')));
   keys("Ctrl+V");
   return getsTitleOf(rgb);
 }
 
 void ToolWindow::unfold() {
-  const int before = session_.windows.area(window_).height;
+  const int before = session().windows.area(window()).height;
   click(kTriangle.x, kTriangle.y);
-  isUnfolded_ =
-      waitUntil([&] { return session_.windows.area(window_).height == before + kUnfoldedHeight - kFoldedHeight; });
-  if (!isUnfolded_) throw std::runtime_error("The window doesn't unfold.");
+  const int after = before + kUnfoldedHeight - kFoldedHeight;
+  if (!waitUntil([&] { return session().windows.area(window()).height == after; }))
+    throw std::runtime_error("The window doesn't unfold.");
+  setContentHeight(kUnfoldedHeight);
 }
 
 void ToolWindow::zoomIn(int from, int to) {
@@ -95,30 +81,18 @@ ScreenPoint ToolWindow::onBar(int bar, int column) const {
   return onScreen((bar < 3 ? 158 : 307) + column, 277 + bar % 3 * 26);
 }
 
-std::uint32_t ToolWindow::shows(int x, int y) const {
-  const ScreenPoint at = onScreen(x, y);
-  return session_.client.read({static_cast<std::int16_t>(at.x), static_cast<std::int16_t>(at.y), 1, 1}).front();
-}
-
 ScreenPoint ToolWindow::onPreview(int x, int y) const {
   return onScreen(kPreview.x + x, kPreview.y + y);
 }
 
 Pixels ToolWindow::preview() const {
   const ScreenPoint at = onPreview(0, 0);
-  return session_.client.read(
+  return session().client.read(
       {static_cast<std::int16_t>(at.x), static_cast<std::int16_t>(at.y), kPreviewWidth, kPreviewHeight});
 }
 
 testing::AssertionResult ToolWindow::getsTitleOf(std::uint32_t rgb) const {
-  if (waitUntil([&] { return title() == titleOf(rgb); })) return testing::AssertionSuccess();
-  return testing::AssertionFailure() << "The title is \"" << title() << "\", not \"" << titleOf(rgb) << "\".";
-}
-
-testing::AssertionResult ToolWindow::gets(std::uint32_t rgb, int x, int y) const {
-  if (waitUntil([&] { return shows(x, y) == rgb; })) return testing::AssertionSuccess();
-  return testing::AssertionFailure() << "(" << x << ", " << y << ") is " << titleOf(shows(x, y)) << ", not "
-                                     << titleOf(rgb);
+  return getsTitle(titleOf(rgb));
 }
 
 testing::AssertionResult ToolWindow::getsPreview(const Preview& expected, int tolerance) const {

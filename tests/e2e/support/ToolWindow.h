@@ -5,24 +5,17 @@
 #include <gtest/gtest.h>
 
 #include "e2e/support/Preview.h"
-#include "e2e/support/Session.h"
+#include "e2e/support/ProgramWindow.h"
 
 namespace tavrelkin::test {
 
-// One of the program's tool windows. Places in it count from the top left corner of its content, below the menu bar.
-class ToolWindow {
+// One of the program's tool windows.
+class ToolWindow : public ProgramWindow {
  public:
   // The session's first one, as soon as it has the keyboard; it is moved to the screen's top left corner.
   explicit ToolWindow(Session& session);
-  ToolWindow(Session& session, xcb_window_t window) : session_(session), window_(window) {}
+  ToolWindow(Session& session, xcb_window_t window);
 
-  xcb_window_t window() const { return window_; }
-  std::string title() const { return session_.windows.title(window_); }
-  ScreenPoint onScreen(int x, int y) const;
-
-  // Brings it to the front first.
-  void keys(const std::string& chord);
-  void click(int x, int y);
   // Another program copies a colour, and the window pastes it: whether it comes to have it. It has then done all that
   // it was asked for before, too.
   testing::AssertionResult paste(std::uint32_t rgb);
@@ -34,23 +27,14 @@ class ToolWindow {
   // Of an unfolded window: a column of a bar, 0 to 120, in its middle row. Bars are 0 red to 5 value.
   ScreenPoint onBar(int bar, int column) const;
   ScreenPoint onSwatch() const { return onScreen(75, 296); }
-  // What one pixel of its content shows.
-  std::uint32_t shows(int x, int y) const;
 
   // Where a pixel of the preview is on the screen, and what the whole preview shows.
   ScreenPoint onPreview(int x, int y) const;
   Pixels preview() const;
 
-  // Whether title, a pixel of the content, or preview, become so before long. Each channel of the preview may differ by
-  // `tolerance`.
+  // Whether title, or preview, become so before long. Each channel of the preview may differ by `tolerance`.
   testing::AssertionResult getsTitleOf(std::uint32_t rgb) const;
-  testing::AssertionResult gets(std::uint32_t rgb, int x, int y) const;
   testing::AssertionResult getsPreview(const Preview& expected, int tolerance = 0) const;
-
- private:
-  Session& session_;
-  xcb_window_t window_;
-  bool isUnfolded_ = false;
 };
 
 // The window's title for a colour.
