@@ -19,3 +19,8 @@ if(TAVRELKIN_SANITIZE)
   add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
   add_link_options(-fsanitize=address,undefined)
 endif()
+
+# So that the fuzzer sees which code its inputs reach.
+if(TAVRELKIN_FUZZ)
+  add_compile_options(-fsanitize=fuzzer-no-link)
+endif()

@@ -1,0 +1,58 @@
+// A colour table file.
+
+#include <algorithm>
+
+#include "fuzz/support/Target.h"
+#include "support/TemporaryFolder.h"
+#include "tables/zrClut.h"
+
+namespace tavrelkin {
+namespace {
+
+constexpr const char* kFile = "table.act";
+
+// What a new table writes after it has read the file: its bytes, up to the last entry. What a colour lacks is 0.
+String expected(const String& bytes) {
+  String all = MidB(bytes, 1, 3 * 255);
+  while (all.size() % 3 != 0)
+    all += '\0';
+  return all + String(3 * 256 - all.size(), '\xFF');
+}
+
+void checkBounds(const zrClut& table) {
+  require(table.Count == 255 && table.aColors.size() == 256, "a table has 256 entries");
+  require(table.Index < 255, "the last entry is never reached");
+}
+
+// A table that was short before keeps nothing of its bounds, and its new entries are black.
+void checkShortTable(const Ref<FolderItem>& file, const zrClut& read) {
+  zrClut table;
+  table.Count = 0;
+  table.aColors.resize(1);
+  require(table.ReadClut(file), "any bytes are read into any table");
+  checkBounds(table);
+  require(table.Index == read.Index, "a file fills as many entries of any table");
+  for (Int32 i = 0; i < 256; ++i) {
+    const Color rest = i == 0 ? kWhite : kBlack;
+    require(table.getColor(i) == (i <= read.Index ? read.getColor(i) : rest), "what is not read stays");
+  }
+}
+
+}  // namespace
+}  // namespace tavrelkin
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  using namespace tavrelkin;
+  static const TemporaryFolder folder;
+  const FakeDesktop& desktop = freshDesktop();
+  const String bytes(data, data + size);
+  const Ref<FolderItem> file = folder.write(kFile, bytes);
+  zrClut table;
+  require(table.ReadClut(file), "any bytes are read");
+  checkBounds(table);
+  checkShortTable(file, table);
+  require(table.WriteClut(file), "a table can be written");
+  require(folder.read(kFile) == expected(bytes), "what was read is written");
+  require(desktop.messages.empty(), "there is nothing to say");
+  return 0;
+}
