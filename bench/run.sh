@@ -20,7 +20,8 @@ configure bench >&2
 cmake --build "$build" --target tavrelkin tool_window_bench swatch_bench dichromat_bench desktop_bench >&2
 
 processor=$(sed -n 's/^model name\s*: //p' /proc/cpuinfo | head -n 1)
-echo "$(hostname): ${processor:-$(uname -m)}, $(nproc) cores; Linux $(uname -r); Qt $(pkgconf --modversion Qt6Widgets);" \
+kernel=$(uname -r)
+echo "${processor:-$(uname -m)}, $(nproc) cores; Linux ${kernel%%-*}; Qt $(pkgconf --modversion Qt6Widgets);" \
   "Xvfb $(dpkg-query --show --showformat='${Version}' xvfb 2>/dev/null || echo "of unknown version")"
 echo
 echo "| What | Wanted | Measured |"

@@ -1,7 +1,5 @@
 // A colour table file.
 
-#include <algorithm>
-
 #include "fuzz/support/Target.h"
 #include "support/TemporaryFolder.h"
 #include "tables/zrClut.h"
@@ -10,13 +8,15 @@ namespace tavrelkin {
 namespace {
 
 constexpr const char* kFile = "table.act";
+constexpr std::size_t kFileSize = 768;
 
 // What a new table writes after it has read the file: its bytes, up to the last entry. What a colour lacks is 0.
 String expected(const String& bytes) {
   String all = MidB(bytes, 1, 3 * 255);
   while (all.size() % 3 != 0)
     all += '\0';
-  return all + String(3 * 256 - all.size(), '\xFF');
+  all.resize(kFileSize, '\xFF');
+  return all;
 }
 
 void checkBounds(const zrClut& table) {

@@ -34,8 +34,8 @@ Double expanded(Int32 channel, Double gamma) {
 // No matrix below is the inverse of another one. The differences belong to the results: a grey does not stay neutral.
 
 zrXYZ::zrXYZ(Color c) {
-  initClass();
-  XYZFromRGB(c);
+  zrXYZ::initClass();
+  zrXYZ::XYZFromRGB(c);
 }
 
 Color zrXYZ::getRGBColor() const {

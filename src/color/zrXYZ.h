@@ -17,21 +17,24 @@ class zrXYZ {
  public:
   // Takes the colour at a gamma of 2.2.
   explicit zrXYZ(Color c);
+  zrXYZ(const zrXYZ&) = default;
+  zrXYZ& operator=(const zrXYZ&) = default;
+  virtual ~zrXYZ() = default;
 
   // Gives the whole parts of linear red, green and blue, which are 0, 1 or 2 for a colour of the display. Not for the
   // screen.
-  Color getRGBColor() const;
+  virtual Color getRGBColor() const;
   // Sets `gamma` to 2.2 and fills the tables of the deficiencies. The tristimulus values stay.
-  void initClass();
+  virtual void initClass();
   // How the colour that the object holds looks to a dichromat, encoded with `gamma`. The argument c is not looked at.
   // Changes nothing. Throws OutOfBoundsException unless index is 0, 1 or 2.
-  Color getDichromatTranformation(Int32 index, Color c) const;
+  virtual Color getDichromatTranformation(Int32 index, Color c) const;
   // The colour of any tristimulus values, without gamma: linear red, green and blue times 255, fractions dropped.
-  Color RGBFromXYZ(Double fromX, Double fromY, Double fromZ) const;
+  virtual Color RGBFromXYZ(Double fromX, Double fromY, Double fromZ) const;
   // Writes linear red, green and blue of any tristimulus values. They may be negative or above 1.
-  void RGB2FromXYZ(Double fromX, Double fromY, Double fromZ, Double& r, Double& g, Double& b) const;
+  virtual void RGB2FromXYZ(Double fromX, Double fromY, Double fromZ, Double& r, Double& g, Double& b) const;
   // Takes the colour into `x`, `y` and `z`, its channels expanded with `gamma`.
-  void XYZFromRGB(Color c);
+  virtual void XYZFromRGB(Color c);
 
   // The tristimulus values. White has a `y` of 1.
   Double x = 0;

@@ -23,33 +23,33 @@ class frmFav : public Window {
   Color pUndoColor;
 
   // A click in the palette: its colour is shown. Pastes and drops leave box and label as they are.
-  void imgClut_Action(Int32 index, Color c);
+  virtual void imgClut_Action(Int32 index, Color c);
 
   void AddMenuHandlers() override;
 
   // Menu commands; each reports itself as handled.
-  bool mnuSaveClut();
-  bool mnuSaveAS();
-  bool EditPaste();
-  bool mnuEditCopyHex();
-  bool EditCopy();
-  bool mnuCloseWin();
+  virtual bool mnuSaveClut();
+  virtual bool mnuSaveAS();
+  virtual bool EditPaste();
+  virtual bool mnuEditCopyHex();
+  virtual bool EditCopy();
+  virtual bool mnuCloseWin();
 
-  void DoDisplayColor(Color c);
+  virtual void DoDisplayColor(Color c);
   // Loads a palette: swatch files by names that end in "aco", colour tables by "act". Where that fails the window
   // closes itself. A nil file changes nothing.
-  void ReadColors(const Ref<FolderItem>& f);
+  virtual void ReadColors(const Ref<FolderItem>& f);
   // Shows what has changed in the table.
-  void UpdatePalette();
+  virtual void UpdatePalette();
   // Saves the palette as a swatch file, whatever its name ends in; asks for a file where `f` is nil. What goes wrong is
   // told to the user.
-  void SaveColors(Ref<FolderItem> f);
+  virtual void SaveColors(Ref<FolderItem> f);
   // Begins a new palette without a file.
-  void NewClut();
+  virtual void NewClut();
   // Adds a colour to the table, or puts it into the selected entry. Without a selection both do nothing.
-  void DoAddColor(Color c);
-  void DoSaveUndo();
-  void DoSetSelection(Color c);
+  virtual void DoAddColor(Color c);
+  virtual void DoSaveUndo();
+  virtual void DoSetSelection(Color c);
 
   zrClutPalette imgClut{*this, "imgClut"};
   StaticText lblColor{*this, "lblColor"};

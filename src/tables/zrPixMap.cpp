@@ -61,8 +61,8 @@ Color zrPixMap::GetColor(Int32 index) const {
 
 Int32 zrPixMap::GetColorIdx(Color c) {
   for (Int32 i = 0; i <= colorCount; ++i) {
-    if (entry(i) == c) return i;
     RuntimeBackgroundTask();
+    if (entry(i) == c) return i;
   }
   if (colorCount == kLargestIndex) return 0;
   colors.push_back(c);

@@ -36,8 +36,7 @@ TEST_F(BarsTest, ADragShowsTheTipAndGivesTheColourAtItsEnd) {
 
 TEST_F(BarsTest, APressBesideTheIndicatorOnlyBringsTheKeyboard) {
   session_.hand.click(tool_.onBar(0, 100));
-  EXPECT_TRUE(tool_.gets(tool_.shows(157, 277), 157, 287)) << "a ring around the bar";
-  EXPECT_NE(tool_.shows(157, 277), kGround);
+  EXPECT_TRUE(waitUntil([this] { return tool_.shows(157, 277) != kGround; })) << "a ring around the bar";
   session_.hand.keys("Right");
   EXPECT_TRUE(tool_.getsTitleOf(0x71ABFF));
   session_.hand.keys("Left");

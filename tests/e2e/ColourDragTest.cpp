@@ -71,25 +71,36 @@ TEST_F(TwoWindowsDragTest, ADragOutlivesTheWindowItCameFrom) {
   EXPECT_TRUE(other_->paste(0x102030)) << "still alive";
 }
 
+// A drag is over when both programs say so; only then does the next one begin.
+void dragOut(Session& session, const ForeignColours& foreign, ScreenPoint from, ScreenPoint to) {
+  const int before = foreign.drags();
+  session.hand.drag(from, to);
+  ASSERT_TRUE(waitUntil([&] { return foreign.drags() > before; }));
+}
+
 TEST_F(ColourDragTest, AnotherProgramGivesColours) {
   const ForeignColours foreign(session_.server);
-  session_.hand.drag(foreign.kButton, tool_.onBar(1, 20));
-  EXPECT_TRUE(tool_.getsTitleOf(0x70ABFF)) << "its green happens to be ours";
-  session_.hand.drag(foreign.kButton, tool_.onBar(0, 20));
-  EXPECT_TRUE(tool_.getsTitleOf(0x12ABFF));
-  session_.hand.drag(foreign.kLongColourAndText, tool_.onBar(1, 20));
-  EXPECT_TRUE(tool_.getsTitleOf(0x12C0FF)) << "the text alone counts";
-  session_.hand.drag(foreign.kText, tool_.onBar(0, 20));
-  EXPECT_TRUE(tool_.getsTitleOf(0xC0C0FF));
-  session_.hand.drag(foreign.kShortColour, tool_.onBar(1, 20));
-  EXPECT_TRUE(tool_.paste(0xC0C0FE)) << "a sign that the drag is over";
-  EXPECT_TRUE(tool_.gets(0xC0C0FE, 75, 296));
+  const struct {
+    ScreenPoint from;
+    int bar;
+    std::uint32_t expected;
+    const char* why;
+  } rows[] = {
+      {foreign.kButton, 0, 0x12ABFF, "a colour"},
+      {foreign.kLongColourAndText, 1, 0x12C0FF, "the text alone counts"},
+      {foreign.kText, 0, 0xC0C0FF, "a text"},
+      {foreign.kShortColour, 1, 0xC0C0FF, "a malformed colour is none"},
+  };
+  for (const auto& row : rows) {
+    dragOut(session_, foreign, row.from, tool_.onBar(row.bar, 20));
+    EXPECT_TRUE(tool_.getsTitleOf(row.expected)) << row.why;
+  }
 }
 
 TEST_F(ColourDragTest, AnotherProgramTakesColours) {
   const ForeignColours foreign(session_.server);
   session_.hand.altDrag(tool_.onSwatch(), foreign.kButton);
-  EXPECT_TRUE(waitUntil([&] { return foreign.taken() == "7070ABABFFFF\n"; })) << foreign.taken();
+  EXPECT_TRUE(waitUntil([&] { return foreign.taken() == "7070ABABFFFF"; })) << foreign.taken();
 }
 
 }  // namespace

@@ -117,6 +117,7 @@ TEST_F(FavouritesTest, AColourIsDraggedFromPaletteToPaletteAndToABar) {
   const auto to = openNew(2);
   to->moveTo(600, 400);
   to->select(40);
+  ASSERT_TRUE(to->gets(0x909090, 20 + 10 * 13, 7 + 13)) << "the mark";
   session_.hand.drag(from->onCell(3), to->onCell(70));
   EXPECT_TRUE(to->getsCell(0x0A64C8, 40)) << "the selected cell takes it";
   tool_.unfold();

@@ -93,10 +93,13 @@ void FileReplacement::openBeside() {
   }
 }
 
-// The group stays where the user belongs to it, the owner where the user may give files away.
+// The group stays where the user belongs to it, the owner where the user may give files away. The rights of a group are
+// not for another one.
 void FileReplacement::takeAfter(const struct stat& old) const {
-  std::ignore = fchown(descriptor_, old.st_uid, old.st_gid);
-  std::ignore = fchmod(descriptor_, old.st_mode & 0777);
+  constexpr auto kSameOwner = static_cast<uid_t>(-1);
+  const bool keptGroup =
+      fchown(descriptor_, old.st_uid, old.st_gid) == 0 || fchown(descriptor_, kSameOwner, old.st_gid) == 0;
+  std::ignore = fchmod(descriptor_, old.st_mode & (keptGroup ? 0777U : 0707U));
 }
 
 bool FileReplacement::commit(std::string_view bytes) {

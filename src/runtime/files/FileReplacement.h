@@ -10,10 +10,11 @@ namespace tavrelkin {
 
 // A file that is written whole or not at all: the bytes go into a temporary file beside it, which then takes its place.
 // Until that moment, and after any failure, the old file is as it was. A link stays a link, what it leads to is
-// replaced; the permissions of the old file stay.
+// replaced; the mode of the old file stays.
 //
-// The data is not forced out to the disk, which takes a hundred times as long as all the rest. File systems write it
-// ahead of a rename that replaces another file.
+// The data is not forced out to the disk, which takes a hundred times as long as all the rest. The common file systems
+// write it ahead of a rename that replaces another file, so that a power cut leaves one of the two; a new file may be
+// lost in the seconds after it was made.
 class FileReplacement {
  public:
   // Begins to replace the file at `path`, or to make a new one.

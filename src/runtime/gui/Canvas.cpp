@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include <QWidget>
+
 #include "runtime/concurrency/Scheduler.h"
 #include "runtime/drawing/Picture.h"
 #include "runtime/gui/Window.h"
@@ -53,6 +55,8 @@ void Canvas::resized() {
 
 // The widget stays enabled, since a disabled one would take no drop.
 void Canvas::enabledChanged() {
+  applyFocusPolicy();
+  if (!Enabled) native().clearFocus();
   if (shown_) Refresh(false);
 }
 

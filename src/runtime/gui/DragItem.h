@@ -31,7 +31,8 @@ class DragItem : public Object {
   void SetText(String text);
 
   // Begins the drag, for an item that NewDragItem has made, from within a MouseDrag event. Returns when the user has
-  // let go or given up; an item of another origin is not dragged. The press that began it grants no further events.
+  // let go or given up; an item of another origin is not dragged. Of the press that began it, the
+  // release may still come, where it falls on the control that the drag began on.
   void Drag();
 
   // For whoever makes an item that can be dragged.

@@ -6,6 +6,7 @@
 
 #include "runtime/qt/Convert.h"
 #include "runtime/qt/Delivery.h"
+#include "runtime/qt/Fonts.h"
 
 namespace tavrelkin {
 
@@ -13,6 +14,7 @@ PushButton::PushButton(Window& owner, String name)
     : RectControl(owner, std::move(name), new QPushButton),
       Caption({}, [this](const String& text) { static_cast<QPushButton&>(native()).setText(toQt(text)); }) {
   auto* button = static_cast<QPushButton*>(&native());
+  button->setFont(fontFor("System", 12, false));
   button->setAutoDefault(false);
   QObject::connect(button, &QPushButton::clicked, [this] { deliver(ownerWindow(), [this] { Action(); }); });
 }

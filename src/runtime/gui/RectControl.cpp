@@ -95,11 +95,12 @@ void RectControl::applyHelpTag() {
 
 void RectControl::enabledChanged() {
   native_->setEnabled(Enabled);
+  applyFocusPolicy();
 }
 
 void RectControl::applyFocusPolicy() {
-  const int byClick = AcceptFocus ? Qt::ClickFocus : Qt::NoFocus;
-  const int byTab = TabStop ? Qt::TabFocus : Qt::NoFocus;
+  const int byClick = Enabled && AcceptFocus ? Qt::ClickFocus : Qt::NoFocus;
+  const int byTab = Enabled && TabStop ? Qt::TabFocus : Qt::NoFocus;
   native_->setFocusPolicy(static_cast<Qt::FocusPolicy>(byClick | byTab));
 }
 

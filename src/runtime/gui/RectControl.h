@@ -62,10 +62,11 @@ class RectControl : public Control {
   // Called after a change of Enabled.
   virtual void enabledChanged();
 
+  void applyFocusPolicy();
+
  private:
   void applyGeometry();
   void applyHelpTag();
-  void applyFocusPolicy();
 
   std::vector<String> acceptedTypes_;
   bool acceptsText_ = false;

@@ -28,7 +28,7 @@ class Runtime {
 // The look of the program, the same on every desktop: for a toolkit that has just been made.
 void applyLook(QApplication& toolkit);
 
-// Ends what outlives windows: threads, and widgets that wait to be deleted. For the end of the runtime.
+// Ends all threads, and forgets a fault that was told. For the end of the runtime.
 void shutDownRuntime();
 
 }  // namespace tavrelkin

@@ -66,7 +66,7 @@ Ref<DragItem> fromMime(const QMimeData& data) {
   if (data.hasText()) {
     item->SetText(fromQt(data.text()));
   } else if (data.hasFormat(kPlainText)) {
-    item->SetText(data.data(kPlainText).toStdString());
+    item->SetText(fromQt(QString::fromUtf8(data.data(kPlainText))));
   }
   return item;
 }

@@ -1,5 +1,6 @@
 #include "e2e/support/ForeignColours.h"
 
+#include <sstream>
 #include <stdexcept>
 
 #include "e2e/support/WaitUntil.h"
@@ -9,6 +10,7 @@ namespace tavrelkin::test {
 namespace {
 
 const std::string kReady = "ready\n";
+const std::string kOver = "over";
 
 }  // namespace
 
@@ -18,7 +20,19 @@ ForeignColours::ForeignColours(const XServer& server)
 }
 
 std::string ForeignColours::taken() const {
-  return process_.output().substr(kReady.size());
+  std::istringstream lines(process_.output().substr(kReady.size()));
+  std::string last;
+  for (std::string line; std::getline(lines, line);)
+    if (line != kOver) last = line;
+  return last;
+}
+
+int ForeignColours::drags() const {
+  std::istringstream lines(process_.output());
+  int count = 0;
+  for (std::string line; std::getline(lines, line);)
+    count += line == kOver;
+  return count;
 }
 
 }  // namespace tavrelkin::test

@@ -25,8 +25,10 @@ class ForeignColours {
   static constexpr ScreenPoint kLongColourAndText{1050, 630};  // the text is #00C0FF
   static constexpr ScreenPoint kText{1110, 630};               // #C000FF
 
-  // The colours that the button has taken: four hexadecimal digits a channel, one colour a line.
+  // The colour that the button has taken last: four hexadecimal digits a channel; empty before the first.
   std::string taken() const;
+  // How many drags that began here have ended, whatever became of them.
+  int drags() const;
 
  private:
   Home home_;

@@ -41,10 +41,12 @@ void Hand::rest() const {
   std::this_thread::sleep_for(std::chrono::milliseconds(80));
 }
 
+// A window manager may hold the press back for a moment, and a key that follows at once would overtake it.
 void Hand::click(ScreenPoint at) {
   moveTo(at);
   pressButton();
   releaseButton();
+  rest();
 }
 
 // A hand takes its time, and a drag needs it: programs talk to each other at each place.
@@ -62,6 +64,7 @@ void Hand::pull(ScreenPoint from, ScreenPoint to) {
 void Hand::drag(ScreenPoint from, ScreenPoint to) {
   pull(from, to);
   releaseButton();
+  rest();
 }
 
 void Hand::altDrag(ScreenPoint from, ScreenPoint to) {
@@ -77,6 +80,7 @@ void Hand::beginAltDrag(ScreenPoint from, ScreenPoint to) {
 void Hand::endAltDrag() {
   releaseButton();
   client_.releaseAlt();
+  rest();
 }
 
 std::uint8_t Hand::keyCode(const std::string& name) const {

@@ -31,9 +31,12 @@ std::uint32_t ProgramWindow::shows(int x, int y) const {
 
 void ProgramWindow::moveTo(std::int16_t x, std::int16_t y) {
   session_.windows.moveTo(window_, x, y);
+  // It may have been near before, and the frame takes some pixels: it is there when it rests.
   const auto isThere = [&] {
+    const Area before = session_.windows.area(window_);
+    session_.hand.rest();
     const Area area = session_.windows.area(window_);
-    return std::abs(area.x - x) < 20 && std::abs(area.y - y) < 40;
+    return area.x == before.x && area.y == before.y && std::abs(area.x - x) < 20 && std::abs(area.y - y) < 40;
   };
   if (!waitUntil(isThere)) throw std::runtime_error("The window doesn't move.");
 }
@@ -58,7 +61,6 @@ void ProgramWindow::chooseLast(int x) {
 void ProgramWindow::choose(int x, const std::string& key) {
   session_.bringToFront(window_);
   click(x, -10);
-  session_.hand.rest();
   session_.hand.keys(key);
   session_.hand.rest();
   session_.hand.keys("Return");

@@ -2,8 +2,8 @@
 
 A window without a frame at (900, 600) holds, each 60 by 60 and from left to right: the toolkit's own colour button, which
 gives and takes colours; and three that only give: a colour in too few bytes, a colour in too many bytes beside a text
-that names one, and nothing but a text that names one. Says "ready" when it can be used, then each colour that the button takes,
-as four hexadecimal digits a channel.
+that names one, and nothing but a text that names one. Says "ready" when it can be used, then "over" for each
+drag of its own that has ended, and each colour that the button takes, as four hexadecimal digits a channel.
 """
 import gi
 
@@ -50,6 +50,7 @@ def main():
         source([(TEXT, b"#C000FF")]),
     ):
         widget.set_size_request(60, 60)
+        widget.connect("drag-end", lambda *_: print("over", flush=True))
         row.pack_start(widget, False, False, 0)
     window.add(row)
     window.move(900, 600)

@@ -127,6 +127,7 @@ TEST_F(CanvasTest, ADisabledCanvasIsPaintedAnewAndTakesDropsAlone) {
   window->canvas.SetFocus();
   window->canvas.Enabled = false;
   EXPECT_EQ(window->paints, 2);
+  EXPECT_FALSE(gesture::hasKeyboard(window->canvas));
   gesture::hover(window->canvas, 1, 1);
   gesture::click(window->canvas, 1, 1);
   gesture::key(window->canvas, Qt::Key_A);
