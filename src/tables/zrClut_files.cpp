@@ -21,15 +21,42 @@ Int32 readHighByte(BinaryStream& stream) {
   return high;
 }
 
+// The stream of a file, or nil; the user is told where there is a file but it can't be opened, or none can be made.
+Ref<BinaryStream> opened(const Ref<FolderItem>& file, const char* complaint) {
+  if (!file || !file->Exists()) return nullptr;
+  Ref<BinaryStream> stream = file->OpenAsBinaryFile(false);
+  if (!stream) MsgBox(complaint);
+  return stream;
+}
+Ref<BinaryStream> created(const Ref<FolderItem>& file, const char* typeName, const char* complaint) {
+  if (!file) return nullptr;
+  Ref<BinaryStream> stream = file->CreateBinaryFile(typeName);
+  if (!stream) MsgBox(complaint);
+  return stream;
+}
+
+void finish(BinaryStream& stream, FolderItem& file, const char* macType) {
+  stream.Close();
+  file.MacType = macType;
+  file.MacCreator = "8BIM";
+}
+
+// Adds colours up to the end of the stream or the last but one entry. With a Count of 0 or less the cursor never meets
+// that, and the rest of the file is read in vain.
+template <class ReadColor>
+void fill(zrClut& table, BinaryStream& stream, ReadColor readColor) {
+  while (!stream.EOF()) {
+    table.Add(readColor());
+    if (table.Index + 1 == table.Count) break;
+  }
+  stream.Close();
+}
+
 }  // namespace
 
 bool zrClut::writeSwatch(const Ref<FolderItem>& file) const {
-  if (!file) return false;
-  const Ref<BinaryStream> stream = file->CreateBinaryFile("ColorSwatch");
-  if (!stream) {
-    MsgBox("Unable to save swatch file");
-    return false;
-  }
+  const Ref<BinaryStream> stream = created(file, "ColorSwatch", "Unable to save swatch file");
+  if (!stream) return false;
   stream->WriteShort(1);
   stream->WriteShort(Count + 1);
   for (Int32 i = 0; i <= Count; ++i) {
@@ -40,70 +67,49 @@ bool zrClut::writeSwatch(const Ref<FolderItem>& file) const {
     writeTwice(*stream, c.blue());
     stream->WriteShort(0);
   }
-  stream->Close();
-  file->MacType = "8BCO";
-  file->MacCreator = "8BIM";
+  finish(*stream, *file, "8BCO");
   return true;
 }
 
 bool zrClut::WriteClut(const Ref<FolderItem>& file) const {
-  if (!file) return false;
-  const Ref<BinaryStream> stream = file->CreateBinaryFile("ColorClut");
-  if (!stream) {
-    MsgBox("Unable to save clut file");
-    return false;
-  }
+  const Ref<BinaryStream> stream = created(file, "ColorClut", "Unable to save clut file");
+  if (!stream) return false;
   for (Int32 i = 0; i <= 255; ++i) {
     const Color c = getColor(i);
     stream->WriteByte(c.red());
     stream->WriteByte(c.green());
     stream->WriteByte(c.blue());
   }
-  stream->Close();
-  file->MacType = "8BCT";
-  file->MacCreator = "8BIM";
+  finish(*stream, *file, "8BCT");
   return true;
 }
 
 bool zrClut::ReadSwatch(const Ref<FolderItem>& file) {
-  if (!file || !file->Exists()) return false;
-  const Ref<BinaryStream> stream = file->OpenAsBinaryFile(false);
-  if (!stream) {
-    MsgBox("Unable to read color swatch");
-    return false;
-  }
+  const Ref<BinaryStream> stream = opened(file, "Unable to read color swatch");
+  if (!stream) return false;
   stream->Position = 2;
   resize(stream->ReadShort());
   stream->Position = 6;
-  // With a count of 0 or less the cursor never meets it, and the rest of the file is read in vain.
-  while (!stream->EOF()) {
+  fill(*this, *stream, [&] {
     const Int32 red = readHighByte(*stream);
     const Int32 green = readHighByte(*stream);
     const Int32 blue = readHighByte(*stream);
     stream->Position += 4;
-    Add(RGB(red, green, blue));
-    if (Index + 1 == Count) break;
-  }
-  stream->Close();
+    return RGB(red, green, blue);
+  });
   return true;
 }
 
 bool zrClut::ReadClut(const Ref<FolderItem>& file) {
-  if (!file || !file->Exists()) return false;
-  const Ref<BinaryStream> stream = file->OpenAsBinaryFile(false);
-  if (!stream) {
-    MsgBox("Unable to read color clut");
-    return false;
-  }
+  const Ref<BinaryStream> stream = opened(file, "Unable to read color clut");
+  if (!stream) return false;
   resize(255);
-  while (!stream->EOF()) {
+  fill(*this, *stream, [&] {
     const Int32 red = stream->ReadByte();
     const Int32 green = stream->ReadByte();
     const Int32 blue = stream->ReadByte();
-    Add(RGB(red, green, blue));
-    if (Index + 1 == Count) break;
-  }
-  stream->Close();
+    return RGB(red, green, blue);
+  });
   return true;
 }
 

@@ -1,35 +1,11 @@
-#include <string>
-
 #include "controls/BarPosition.h"
-#include "controls/zrColorCHBar.h"
+#include "controls/BarTest.h"
 #include "support/Gestures.h"
-#include "support/RuntimeTest.h"
 
 namespace tavrelkin {
 namespace {
 
-class Host : public Window {
- public:
-  explicit Host(Int32 channel) : Window({.title = "Host", .width = 200, .height = 50}) {
-    bar.place(10, 10, 121, 20);
-    bar.SetColorChannel = [channel] { return channel; };
-    bar.Action = [this] { log += "action "; };
-    bar.Change = [this] { log += "change "; };
-    bar.ValueChanging = [this] { log += "changing "; };
-  }
-  zrColorCHBar bar{*this, "bar"};
-  std::string log;
-};
-
-class BarGesturesTest : public RuntimeTest {
- protected:
-  Ref<Host> open(Int32 channel, Color c) {
-    Ref<Host> host = New<Host>(channel);
-    host->Show();
-    host->bar.SetBaseColor(c);
-    return host;
-  }
-};
+using BarGesturesTest = BarTest;
 
 TEST_F(BarGesturesTest, PositionsAreThreeFormulas) {
   EXPECT_EQ(BarPosition::ofValue(128, 255, 121), 60);

@@ -1,24 +1,9 @@
-#include "controls/zrColorCHBar.h"
-#include "support/RuntimeTest.h"
+#include "controls/BarTest.h"
 
 namespace tavrelkin {
 namespace {
 
-// A window with a bar of the channel; it counts the events that the bar raises.
-class Host : public Window {
- public:
-  explicit Host(Int32 channel) : Window({.title = "Host", .width = 200, .height = 50}) {
-    bar.place(10, 10, 121, 20);
-    bar.SetColorChannel = [channel] { return channel; };
-    bar.Action = [this] { ++raised; };
-    bar.Change = [this] { ++raised; };
-    bar.ValueChanging = [this] { ++raised; };
-  }
-  zrColorCHBar bar{*this, "bar"};
-  int raised = 0;
-};
-
-using zrColorCHBarTest = RuntimeTest;
+using zrColorCHBarTest = BarTest;
 
 TEST_F(zrColorCHBarTest, ABaseColourGivesTheChannelsValueAndTip) {
   const struct {
@@ -37,16 +22,14 @@ TEST_F(zrColorCHBarTest, ABaseColourGivesTheChannelsValueAndTip) {
       {8, 0xFFFF00, 255, "Yellow 100"},
   };
   for (const auto& [channel, color, value, tip] : rows) {
-    const Ref<Host> host = New<Host>(channel);
-    host->Show();
+    const Ref<Host> host = open(channel, Color{color});
     EXPECT_EQ(host->bar.propColorChannel, channel);
-    host->bar.SetBaseColor(Color{color});
     EXPECT_EQ(host->bar.propBaseColor, Color{color});
     EXPECT_EQ(host->bar.Value, value) << tip;
     EXPECT_EQ(host->bar.HelpTag.get(), tip);
     host->bar.SetValue(255);
     EXPECT_EQ(host->bar.propBaseColor, Color{color});
-    EXPECT_EQ(host->raised, 0);
+    EXPECT_EQ(host->log, "");
     host->Close();
   }
 }

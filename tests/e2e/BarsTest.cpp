@@ -13,13 +13,7 @@ namespace {
 constexpr std::uint32_t kTip = 0xFFF8CE;
 constexpr std::uint32_t kGround = 0xCCCCCC;
 
-class BarsTest : public testing::Test {
- protected:
-  void SetUp() override { tool_.unfold(); }
-
-  Session session_;
-  ToolWindow tool_{session_};
-};
+using BarsTest = UnfoldedToolWindowTest;
 
 TEST_F(BarsTest, ADragShowsTheTipAndGivesTheColourAtItsEnd) {
   session_.hand.moveTo(tool_.onBar(0, 53));

@@ -13,13 +13,7 @@ namespace {
 
 constexpr std::uint32_t kStart = 0x70ABFF;
 
-class ColourDragTest : public testing::Test {
- protected:
-  void SetUp() override { tool_.unfold(); }
-
-  Session session_;
-  ToolWindow tool_{session_};
-};
+using ColourDragTest = UnfoldedToolWindowTest;
 
 class TwoWindowsDragTest : public ColourDragTest {
  protected:

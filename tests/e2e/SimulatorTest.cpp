@@ -22,12 +22,12 @@ constexpr ScreenPoint kUpdate{360, 219};
 constexpr std::uint32_t kRedAt18[] = {0x826E15, 0x956700, 0xFE0E00};
 constexpr std::uint32_t kRedAt22[] = {0x938021, 0xA47A00, 0xFE1900};
 
-class SimulatorTest : public testing::Test {
+class SimulatorTest : public UnfoldedToolWindowTest {
  protected:
   static constexpr int kToolsMenu = 183;
 
   void SetUp() override {
-    tool_.unfold();
+    UnfoldedToolWindowTest::SetUp();
     tool_.chooseFirst(kToolsMenu);
     simulator_ = std::make_unique<ProgramWindow>(session_, session_.waitForWindow("Color Blind Simulator"), 244);
     session_.bringToFront(simulator_->window());
@@ -48,8 +48,6 @@ class SimulatorTest : public testing::Test {
       EXPECT_TRUE(gets(expected[i], kResults[i])) << "deficiency " << i;
   }
 
-  Session session_;
-  ToolWindow tool_{session_};
   std::unique_ptr<ProgramWindow> simulator_;
 };
 

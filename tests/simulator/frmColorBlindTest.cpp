@@ -74,19 +74,6 @@ TEST_F(frmColorBlindTest, ShowsNothingUntilTheFirstUpdateWhichIsOfBlack) {
   EXPECT_EQ(window->lblRColor.Text.get(), "Color: 0.0.0, 0.0.0, #000000");
 }
 
-TEST_F(frmColorBlindTest, ControlsAreFoundByNameAndIndex) {
-  const struct {
-    const char* name;
-    Int32 index;
-    const Control* control;
-  } rows[] = {{"cmdColor", 0, &window->cmdColor[0]}, {"cmdColor", 1, &window->cmdColor[1]},
-              {"cmdColor", 2, &window->cmdColor[2]}, {"cmdColor", 3, &window->cmdColor[3]},
-              {"colors", 0, &window->colors[0]},     {"colors", 1, &window->colors[1]},
-              {"txtGamma", 0, &window->txtGamma},    {"cmbGamma", 0, &window->cmbGamma}};
-  for (const auto& row : rows)
-    EXPECT_EQ(window->control(row.name, row.index), row.control) << row.name << row.index;
-}
-
 TEST_F(frmColorBlindTest, PasteSimulatesWhatReadsAsAColourAndIgnoresTheRest) {
   paste(" #808080\n");
   expectResults(kGrey, kGreyAt18);

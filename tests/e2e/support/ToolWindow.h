@@ -37,6 +37,15 @@ class ToolWindow : public ProgramWindow {
   testing::AssertionResult getsPreview(const Preview& expected, int tolerance = 0) const;
 };
 
+// A session with its tool window unfolded.
+class UnfoldedToolWindowTest : public testing::Test {
+ protected:
+  void SetUp() override { tool_.unfold(); }
+
+  Session session_;
+  ToolWindow tool_{session_};
+};
+
 // The window's title for a colour.
 std::string titleOf(std::uint32_t rgb);
 

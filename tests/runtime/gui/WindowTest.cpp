@@ -1,9 +1,7 @@
 #include <string>
 
 #include "runtime/gui/Application.h"
-#include "runtime/gui/Slider.h"
 #include "runtime/gui/Window.h"
-#include "runtime/system/System.h"
 #include "support/Gestures.h"
 #include "support/RuntimeTest.h"
 
@@ -93,14 +91,6 @@ TEST_F(WindowTest, ACommandGoesToTheFrontWindowFirst) {
   EXPECT_EQ(log, "window:a window:b ");
 }
 
-TEST_F(WindowTest, ClosesOnceHoweverItIsClosed) {
-  Ref<Host> window = open("");
-  window->Close();
-  window->Close();
-  gesture::closeByFrame(*open(""));
-  EXPECT_EQ(log, "open close open close ");
-}
-
 TEST_F(WindowTest, MinimisingIsToldOnce) {
   const Ref<Host> window = open("");
   gesture::minimise(*window);
@@ -113,33 +103,6 @@ TEST_F(WindowTest, ACheckMarkIsTheProgramsOwn) {
   item->Checked = true;
   gesture::shortcut(*window, "Cmd+B");
   EXPECT_TRUE(item->Checked);
-}
-
-TEST_F(WindowTest, ASliderTellsOfTheUsersChangesOnly) {
-  class WithSlider : public Window {
-   public:
-    WithSlider() : Window({.title = "Slider", .width = 100, .height = 100}) {}
-    Slider slider{*this, "slider"};
-  };
-  const Ref<WithSlider> window = New<WithSlider>();
-  int changes = 0;
-  window->slider.ValueChanged = [&] { ++changes; };
-  window->slider.Maximum = 3;
-  window->slider.Value = 7;
-  EXPECT_EQ(window->slider.Value, 3);
-  EXPECT_EQ(changes, 0);
-  gesture::key(window->slider, 0x01000012);
-  EXPECT_EQ(window->slider.Value, 2);
-  EXPECT_EQ(changes, 1);
-}
-
-TEST_F(WindowTest, TheUserIsToldOnceThatTheScreenCantBeRead) {
-  fake().readable = false;
-  for (int i = 0; i < 3; ++i)
-    System::Pixel(i, i);
-  EXPECT_TRUE(fake().messages.empty()) << "a thread may be asking";
-  processEvents();
-  EXPECT_EQ(fake().messages.size(), 1u);
 }
 
 }  // namespace
