@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Builds the release with the benchmarks, measures, and prints the machine and a table of the figures, in Markdown.
-# Installs what that takes. Some three minutes, in which the machine should have nothing else to do.
+# Builds the release with the benchmarks, measures, and writes the machine and its figures to docs/figures.md. Installs
+# what that takes, but none of the other programs that it measures where they are. Some five minutes, in which the machine
+# should have nothing else to do.
 set -euo pipefail
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
 # shellcheck source=scripts/packages.sh
@@ -17,16 +18,45 @@ export XDG_RUNTIME_DIR="$root/build/runtime"
 require_packages build run test bench >&2
 mkdir -p -m 700 -- "$root/build/runtime"
 configure bench >&2
-cmake --build "$build" --target tavrelkin tool_window_bench swatch_bench dichromat_bench desktop_bench >&2
+cmake --build "$build" >&2
 
-processor=$(sed -n 's/^model name\s*: //p' /proc/cpuinfo | head -n 1)
-kernel=$(uname -r)
-echo "${processor:-$(uname -m)}, $(nproc) cores; Linux ${kernel%%-*}; Qt $(pkgconf --modversion Qt6Widgets);" \
-  "Xvfb $(dpkg-query --show --showformat='${Version}' xvfb 2>/dev/null || echo "of unknown version")"
-echo
-echo "| What | Wanted | Measured |"
-echo "| --- | --- | --- |"
-"$build/bench/tool_window_bench"
-"$build/bench/swatch_bench"
-"$build/bench/dichromat_bench"
-"$build/bench/desktop_bench"
+measure() {
+  local processor kernel
+  processor=$(sed -n 's/^model name\s*: //p' /proc/cpuinfo | head -n 1)
+  kernel=$(uname -r)
+  cat <<'END'
+# Figures
+
+Measured by `bench/run.sh`, which writes this page: the program on a virtual X server of its own, driven by pointer and
+keys as a user would; CPU from the kernel's books, in percent of one core. The bare window is the least that a Qt window
+with a menu bar takes, run in turns with the program.
+
+END
+  echo "${processor:-$(uname -m)}, $(nproc) cores; Linux ${kernel%%-*}; Qt $(pkgconf --modversion Qt6Widgets);" \
+    "Xvfb $(dpkg-query --show --showformat='${Version}' xvfb 2>/dev/null || echo "of unknown version")"
+  echo
+  echo "| What | Wanted | Measured |"
+  echo "| --- | --- | --- |"
+  local bench
+  for bench in tool_window_bench swatch_bench dichromat_bench desktop_bench; do "$build/bench/$bench"; done
+  cat <<'END'
+
+CPU figures vary from run to run with what else the machine does, those of the pointer in circles by a third.
+
+Writing a small swatch file is the file system's work: the rename that replaces the old file has the data written ahead
+of it, which takes most of the time on an ext4 disk. In a folder in memory the same write takes a sixth of it.
+
+## Beside other programs
+
+All are measured in the same way, from outside, with a window manager and without a session bus. Start is the time until
+the screen shows what it will show at rest. A dash stands where a program doesn't follow the pointer, or only once it has
+been told to pick.
+
+END
+  "$build/bench/peers_bench"
+}
+
+# A run that fails leaves the page as it was.
+page="$root/build/figures.md"
+measure | tee "$page"
+mv -- "$page" "$root/docs/figures.md"
