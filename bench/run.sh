@@ -16,7 +16,8 @@ unset DISPLAY WAYLAND_DISPLAY XAUTHORITY LANGUAGE "${!QT_@}"
 export XDG_RUNTIME_DIR="$root/build/runtime"
 
 require_packages build run test bench >&2
-mkdir -p -m 700 -- "$root/build/runtime"
+mkdir -p -- "$root/build/runtime"
+chmod 700 -- "$root/build/runtime"
 configure bench >&2
 cmake --build "$build" >&2
 
