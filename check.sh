@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Runs every check that is not a test and prints OK or FAIL for each, with what was found; fails if one fails.
+# Runs every check but the tests' own and prints OK or FAIL for each, with what was found, and what the tests cover.
+# Fails if one fails.
 set -euo pipefail
 root=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 # shellcheck source=scripts/packages.sh
@@ -61,6 +62,22 @@ check_headers() {
   files 'src/*.h' | xargs -0 --no-run-if-empty -n 1 -P "$(nproc)" bash -c 'check_header "$1"' check_header
 }
 
+# Prints how many lines of each layer the unit and window tests reach. A report, with no bound that anyone could fail.
+check_coverage() {
+  configure coverage -DTAVRELKIN_TESTS=ON
+  cmake --build build/coverage
+  find build/coverage -name '*.gcda' -delete
+  QT_QPA_PLATFORM=offscreen ctest --test-dir build/coverage --parallel "$(nproc)"
+}
+
+report_coverage() {
+  gcovr --root . --filter src/ --object-directory build/coverage --csv build/coverage 2>/dev/null | tail -n +2 |
+    awk -F, '{ split($1, folder, "/"); layer = folder[2] ~ /\./ ? "main" : folder[2]
+               lines[layer] += $2; reached[layer] += $3; lines["all"] += $2; reached["all"] += $3 }
+             END { for (layer in lines) printf "      %-12s %5.1f %% of %d lines\n", layer,
+                   100 * reached[layer] / lines[layer], lines[layer] }' | sort
+}
+
 failures=0
 # check NAME FUNCTION: the function runs in a shell of its own, for `set -e` is off inside a condition.
 check() {
@@ -84,4 +101,6 @@ check "format (clang-format)" check_format
 check "headers compile alone; public ones hide the libraries" check_headers
 check "scripts (shellcheck)" check_scripts
 check "code (clang-tidy)" check_tidy
+check "unit and window tests, for their coverage" check_coverage
+report_coverage
 ((failures == 0))

@@ -24,3 +24,8 @@ endif()
 if(TAVRELKIN_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
+
+if(TAVRELKIN_COVERAGE)
+  add_compile_options(--coverage)
+  add_link_options(--coverage)
+endif()

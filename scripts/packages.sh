@@ -15,7 +15,7 @@ packages_for() {
       ;;
     bench) echo libbenchmark-dev ;;
     fuzz) echo clang libclang-rt-14-dev llvm ;;
-    check) echo clang-format clang-tidy git shellcheck ;;
+    check) echo clang-format clang-tidy gcovr git shellcheck ;;
     *) echo "packages_for: no purpose is called '$1'" >&2; return 2 ;;
   esac
 }
