@@ -1,6 +1,6 @@
 # shellcheck shell=bash
 # A display for machines without one: a virtual X server, a window manager and a colourful desktop, which last as long
-# as the program. Sourced by run.sh, which sets `root` to the source folder.
+# as the program. Sourced by run.sh and docs/screenshots.sh, which set `root` to the source folder.
 : "${root:?}"
 
 headless_temp=
@@ -113,11 +113,9 @@ take_screenshot() {
   import -window root "png:$1.part" && mv -f -- "$1.part" "$1"
 }
 
-# run_headless PROGRAM SCREENSHOT: runs the program on a display of its own and writes a picture of the whole screen
-# once its window is up. Ends this script, with the program's exit status.
-run_headless() {
-  local program=$1 screenshot=$2 status=0
-  rm -f -- "$screenshot"
+# Brings up the display, with a window manager and an empty desktop, until this script ends; sets headless_temp to a
+# folder that goes with it.
+start_display() {
   headless_temp=$(mktemp -d "${TMPDIR:-/tmp}/tavrelkin.XXXXXX")
   trap stop_headless EXIT
   trap 'exit 129' HUP
@@ -128,11 +126,22 @@ run_headless() {
   export XDG_RUNTIME_DIR=${XDG_RUNTIME_DIR:-$headless_temp}
   start_server
   start_manager
-  paint_desktop
+}
 
-  # There is no session bus here; the toolkit must not start one, which would outlive the program.
-  DBUS_SESSION_BUS_ADDRESS=${DBUS_SESSION_BUS_ADDRESS:-disabled:} QT_QPA_PLATFORM=xcb "${child[@]}" "$program" &
+# There is no session bus here; the toolkit must not start one, which would outlive the program.
+start_program() {
+  DBUS_SESSION_BUS_ADDRESS=${DBUS_SESSION_BUS_ADDRESS:-disabled:} QT_QPA_PLATFORM=xcb "${child[@]}" "$1" &
   headless_program=$!
+}
+
+# run_headless PROGRAM SCREENSHOT: runs the program on a display of its own and writes a picture of the whole screen
+# once its window is up. Ends this script, with the program's exit status.
+run_headless() {
+  local program=$1 screenshot=$2 status=0
+  rm -f -- "$screenshot"
+  start_display
+  paint_desktop
+  start_program "$program"
   if poll 30 "$headless_program" window_is_painted; then
     take_screenshot "$screenshot"
     echo "Tavrelkin is up on a display of its own. Screenshot: $screenshot"

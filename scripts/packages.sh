@@ -14,6 +14,7 @@ packages_for() {
         ruby-color x11-utils xclip xvfb
       ;;
     bench) echo libbenchmark-dev ;;
+    guide) echo xdotool ;;
     fuzz) echo clang libclang-rt-14-dev llvm ;;
     check) echo clang-format clang-tidy gcovr git shellcheck ;;
     *) echo "packages_for: no purpose is called '$1'" >&2; return 2 ;;
