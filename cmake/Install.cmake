@@ -1,6 +1,7 @@
 # What `cmake --install` puts where: the program, and what makes it known to a desktop. The Debian package is made of
 # the same, with Debian's own form of the licence and the manual; see Package.cmake.
 include(GNUInstallDirs)
+set(documents "${CMAKE_INSTALL_DATAROOTDIR}/doc/tavrelkin")
 
 set(data "${CMAKE_SOURCE_DIR}/data")
 set(icons "${data}/icons")
@@ -18,4 +19,4 @@ foreach(size IN ITEMS 16 22 24 32 48 64 128 256)
 endforeach()
 
 install(FILES "${data}/tavrelkin.1" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT documents)
-install(FILES "${CMAKE_SOURCE_DIR}/LICENSE" DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT documents)
+install(FILES "${CMAKE_SOURCE_DIR}/LICENSE" DESTINATION "${documents}" COMPONENT documents)

@@ -24,7 +24,7 @@ add_custom_target(debian_documents ALL DEPENDS "${compressed}/tavrelkin.1.gz" "$
 
 install(FILES "${compressed}/tavrelkin.1.gz" DESTINATION "${CMAKE_INSTALL_MANDIR}/man1"
   COMPONENT debian EXCLUDE_FROM_ALL)
-install(FILES "${compressed}/changelog.gz" "${debian}/copyright" DESTINATION "${CMAKE_INSTALL_DOCDIR}"
+install(FILES "${compressed}/changelog.gz" "${debian}/copyright" DESTINATION "${documents}"
   COMPONENT debian EXCLUDE_FROM_ALL)
 install(FILES "${debian}/lintian-overrides" DESTINATION "${CMAKE_INSTALL_DATADIR}/lintian/overrides"
   RENAME tavrelkin COMPONENT debian EXCLUDE_FROM_ALL)

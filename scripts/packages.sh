@@ -17,7 +17,8 @@ packages_for() {
     fuzz) echo clang libclang-rt-14-dev llvm ;;
     check) echo appstream clang-format clang-tidy desktop-file-utils git mandoc shellcheck ;;
     package)
-      echo appstream debootstrap desktop-file-utils dpkg-dev imagemagick lintian x11-utils x11-xserver-utils xvfb
+      echo appstream debian-archive-keyring debootstrap desktop-file-utils dpkg-dev imagemagick lintian x11-utils \
+        x11-xserver-utils xvfb
       ;;
     icons) echo librsvg2-bin ;;
     *) echo "packages_for: no purpose is called '$1'" >&2; return 2 ;;
