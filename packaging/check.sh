@@ -60,7 +60,7 @@ install_package() {
 # As a user, on a display that has no window manager, with no session bus: neither is in the tree. A mere start leaves
 # nothing in the user's home.
 start_program() {
-  local uid left
+  local uid class left
   uid=$(in_tree id -u visitor)
   start_server
   xhost "+si:localuser:#$uid" >/dev/null
@@ -70,7 +70,8 @@ start_program() {
     "$(command -v chroot)" --userspec=visitor:visitor "$tree" tavrelkin &>"$headless_temp/program.log" &
   headless_program=$!
   poll 30 "$headless_program" window_is_painted || give_up "The installed program shows no window:"
-  [[ $(xprop -id "$headless_window" WM_CLASS) == *'"tavrelkin", "tavrelkin"' ]]
+  class=$(sed -n 's/^StartupWMClass=//p' "$tree/usr/share/applications/tavrelkin.desktop")
+  [[ $(xprop -id "$headless_window" WM_CLASS) == *", \"$class\"" ]]
   take_screenshot "$root/build/package.png"
   stop_child "$headless_program"
   headless_program=
