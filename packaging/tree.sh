@@ -10,7 +10,7 @@ tree="$store/tree"
 debian_sources() {
   # shellcheck disable=SC2016  # It is apt that expands these.
   apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' |
-    grep -E ' bookworm(-updates|-security)? '
+    sed -nE '/ bookworm(-updates|-security)? /p'
 }
 
 # Prints the mirror of the main archive.
