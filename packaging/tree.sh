@@ -35,7 +35,7 @@ make_base() {
     return 1
   fi
   debian_sources | sed 's/^/deb /' >"$tree/etc/apt/sources.list"
-  apt-config dump Acquire | grep -E '^Acquire::(http|https|Retries|Check-)' >"$tree/etc/apt/apt.conf.d/90outside" || true
+  apt-config dump Acquire | sed -nE '/^Acquire::(https?:|Retries|Check-)/p' >"$tree/etc/apt/apt.conf.d/90outside"
   tar --create --gzip --one-file-system --file "$base.part" --directory "$tree" .
   mv -- "$base.part" "$base"
 }
@@ -72,10 +72,13 @@ in_tree() {
     chroot "$tree" "$@"
 }
 
-apt_in_tree() { in_tree apt-get --quiet --yes --no-install-recommends -o Dpkg::Use-Pty=0 -o APT::Sandbox::User=root "$@"; }
+apt_in_tree() {
+  in_tree apt-get --quiet --yes --no-install-recommends -o Dpkg::Use-Pty=0 -o APT::Sandbox::User=root "$@"
+}
 
 # Lists all that is there, less what apt and dpkg keep of each step, and what only passes.
 list_tree() {
-  (cd -- "$tree" && find . -xdev \( -path ./var/cache -o -path ./var/log -o -path ./var/lib/apt -o -path ./var/lib/dpkg \
-    -o -path ./proc -o -path ./tmp \) -prune -o -print | sort)
+  local -a passed_over=(-path ./var/cache -o -path ./var/log -o -path ./var/lib/apt -o -path ./var/lib/dpkg
+    -o -path ./proc -o -path ./tmp)
+  (cd -- "$tree" && find . -xdev \( "${passed_over[@]}" \) -prune -o -print | sort)
 }
