@@ -40,6 +40,12 @@ check_tidy() {
 
 check_scripts() { files '*.sh' .ci/run | xargs -0 shellcheck --external-sources; }
 
+check_desktop() {
+  desktop-file-validate data/tavrelkin.desktop
+  appstreamcli validate --no-net --pedantic data/*.metainfo.xml
+  mandoc -T lint -W warning data/tavrelkin.1
+}
+
 # check_header HEADER: whether it compiles with nothing before it and, unless it is private, reaches none of the private
 # libraries, not even through another header.
 check_header() {
@@ -100,6 +106,7 @@ check "build without warnings" check_build
 check "format (clang-format)" check_format
 check "headers compile alone; public ones hide the libraries" check_headers
 check "scripts (shellcheck)" check_scripts
+check "desktop entry, metadata and man page" check_desktop
 check "code (clang-tidy)" check_tidy
 check "unit and window tests, for their coverage" check_coverage
 report_coverage

@@ -16,7 +16,12 @@ packages_for() {
     bench) echo libbenchmark-dev ;;
     guide) echo xdotool ;;
     fuzz) echo clang libclang-rt-14-dev llvm ;;
-    check) echo clang-format clang-tidy gcovr git shellcheck ;;
+    check) echo appstream clang-format clang-tidy desktop-file-utils gcovr git mandoc shellcheck ;;
+    package)
+      echo appstream debian-archive-keyring debootstrap desktop-file-utils dpkg-dev imagemagick lintian x11-utils \
+        x11-xserver-utils xvfb
+      ;;
+    icons) echo librsvg2-bin ;;
     *) echo "packages_for: no purpose is called '$1'" >&2; return 2 ;;
   esac
 }

@@ -2,6 +2,6 @@
 #include "runtime/gui/Runtime.h"
 
 int main() {
-  tavrelkin::Runtime runtime;
+  tavrelkin::Runtime runtime(":/icon");
   return runtime.run(tavrelkin::New<tavrelkin::App>());
 }

@@ -35,6 +35,7 @@ class WindowsTest : public testing::Test {
 TEST_F(WindowsTest, OpensFolded) {
   EXPECT_TRUE(tool_.getsTitleOf(0x70ABFF));
   EXPECT_EQ(session_.windows.className(tool_.window()), std::string("tavrelkin\0tavrelkin\0", 20));
+  EXPECT_EQ(session_.windows.iconWidth(tool_.window()), 128U) << "the window manager's stand-in has 48";
   const Area area = session_.windows.area(tool_.window());
   EXPECT_EQ(area.width, 448);
   EXPECT_GT(area.height, 262) << "content and menu bar";

@@ -4,6 +4,8 @@
 #include <utility>
 
 #include <QApplication>
+#include <QDir>
+#include <QIcon>
 #include <QPalette>
 
 #include "runtime/concurrency/Scheduler.h"
@@ -33,6 +35,13 @@ QPalette lightPalette() {
   return colors;
 }
 
+QIcon readIcon(const std::string& folder) {
+  QIcon icon;
+  for (const QFileInfo& picture : QDir(QString::fromStdString(folder)).entryInfoList(QDir::Files))
+    icon.addFile(picture.filePath());
+  return icon;
+}
+
 }  // namespace
 
 void applyLook(QApplication& toolkit) {
@@ -44,8 +53,9 @@ void applyLook(QApplication& toolkit) {
   toolkit.setQuitOnLastWindowClosed(false);
 }
 
-Runtime::Runtime() : toolkit_(makeToolkit()) {
+Runtime::Runtime(const std::string& iconFolder) : toolkit_(makeToolkit()) {
   applyLook(*toolkit_);
+  QApplication::setWindowIcon(readIcon(iconFolder));
   installDesktop(makeNativeDesktop());
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <memory>
+#include <string>
 
 #include "runtime/base/Ref.h"
 #include "runtime/gui/Application.h"
@@ -12,7 +13,9 @@ namespace tavrelkin {
 // The runtime itself: the toolkit, the desktop and the event loop. One for the life of the program, made first.
 class Runtime {
  public:
-  Runtime();
+  // The icon of all windows comes from a folder among the program's own resources, which has a picture for each size; a
+  // folder that is not there leaves the icon to the desktop.
+  explicit Runtime(const std::string& iconFolder);
   Runtime(const Runtime&) = delete;
   Runtime& operator=(const Runtime&) = delete;
   ~Runtime();

@@ -65,6 +65,11 @@ std::string Windows::className(xcb_window_t window) const {
   return property(window, "WM_CLASS");
 }
 
+std::uint32_t Windows::iconWidth(xcb_window_t window) const {
+  const auto icons = numbers(window, "_NET_WM_ICON");
+  return icons.empty() ? 0 : icons[0];
+}
+
 Area Windows::area(xcb_window_t window) const {
   auto* const c = client_.connection();
   const auto size = owned(xcb_get_geometry_reply(c, xcb_get_geometry(c, window), nullptr));

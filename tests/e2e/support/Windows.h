@@ -22,6 +22,8 @@ class Windows {
   std::string title(xcb_window_t window) const;
   // The name and the class in WM_CLASS, with a zero byte after each.
   std::string className(xcb_window_t window) const;
+  // The width of its first icon in pixels; 0 where it has none.
+  std::uint32_t iconWidth(xcb_window_t window) const;
   // Inside the frame, in pixels of the screen.
   Area area(xcb_window_t window) const;
   bool hasKeyboard(xcb_window_t window) const;

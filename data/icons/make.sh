@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# Makes the PNG sizes of the icon from its drawing, tavrelkin.svg. To be run after a change of that; the results are
+# committed, so that a build needs no tool for it. Installs what that takes.
+set -euo pipefail
+icons=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
+# shellcheck source=scripts/packages.sh
+source "$icons/../../scripts/packages.sh"
+
+require_packages icons
+for size in 16 22 24 32 48 64 128 256; do
+  rsvg-convert --width "$size" --height "$size" --output "$icons/tavrelkin-$size.png" -- "$icons/tavrelkin.svg"
+done

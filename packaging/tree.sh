@@ -1,0 +1,84 @@
+# shellcheck shell=bash
+# A bare Debian 12 system in a folder, to try the package in. Sourced by check.sh, which sets `root` to the source
+# folder. Where its packages come from is what this machine's own apt says.
+: "${root:?}"
+
+store="$root/build/package-check"  # what is kept from one run to the next
+tree="$store/tree"
+
+# Prints address, suite and component of each part of Debian 12 that this machine's apt fetches from.
+debian_sources() {
+  # shellcheck disable=SC2016  # It is apt that expands these.
+  apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' |
+    sed -nE '/ bookworm(-updates|-security)? /p'
+}
+
+# Prints the mirror of the main archive.
+mirror() { debian_sources | sed -n 's/ bookworm main$//p' | head -n 1; }
+
+# The system as debootstrap leaves it, in an archive that is made once: everything that a run does goes with the tree.
+make_base() {
+  local base=$1 from proxy=
+  from=$(mirror)
+  if [[ -z $from ]]; then
+    apt_get update
+    from=$(mirror)
+  fi
+  if [[ -z $from ]]; then
+    echo "This machine's apt has no source for Debian 12 (bookworm): the package can't be tried." >&2
+    return 1
+  fi
+  eval "$(apt-config shell proxy Acquire::http::Proxy)"
+  if ! env ${proxy:+http_proxy="$proxy"} debootstrap --variant=minbase bookworm "$tree" "$from"; then
+    tail -n 5 -- "$tree/debootstrap/debootstrap.log" || true
+    echo "debootstrap could not make a bare Debian 12 from $from, the mirror of this machine's apt." >&2
+    return 1
+  fi
+  debian_sources | sed 's/^/deb /' >"$tree/etc/apt/sources.list"
+  apt-config dump Acquire | sed -nE '/^Acquire::(https?:|Retries|Check-)/p' >"$tree/etc/apt/apt.conf.d/90outside"
+  tar --create --gzip --one-file-system --file "$base.part" --directory "$tree" .
+  mv -- "$base.part" "$base"
+}
+
+# Puts a fresh tree up. It must go through remove_tree in the end.
+make_tree() {
+  local base="$store/bookworm.tar.gz"
+  remove_tree
+  mkdir -p -- "$tree" "$store/archives/partial"
+  if [[ -f $base ]]; then
+    tar --extract --file "$base" --directory "$tree"
+  else
+    make_base "$base"
+  fi
+  cp --dereference -- /etc/resolv.conf /etc/hosts "$tree/etc/"
+  mount -t proc proc "$tree/proc"
+  mount --bind -- "$store/archives" "$tree/var/cache/apt/archives"
+  mkdir -p -- "$tree/tmp/.X11-unix"
+  mount --bind -- /tmp/.X11-unix "$tree/tmp/.X11-unix"
+}
+
+# Nothing outside goes along, even where a mount could not be undone.
+remove_tree() {
+  local mounted
+  for mounted in proc var/cache/apt/archives tmp/.X11-unix; do
+    ! mountpoint --quiet -- "$tree/$mounted" || umount --lazy -- "$tree/$mounted"
+  done
+  rm -rf --one-file-system -- "$tree"
+}
+
+# in_tree COMMAND ...: runs it there as root, with nothing of this machine's environment.
+in_tree() {
+  env --ignore-environment PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
+    chroot "$tree" "$@"
+}
+
+apt_in_tree() {
+  in_tree apt-get --quiet --yes --no-install-recommends -o Dpkg::Use-Pty=0 -o APT::Sandbox::User=root "$@"
+}
+
+# Lists all that is there, less what apt and dpkg keep of each step, and what only passes.
+list_tree() {
+  local -a passed_over=(-path ./var/cache -o -path ./var/log -o -path ./var/lib/apt -o -path ./var/lib/dpkg
+    -o -path ./proc -o -path ./tmp)
+  (cd -- "$tree" && find . -xdev \( "${passed_over[@]}" \) -prune -o -print | sort)
+}
