@@ -42,8 +42,7 @@ INSTANTIATE_TEST_SUITE_P(Of, DisplaysTest, testing::ValuesIn(kDisplays),
                          [](const auto& display) { return std::string(display.param.name); });
 
 TEST(MonitorsTest, AreFollowedAndPokedOnEither) {
-  Session session({.server = {.screen = "2000x800x24"}});
-  ASSERT_TRUE(session.client.splitScreen(1000));
+  Session session({.server = {.screen = "2000x800x24"}, .leftMonitor = 1000});
   ToolWindow tool(session);
   tool.keys("Ctrl+F");
   for (const std::int16_t left : {std::int16_t{1500}, std::int16_t{900}, std::int16_t{600}}) {

@@ -75,16 +75,5 @@ TEST_F(PokeTest, ADragOutOfThePreviewFollowsUntilItTakesThePixelWhereItEnds) {
   EXPECT_TRUE(tool_.getsTitleOf(foreign_.shown({820, 570})));
 }
 
-// The pointer is read in the screen's own pixels, whatever the size of the program's.
-TEST(ScaledPokeTest, TakesThePixelUnderThePointer) {
-  Session session({.environment = {"QT_SCALE_FACTOR=1.5"}});
-  ToolWindow tool(session);
-  const ForeignWindow foreign(session.client, {900, 600, 160, 120});
-  const ScreenPoint at{971, 653};
-  session.hand.moveTo(at);
-  tool.keys("Ctrl+Alt+P");
-  EXPECT_TRUE(tool.getsTitleOf(foreign.shown(at)));
-}
-
 }  // namespace
 }  // namespace tavrelkin::test

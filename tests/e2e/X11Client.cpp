@@ -151,6 +151,12 @@ void X11Client::fake(std::uint8_t type, std::uint8_t detail, int x, int y) {
   sync();
 }
 
+void X11Client::setResources(const std::string& lines) {
+  xcb_change_property(connection_.get(), XCB_PROP_MODE_REPLACE, root(), XCB_ATOM_RESOURCE_MANAGER, XCB_ATOM_STRING, 8,
+                      static_cast<std::uint32_t>(lines.size()), lines.data());
+  sync();
+}
+
 bool X11Client::resizeScreen(std::uint16_t width, std::uint16_t height) {
   auto* const c = connection_.get();
   const auto* extension = xcb_get_extension_data(c, &xcb_randr_id);
@@ -173,18 +179,20 @@ bool X11Client::resizeScreen(std::uint16_t width, std::uint16_t height) {
 }
 
 bool X11Client::splitScreen(std::uint16_t width) {
+  constexpr int kLower = 100;
   auto* const c = connection_.get();
   const auto resources =
       owned(xcb_randr_get_screen_resources_reply(c, xcb_randr_get_screen_resources(c, screen_->root), nullptr));
   if (resources->num_outputs == 0) return false;
   const auto rest = static_cast<std::uint16_t>(screen_->width_in_pixels - width);
   const auto height = screen_->height_in_pixels;
-  return setMonitor("left", {0, 0, width, height}, xcb_randr_get_screen_resources_outputs(resources.get())) &&
-         setMonitor("right", {static_cast<std::int16_t>(width), 0, rest, height}, nullptr);
+  const auto* output = xcb_randr_get_screen_resources_outputs(resources.get());
+  return setMonitor("left", {0, 0, width, static_cast<std::uint16_t>(height - kLower)}, output, false) &&
+         setMonitor("right", {static_cast<std::int16_t>(width), 0, rest, height}, nullptr, true);
 }
 
 // Sent by hand: the library's function for this request gets the length wrong, which ends the connection.
-bool X11Client::setMonitor(const std::string& name, const Area& area, const xcb_randr_output_t* output) {
+bool X11Client::setMonitor(const std::string& name, const Area& area, const xcb_randr_output_t* output, bool isMain) {
   auto* const c = connection_.get();
   const auto nameLength = static_cast<std::uint16_t>(name.size());
   const auto atom = owned(xcb_intern_atom_reply(c, xcb_intern_atom(c, 0, nameLength, name.data()), nullptr));
@@ -194,16 +202,9 @@ bool X11Client::setMonitor(const std::string& name, const Area& area, const xcb_
     xcb_randr_output_t output;
   } request{};
   request.header.window = screen_->root;
-  request.monitor = {atom->atom,
-                     0,
-                     0,
-                     static_cast<std::uint16_t>(output ? 1 : 0),
-                     area.x,
-                     area.y,
-                     area.width,
-                     area.height,
-                     area.width / 4U,
-                     area.height / 4U};
+  request.monitor = {atom->atom,      isMain,          0,          static_cast<std::uint16_t>(output ? 1 : 0),
+                     area.x,          area.y,          area.width, area.height,
+                     area.width / 4U, area.height / 4U};
   if (output) request.output = *output;
 
   const std::size_t length = sizeof request - (output ? 0 : sizeof request.output);

@@ -53,9 +53,12 @@ class X11Client {
   void fake(std::uint8_t type, std::uint8_t detail, int x = 0, int y = 0);
   void sync() const;
 
+  // The settings that programs find on the screen, as "Xft.dpi:\t96\n".
+  void setResources(const std::string& lines);
+
   // False where the server can't.
   bool resizeScreen(std::uint16_t width, std::uint16_t height);
-  // Makes the screen two monitors side by side, the left one of this width.
+  // Makes the screen two monitors side by side: the main one on the right, and a lower one of this width on the left.
   bool splitScreen(std::uint16_t width);
 
  private:
@@ -66,7 +69,7 @@ class X11Client {
   std::uint32_t stored(std::uint32_t rgb) const;
   std::uint32_t fromStored(std::uint32_t pixel) const;
   void fakeAlt(std::uint8_t type);
-  bool setMonitor(const std::string& name, const Area& area, const xcb_randr_output_t* output);
+  bool setMonitor(const std::string& name, const Area& area, const xcb_randr_output_t* output, bool isMain);
 
   std::unique_ptr<xcb_connection_t, Disconnect> connection_;
   const xcb_screen_t* screen_;

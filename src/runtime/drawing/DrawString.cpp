@@ -1,12 +1,27 @@
+#include <utility>
+
 #include <QFontMetrics>
 #include <QImage>
 #include <QPainter>
 
+#include "runtime/drawing/DrawnText.h"
 #include "runtime/drawing/Graphics.h"
 #include "runtime/qt/Convert.h"
 #include "runtime/qt/Fonts.h"
 
 namespace tavrelkin {
+
+namespace {
+
+// What a text may change, with a rim for what smoothing adds.
+Block placeOf(const QPainter& painter, const QString& text, Int32 x, Int32 y, const QRect& surface) {
+  constexpr int rim = 2;
+  const QRectF ink = painter.fontMetrics().boundingRect(text).adjusted(-rim, -rim, rim, rim);
+  const QRect place = (ink.translated(x, y) & QRectF(surface)).toAlignedRect();
+  return {place.x(), place.y(), place.width(), place.height()};
+}
+
+}  // namespace
 
 Int32 Graphics::TextAscent() const {
   return QFontMetrics(fontFor("System", TextSize, false)).ascent();
@@ -21,7 +36,16 @@ void Graphics::DrawString(const String& text, Int32 x, Int32 y) {
   QPainter painter(&image);
   painter.setFont(fontFor("System", TextSize, false));
   painter.setPen(toQt(ForeColor));
-  painter.drawText(x, y, toQt(text));
+  const QString shown = toQt(text);
+  if (!observer_) return painter.drawText(x, y, shown);
+
+  DrawnText record{.text = text, .left = x, .baseline = y, .size = TextSize, .color = ForeColor};
+  record.place = placeOf(painter, shown, x, y, image.rect());
+  if (record.place.isEmpty()) return;
+  record.ground = pixelsOf(surface_, record.place);
+  painter.drawText(x, y, shown);
+  record.drawn = pixelsOf(surface_, record.place);
+  observer_->textDrawn(std::move(record));
 }
 
 }  // namespace tavrelkin

@@ -7,11 +7,14 @@
 namespace tavrelkin {
 
 class Picture;
+struct DrawnText;
 
 // Learns that something is being drawn: a canvas, which then shows its surface anew.
 class DrawingObserver {
  public:
   virtual void drawn() = 0;
+  // A text has been drawn, after drawn().
+  virtual void textDrawn(DrawnText text) = 0;
 
  protected:
   ~DrawingObserver() = default;

@@ -49,6 +49,7 @@ void Canvas::backdropChanged() {
 void Canvas::resized() {
   if (surface_.width() == Width && surface_.height() == Height) return;
   surface_ = Surface(Width, Height, ownerWindow().BackColor);
+  texts_.clear();
   if (shown_) paintAfresh();
   widget().showSoon();
 }
@@ -63,6 +64,11 @@ void Canvas::enabledChanged() {
 void Canvas::drawn() {
   Scheduler::instance().canvasDrawn();
   widget().showSoon();
+}
+
+void Canvas::textDrawn(DrawnText text) {
+  std::erase_if(texts_, [&](const DrawnText& other) { return other.place.meets(text.place); });
+  texts_.push_back(std::move(text));
 }
 
 }  // namespace tavrelkin

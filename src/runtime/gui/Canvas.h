@@ -1,8 +1,10 @@
 #pragma once
 
 #include <string_view>
+#include <vector>
 
 #include "runtime/base/Event.h"
+#include "runtime/drawing/DrawnText.h"
 #include "runtime/drawing/Graphics.h"
 #include "runtime/gui/RectControl.h"
 
@@ -72,12 +74,15 @@ class Canvas : public RectControl, private DrawingObserver {
   friend class CanvasWidget;
 
   void drawn() override;
+  void textDrawn(DrawnText text) override;
   void paintAfresh();
   void backdropChanged();
 
   CanvasWidget& widget() const;
 
   Surface surface_;
+  // Those that may still be whole; no two of them meet.
+  std::vector<DrawnText> texts_;
   tavrelkin::Graphics graphics_;
   bool shown_ = false;
 };

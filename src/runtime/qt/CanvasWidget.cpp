@@ -13,6 +13,7 @@
 #include "runtime/gui/Window.h"
 #include "runtime/qt/Delivery.h"
 #include "runtime/qt/Drags.h"
+#include "runtime/qt/Enlargement.h"
 
 namespace tavrelkin {
 
@@ -41,11 +42,6 @@ void takeCopy(QDropEvent& event) {
   event.accept();
 }
 
-// The pixel that a position lies in, also left of and above the widget.
-QPoint pixelOf(const QMouseEvent& event) {
-  return {qFloor(event.position().x()), qFloor(event.position().y())};
-}
-
 }  // namespace
 
 CanvasWidget::CanvasWidget(Canvas& canvas) : canvas_(&canvas) {
@@ -71,12 +67,10 @@ QRect CanvasWidget::takeChanges() {
   const Surface& surface = canvas_->surface_;
   const int width = surface.width();
   const int height = surface.height();
-  const bool isNew = picture_.size() != QSize(width, height);
-  if (isNew) picture_ = QImage(width, height, QImage::Format_RGB32);
+  const bool isNew = surface_.width() != width || surface_.height() != height;
+  if (isNew) surface_ = Surface(width, height, kWhite);
   const std::size_t bytes = static_cast<std::size_t>(width) * sizeof(std::uint32_t);
-  const auto changed = [&](int y) {
-    return isNew || std::memcmp(picture_.constScanLine(y), surface.row(y), bytes) != 0;
-  };
+  const auto changed = [&](int y) { return isNew || std::memcmp(surface_.row(y), surface.row(y), bytes) != 0; };
   int first = 0;
   int end = height;
   while (first < end && !changed(first))
@@ -84,8 +78,11 @@ QRect CanvasWidget::takeChanges() {
   while (first < end && !changed(end - 1))
     --end;
   for (int y = first; y < end; ++y)
-    std::memcpy(picture_.scanLine(y), surface.row(y), bytes);
-  return {0, first, width, end - first};
+    std::memcpy(surface_.row(y), surface.row(y), bytes);
+  if (first == end) return {};
+  enlarged_ = {};
+  // Elsewhere the toolkit rounds the edges of a part in its own way, and a text may change as a whole.
+  return devicePixelRatioF() == 1 ? QRect(0, first, width, end - first) : rect();
 }
 
 void CanvasWidget::showEvent(QShowEvent*) {
@@ -100,12 +97,46 @@ void CanvasWidget::hideEvent(QHideEvent*) {
 }
 
 void CanvasWidget::paintEvent(QPaintEvent* event) {
-  QPainter(this).drawImage(event->rect(), picture_, event->rect());
+  QPainter painter(this);
+  if (painter.deviceTransform().m11() != 1) return paintEnlarged(painter);
+  const QImage picture(reinterpret_cast<const uchar*>(std::as_const(surface_).row(0)), surface_.width(),
+                       surface_.height(), QImage::Format_RGB32);
+  painter.drawImage(event->rect(), picture, event->rect());
+}
+
+void CanvasWidget::paintEnlarged(QPainter& painter) {
+  const QTransform toScreen = painter.deviceTransform();
+  const Enlargement enlargement(toScreen.m11());
+  if (enlarged_.isNull() || enlargedBy_ != enlargement.scale()) {
+    enlarged_ = enlargement.of(surface_, canvas_ ? canvas_->texts_ : std::vector<DrawnText>());
+    enlargedBy_ = enlargement.scale();
+  }
+  // Pixel for pixel: the painter's own scaling would set edges between two pixels of the screen.
+  const QTransform toCorner = QTransform::fromTranslate(qRound(toScreen.dx()), qRound(toScreen.dy()));
+  painter.setWorldTransform(toCorner * toScreen.inverted());
+  painter.drawImage(0, 0, enlarged_);
+
+  // At a scale that is no whole number the toolkit may leave out pixels between two widgets: the window has to paint
+  // there.
+  if (testAttribute(Qt::WA_OpaquePaintEvent) == enlargement.isWhole()) return;
+  setAttribute(Qt::WA_OpaquePaintEvent, enlargement.isWhole());
+  parentWidget()->update(geometry().adjusted(-1, -1, 1, 1));
+}
+
+QPoint CanvasWidget::pixelUnder(const QMouseEvent& event) const {
+  constexpr qreal slack = 1.0 / 64;  // for what a division loses
+  const Enlargement enlargement(devicePixelRatioF());
+  const auto pixel = [&](qreal position, int corner) {
+    const int onScreen = qFloor((position + corner) * enlargement.scale() + slack);
+    return enlargement.pixelAt(onScreen - enlargement.edge(corner));
+  };
+  const QPoint corner = mapTo(window(), QPoint());
+  return {pixel(event.position().x(), corner.x()), pixel(event.position().y(), corner.y())};
 }
 
 void CanvasWidget::mousePressEvent(QMouseEvent* event) {
   if (!canvas_ || !canvas_->Enabled || event->button() != Qt::LeftButton) return event->ignore();
-  const QPoint at = pixelOf(*event);
+  const QPoint at = pixelUnder(*event);
   granted_ = deliver(canvas_->ownerWindow(), [&] { return canvas_->Event_MouseDown(at.x(), at.y()); });
 }
 
@@ -113,7 +144,7 @@ void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
   if (!canvas_) return;
   // A drag out of the canvas takes the release with it.
   if (!(event->buttons() & Qt::LeftButton)) granted_ = false;
-  const QPoint at = pixelOf(*event);
+  const QPoint at = pixelUnder(*event);
   deliver(canvas_->ownerWindow(), [&] {
     if (granted_) {
       canvas_->Event_MouseDrag(at.x(), at.y());
@@ -125,7 +156,7 @@ void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
 
 void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
   if (!canvas_ || event->button() != Qt::LeftButton || !std::exchange(granted_, false)) return;
-  const QPoint at = pixelOf(*event);
+  const QPoint at = pixelUnder(*event);
   deliver(canvas_->ownerWindow(), [&] { canvas_->Event_MouseUp(at.x(), at.y()); });
 }
 

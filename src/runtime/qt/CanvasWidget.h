@@ -3,6 +3,8 @@
 #include <QImage>
 #include <QWidget>
 
+#include "runtime/drawing/Surface.h"
+
 namespace tavrelkin {
 
 class Canvas;
@@ -34,12 +36,17 @@ class CanvasWidget : public QWidget {
   bool event(QEvent* event) override;
 
  private:
-  // Brings the picture up to date; gives the rows that differ from what was shown before.
+  // Brings what is shown up to date; gives the part to be painted anew.
   QRect takeChanges();
+  void paintEnlarged(QPainter& painter);
+  // The pixel of the canvas that shows under the pointer, also left of and above it.
+  QPoint pixelUnder(const QMouseEvent& event) const;
 
   Canvas* canvas_;
-  bool granted_ = false;  // the press now held was accepted by the canvas
-  QImage picture_;        // the surface as it was last shown
+  bool granted_ = false;           // the press now held was accepted by the canvas
+  Surface surface_{0, 0, kWhite};  // as it was last shown
+  QImage enlarged_;                // for the screen it is on; none where that takes no enlargement, or not made yet
+  qreal enlargedBy_ = 1;
   bool showPosted_ = false;
 };
 

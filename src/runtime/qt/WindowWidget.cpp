@@ -1,7 +1,12 @@
 #include "runtime/qt/WindowWidget.h"
 
+#include <algorithm>
+#include <utility>
+
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QMetaObject>
+#include <QScreen>
 #include <QVBoxLayout>
 
 #include "runtime/gui/Window.h"
@@ -78,6 +83,29 @@ bool WindowWidget::focusNextPrevChild(bool next) {
     if (!first) first = focus;
   }
   return false;
+}
+
+// On a monitor of another scale the toolkit lets a window keep its pixels of the screen, and tells its size anew.
+void WindowWidget::resizeEvent(QResizeEvent*) {
+  const qreal scale = devicePixelRatioF();
+  if (std::exchange(scale_, scale) == scale) return;
+  QMetaObject::invokeMethod(
+      this, [this] { takeSizeAgain(); }, Qt::QueuedConnection);
+}
+
+void WindowWidget::takeSizeAgain() {
+  const QSize whole = minimumSize();
+  QRect place(geometry().topLeft(), whole);
+  // A window is on the monitor that has its middle: were that to move to the one it came from, it would go back and
+  // forth without end.
+  const QRect monitor = screen()->geometry().adjusted(1, 1, -1, -1);
+  const QPoint middle = place.center();
+  place.translate(std::clamp(middle.x(), monitor.left(), monitor.right()) - middle.x(),
+                  std::clamp(middle.y(), monitor.top(), monitor.bottom()) - middle.y());
+  // The limits have to change for the window manager to learn what they are in pixels of this screen.
+  setMinimumSize(0, 0);
+  setGeometry(place);
+  setFixedSize(whole);
 }
 
 void WindowWidget::closeEvent(QCloseEvent* event) {

@@ -31,10 +31,14 @@ class WindowWidget : public QWidget {
   bool focusNextPrevChild(bool next) override;
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
 
  private:
+  void takeSizeAgain();
+
   Window* window_;
   QWidget* content_;
+  qreal scale_ = 1;  // of the screen it was on when it was last resized
 };
 
 }  // namespace tavrelkin

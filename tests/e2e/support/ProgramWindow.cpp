@@ -1,5 +1,6 @@
 #include "e2e/support/ProgramWindow.h"
 
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
@@ -20,8 +21,12 @@ std::string hex(std::uint32_t rgb) {
 
 ScreenPoint ProgramWindow::onScreen(int x, int y) const {
   const Area area = session_.windows.area(window_);
-  const int menuBar = area.height - contentHeight_;
-  return {area.x + x, area.y + menuBar + y};
+  const int menuBar = static_cast<int>(std::lround(area.height / scale_)) - contentHeight_;
+  return {area.x + scaled(x), area.y + scaled(menuBar + y)};
+}
+
+int ProgramWindow::scaled(int pixels) const {
+  return static_cast<int>(std::floor(pixels * scale_ + 0.5));
 }
 
 std::uint32_t ProgramWindow::shows(int x, int y) const {

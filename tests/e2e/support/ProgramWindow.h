@@ -9,7 +9,8 @@
 
 namespace tavrelkin::test {
 
-// One of the program's windows. Places in it count from the top left corner of its content, below the menu bar.
+// One of the program's windows. Places in it count from the top left corner of its content, below the menu bar, in
+// pixels at a scale of 100 %.
 class ProgramWindow {
  public:
   // `contentHeight` is in pixels at a scale of 100 %.
@@ -17,6 +18,8 @@ class ProgramWindow {
       : session_(session), window_(window), contentHeight_(contentHeight) {}
 
   xcb_window_t window() const { return window_; }
+  // How many of the screen's pixels it now takes for one of those, across and down.
+  void setScale(double scale) { scale_ = scale; }
   std::string title() const { return session_.windows.title(window_); }
   ScreenPoint onScreen(int x, int y) const;
   // What one pixel of its content shows.
@@ -37,6 +40,8 @@ class ProgramWindow {
 
  protected:
   Session& session() const { return session_; }
+  // Where something begins that has so many pixels before it.
+  int scaled(int pixels) const;
   void setContentHeight(int pixels) { contentHeight_ = pixels; }
 
  private:
@@ -45,6 +50,7 @@ class ProgramWindow {
   Session& session_;
   xcb_window_t window_;
   int contentHeight_;
+  double scale_ = 1;
 };
 
 }  // namespace tavrelkin::test

@@ -15,12 +15,20 @@ std::vector<std::string> programEnvironment(const Home& home, const XServer& ser
   return result;
 }
 
+// The screen as it is before any program starts.
+X11Client& settled(X11Client& client, const Session::Options& options) {
+  if (options.dotsPerInch > 0) client.setResources("Xft.dpi:\t" + std::to_string(options.dotsPerInch) + "\n");
+  if (options.leftMonitor > 0 && !client.splitScreen(options.leftMonitor))
+    throw std::runtime_error("The X server can't have two monitors.");
+  return client;
+}
+
 }  // namespace
 
 Session::Session(const Options& options)
     : server(options.server),
       client(server.display().c_str()),
-      windows(client),
+      windows(settled(client, options)),
       hand(client),
       manager(server),
       clipboard(server, client),

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <vector>
 
@@ -20,6 +21,8 @@ struct Session {
   struct Options {
     XServer::Options server{};
     std::vector<std::string> environment{};  // more variables for the program, in the form NAME=value
+    int dotsPerInch = 0;                     // as the desktop's settings say it; nothing where 0
+    std::uint16_t leftMonitor = 0;           // the width of one beside the main one, if any
   };
 
   Session() : Session(Options()) {}

@@ -26,15 +26,14 @@ bool isNear(std::uint32_t left, std::uint32_t right, int tolerance) {
 }
 
 // Empty if there is none.
-std::string firstDifference(const Pixels& shown, const Pixels& expected, int tolerance) {
+std::string firstDifference(const Pixels& shown, const Pixels& expected, std::size_t width, int tolerance) {
   int count = 0;
   std::string first;
   for (std::size_t i = 0; i < expected.size(); ++i) {
     if (isNear(shown[i], expected[i], tolerance)) continue;
     if (++count > 1) continue;
     char text[100];
-    std::snprintf(text, sizeof text, "(%zu, %zu) is #%06X, not #%06X", i % kPreviewWidth, i / kPreviewWidth, shown[i],
-                  expected[i]);
+    std::snprintf(text, sizeof text, "(%zu, %zu) is #%06X, not #%06X", i % width, i / width, shown[i], expected[i]);
     first = text;
   }
   return count == 0 ? "" : std::to_string(count) + " pixels differ; " + first;
@@ -82,13 +81,26 @@ ScreenPoint ToolWindow::onBar(int bar, int column) const {
 }
 
 ScreenPoint ToolWindow::onPreview(int x, int y) const {
-  return onScreen(kPreview.x + x, kPreview.y + y);
+  const ScreenPoint corner = onScreen(kPreview.x, kPreview.y);
+  return {corner.x + scaled(x), corner.y + scaled(y)};
 }
 
 Pixels ToolWindow::preview() const {
   const ScreenPoint at = onPreview(0, 0);
-  return session().client.read(
-      {static_cast<std::int16_t>(at.x), static_cast<std::int16_t>(at.y), kPreviewWidth, kPreviewHeight});
+  return session().client.read({static_cast<std::int16_t>(at.x), static_cast<std::int16_t>(at.y),
+                                static_cast<std::uint16_t>(scaled(kPreviewWidth)),
+                                static_cast<std::uint16_t>(scaled(kPreviewHeight))});
+}
+
+// Each pixel as a block that ends where the next one begins.
+Pixels ToolWindow::enlarged(const Pixels& preview) const {
+  Pixels result;
+  for (int y = 0; y < kPreviewHeight; ++y)
+    for (int row = scaled(y); row < scaled(y + 1); ++row)
+      for (int x = 0; x < kPreviewWidth; ++x)
+        result.insert(result.end(), static_cast<std::size_t>(scaled(x + 1) - scaled(x)),
+                      preview[static_cast<std::size_t>(y * kPreviewWidth + x)]);
+  return result;
 }
 
 testing::AssertionResult ToolWindow::getsTitleOf(std::uint32_t rgb) const {
@@ -96,10 +108,11 @@ testing::AssertionResult ToolWindow::getsTitleOf(std::uint32_t rgb) const {
 }
 
 testing::AssertionResult ToolWindow::getsPreview(const Preview& expected, int tolerance) const {
-  const Pixels pixels = expected.pixels();
+  const Pixels pixels = enlarged(expected.pixels());
+  const auto width = static_cast<std::size_t>(scaled(kPreviewWidth));
   std::string difference;
   const auto isShown = [&] {
-    difference = firstDifference(preview(), pixels, tolerance);
+    difference = firstDifference(preview(), pixels, width, tolerance);
     return difference.empty();
   };
   if (waitUntil(isShown)) return testing::AssertionSuccess();

@@ -28,13 +28,16 @@ class ToolWindow : public ProgramWindow {
   ScreenPoint onBar(int bar, int column) const;
   ScreenPoint onSwatch() const { return onScreen(75, 296); }
 
-  // Where a pixel of the preview is on the screen, and what the whole preview shows.
+  // Where a pixel of the preview begins on the screen, and what the whole preview shows there, row by row.
   ScreenPoint onPreview(int x, int y) const;
   Pixels preview() const;
 
   // Whether title, or preview, become so before long. Each channel of the preview may differ by `tolerance`.
   testing::AssertionResult getsTitleOf(std::uint32_t rgb) const;
   testing::AssertionResult getsPreview(const Preview& expected, int tolerance = 0) const;
+
+ private:
+  Pixels enlarged(const Pixels& preview) const;
 };
 
 // A session with its tool window unfolded.
