@@ -3,9 +3,7 @@
 #include <array>
 #include <string_view>
 
-#include "tables/zrPixMap.h"
 #include "toolwindow/ToolWindowTest.h"
-#include "toolwindow/WebSafeBadge.h"
 
 namespace tavrelkin {
 namespace {
@@ -52,35 +50,6 @@ TEST_F(BadgeTest, ShowsItsCubeOnTheWindowWheneverItShows) {
   window->setColor(Color{0x123456}, false);
   EXPECT_TRUE(window->imgWebSafe.Visible);
   EXPECT_EQ(firstFault(), "");
-  EXPECT_TRUE(fake().messages.empty());
-}
-
-TEST_F(BadgeTest, HasItsPictureAndIsHiddenBeforeTheWindowGetsItsColour) {
-  class Vesk : public frmVesk {
-   public:
-    void Event_Open() override {
-      hidden = !imgWebSafe.Visible;
-      backdrop = imgWebSafe.Backdrop;
-    }
-    bool hidden = false;
-    Ref<Picture> backdrop;
-  };
-  const Ref<Vesk> fresh = New<Vesk>();
-  EXPECT_TRUE(fresh->hidden);
-  ASSERT_TRUE(fresh->backdrop);
-  EXPECT_TRUE(fresh->backdrop->Mask(false));
-  EXPECT_EQ(fresh->backdrop->Width(), 13);
-  EXPECT_EQ(fresh->backdrop->Height(), 13);
-}
-
-TEST_F(BadgeTest, ItsTextIsReadAndWrittenAgain) {
-  EXPECT_EQ(kWebSafeBadge.size(), 399u);
-  const Ref<zrPixMap> map = New<zrPixMap>();
-  map->CreateFromPixMapData(kWebSafeBadge);
-  EXPECT_EQ(map->getPixMapData(), kWebSafeBadge);
-  EXPECT_EQ(map->depth, 32);
-  EXPECT_EQ(map->colorCount, 7);
-  EXPECT_EQ(map->MaskColor, Color{0xFF00FF});
 }
 
 }  // namespace
