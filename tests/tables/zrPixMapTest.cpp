@@ -143,6 +143,11 @@ TEST_F(zrPixMapTest, TheTransparentColourIsFoundOrAdded) {
     EXPECT_EQ(map->colorCount, row.count);
   }
   EXPECT_EQ(map->GetPicture()->Depth(), 32) << "a mask takes all of it";
+  for (const auto& [mask, depth] : {std::pair{kWhite, 32}, {kBlack, 8}}) {
+    map->setMaskColor(mask);
+    map->CreateFromPicture(NewPicture(2, 2, 8));
+    EXPECT_EQ(map->depth, depth);
+  }
 }
 
 // The two painters disagree about black: the image shows it, the mask hides it.

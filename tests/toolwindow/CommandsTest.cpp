@@ -20,6 +20,7 @@ TEST_F(CommandsTest, OneViewAtATimeExceptWhileFollowing) {
       {"JD", "mnuColorBlind ", true},
       {"DD", "", true},
       {"DS", "mnuViewSuggestions ", true},
+      {"DJ", "mnuShowColors ", true},
       {"SF", "mnuFollow ", false},
       {"DF", "mnuFollow mnuColorBlind ", false},
       {"FS", "mnuFollow mnuViewSuggestions ", true},

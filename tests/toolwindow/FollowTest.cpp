@@ -12,6 +12,8 @@ TEST_F(FollowTest, EachRoundShowsThePointersPlace) {
   fake().pointerAt = {300, 200};
   gesture::shortcut(*window, "Cmd+F");
   EXPECT_EQ(marks(), "mnuFollow ");
+  EXPECT_EQ(window->varLastX, 300);
+  EXPECT_EQ(window->varLastY, 200);
   EXPECT_TRUE(fake().pixelsRead.empty());  // the first round comes from the event loop
 
   for (const ScreenPoint at : {ScreenPoint{300, 200}, {-5, -900}}) {
@@ -81,6 +83,17 @@ TEST_F(FollowTest, LocksHoldTheirCoordinate) {
     EXPECT_EQ(window->varLastX, held.x) << row.commands;
     window->Close();
   }
+}
+
+TEST_F(FollowTest, PokeTakesTheColourAtThePointerWhileTheLabelsAndThePreviewAreHeld) {
+  fake().pointerAt = {10, 20};
+  choose("mnuLock");
+  fake().pointerAt = {300, 200};
+  choose("mnuPokeColor");
+  EXPECT_EQ(window->SelectedColor, colorAt(300, 200));
+  EXPECT_EQ(firstFaultOfSample(*window, {10, 20}), "");
+  EXPECT_EQ(window->view0_lblcoordinates.Text.get(), "{10, 20}");
+  EXPECT_EQ(Right(window->view0_lblColor.Text.get(), 6), "3F23FC");
 }
 
 // The poke's own sample is drawn whole while the thread stands in the middle of one, also where the thread gets turns
