@@ -108,24 +108,9 @@ TEST(DichromatTest, WhatIsNoNumberIsBlack) {
   };
   const Row rows[] = {
       {"NaN", 0, [](zrXYZ& xyz) { set(xyz, kNaN, kNaN, kNaN); }},
-      {"x infinite", 0, [](zrXYZ& xyz) { set(xyz, kInfinity, 0.5, 0.5); }},
       {"y infinite", 1, [](zrXYZ& xyz) { set(xyz, 0.5, kInfinity, 0.5); }},
       {"sum of opposite infinities", 2, [](zrXYZ& xyz) { set(xyz, kInfinity, 0.5, -kInfinity); }},
       {"colour above the confusion point", 2, [](zrXYZ& xyz) { set(xyz, 0.171, 0.5, 0.329); }},
-      {"parallel lines", 0,
-       [](zrXYZ& xyz) {
-         set(xyz, 1, 1, 1);
-         xyz.confusionPoints[0] = {1, 1};
-         xyz.ColorAxesBU[0] = 0;
-         xyz.ColorAxesBV[0] = 0.5;
-         xyz.ColorAxesEU[0] = 0.5;
-         xyz.ColorAxesEV[0] = 1;
-       }},
-      {"crossing at height 0", 0,
-       [](zrXYZ& xyz) {
-         set(xyz, 0.5, 0, 0.5);
-         xyz.confusionPoints[0] = {0.9, 0};
-       }},
   };
   for (const Row& row : rows) {
     zrXYZ xyz(kWhite);

@@ -93,15 +93,6 @@ TEST_F(SwatchFilesTest, TheNumberInTheFileBecomesTheUpperBound) {
   }
 }
 
-TEST_F(SwatchFilesTest, EachRoundAddsAnEntry) {
-  const auto table = New<zrClut>();
-  for (const Int32 stated : {256, 257, 258}) {
-    const String bytes = writtenSwatch(*table);
-    EXPECT_TRUE(table->ReadSwatch(folder.item("out")));
-    EXPECT_EQ(writtenSwatch(*table), word(1) + word(stated + 1) + bytes.substr(4) + swatchEntry(kBlack));
-  }
-}
-
 // Another version and colour space, low bytes, and the names of a version 2 section behind the colours.
 TEST_F(SwatchFilesTest, OnlyHighBytesAreLookedAt) {
   const String cmyk = word(2) + word(0x12FF) + word(0x34FE) + word(0x5600) + word(0xFFFF);

@@ -63,6 +63,8 @@ TEST_F(CoreTest, TheWebSafePairShowsForAnyOtherColour) {
     EXPECT_EQ(window->cmdMakeWebSafe.Visible, !row.safe) << row.color;
     EXPECT_EQ(window->cmdMakeWebSafe.Value, Color{row.box}) << row.color;
   }
+  EXPECT_EQ(window->imgWebSafe.Graphics().Pixel(4, 3), Color{0xE8E8E8}) << "the badge's cube";
+  EXPECT_EQ(window->imgWebSafe.Graphics().Pixel(0, 0), window->BackColor.get());
   gesture::click(window->cmdMakeWebSafe, 6, 6);
   expectShown(Color{0xFF00FF}, "Color: 255.0.255, #FF00FF", "Color: 255.0.255, 300.100.100, #FF00FF");
   EXPECT_FALSE(window->imgWebSafe.Visible || window->cmdMakeWebSafe.Visible);

@@ -111,7 +111,8 @@ TEST_F(ControlTest, AWindowClosesOnceAndGoesOnlyAfterTheHandlerThatClosedIt) {
 }
 
 TEST_F(ControlTest, AWindowThatIsReferredToOutlivesItsCloseAndOpensAgain) {
-  const Ref<Host> window(&open());
+  const Ref<Host> window = New<Host>(log);
+  window->Show();
   window->Close();
   processEvents();
   EXPECT_EQ(log, "close ");
@@ -140,38 +141,6 @@ TEST_F(ControlTest, TheContentHasTheWindowsSizeBelowOneMenuBar) {
   host.MenuBar = nullptr;
   expectSize(100, 200);
   EXPECT_EQ(bars().size(), 0);
-}
-
-TEST_F(ControlTest, WhatIsDrawnAtAnyTimeIsShownAndKept) {
-  Host& host = open();
-  int paints = 0;
-  host.canvas.Paint = [&paints](Graphics*) { ++paints; };
-  host.canvas.Graphics().ForeColor = Color{0x123456};
-  host.canvas.Graphics().FillRect(2, 3, 4, 5);
-  const auto shown = [&host] { return host.native().grab().toImage(); };
-  const QPoint inked = host.canvas.native().mapTo(&host.native(), QPoint(5, 7));
-  EXPECT_TRUE(waitUntil([&] { return shown().pixelColor(inked) == QColor(0x123456); }));
-  Host& above = open();
-  above.Close();
-  host.native().move(20, 20);
-  host.native().resize(host.native().size());
-  processEvents();
-  EXPECT_EQ(paints, 0);
-  EXPECT_EQ(host.canvas.Graphics().Pixel(5, 7), Color{0x123456});
-  EXPECT_EQ(host.canvas.Graphics().Pixel(-1, 7), kBlack);
-}
-
-TEST_F(ControlTest, MoveComesOnlyWhileNoButtonIsHeld) {
-  Host& host = open();
-  host.canvas.MouseMove = [this](Int32, Int32) { log += "move "; };
-  host.canvas.MouseDrag = [this](Int32, Int32) { log += "drag "; };
-  host.canvas.MouseUp = [this](Int32, Int32) { log += "up "; };
-  host.canvas.MouseDown = [](Int32, Int32) { return true; };
-  gesture::press(host.canvas, 1, 1);
-  // The release went elsewhere, to a dialog for instance.
-  gesture::hover(host.canvas, 2, 2);
-  gesture::release(host.canvas, 2, 2);
-  EXPECT_EQ(log, "move ");
 }
 
 // Twice, since each program is to be told.

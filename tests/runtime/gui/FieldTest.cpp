@@ -73,15 +73,6 @@ class FieldTest : public RuntimeTest {
   Ref<Host> window;
 };
 
-TEST_F(FieldTest, TheFieldTakesTheKeyboardByAPressAndHoldsWhatIsTyped) {
-  window->field.Text = "1.8";
-  gesture::click(window->field, 5, 5);
-  EXPECT_TRUE(waitUntil([this] { return gesture::hasKeyboard(window->field); }));
-  gesture::shortcut(window->field, "Cmd+A");
-  gesture::type(window->field, "2,2 x");
-  EXPECT_EQ(window->field.Text.get(), "2,2 x");
-}
-
 TEST_F(FieldTest, KeysOfAnAnsweredCommandGoToItAndThoseOfADisabledOneToTheField) {
   window->field.Text = "text";
   window->field.SetFocus();
