@@ -143,6 +143,18 @@ TEST_F(ControlTest, TheContentHasTheWindowsSizeBelowOneMenuBar) {
   EXPECT_EQ(bars().size(), 0);
 }
 
+// The release went elsewhere, to a dialog for instance.
+TEST_F(ControlTest, AMoveWithNoButtonHeldEndsADrag) {
+  Host& host = open();
+  host.canvas.MouseDown = [](Int32, Int32) { return true; };
+  host.canvas.MouseMove = [this](Int32, Int32) { log += "move "; };
+  host.canvas.MouseUp = [this](Int32, Int32) { log += "up "; };
+  gesture::press(host.canvas, 1, 1);
+  gesture::hover(host.canvas, 2, 2);
+  gesture::release(host.canvas, 2, 2);
+  EXPECT_EQ(log, "move ");
+}
+
 // Twice, since each program is to be told.
 class UnreadableScreen : public ControlTest, public ::testing::WithParamInterface<int> {};
 
