@@ -21,7 +21,7 @@ Color colorAt(Int32 index) {
 Ref<zrClut> tableOf(Int32 upperBound) {
   Ref<zrClut> table = New<zrClut>();
   table->Count = upperBound;
-  table->aColors.resize(static_cast<std::size_t>(upperBound + 1));
+  table->aColors.resize(static_cast<std::size_t>(upperBound) + 1);
   for (Int32 i = 0; i <= upperBound; ++i)
     table->Add(colorAt(i));
   return table;

@@ -17,7 +17,7 @@ void expectNew(const zrClut& table) {
 // As it stands after reading a file of so many colours.
 void shorten(zrClut& table, Int32 upperBound) {
   table.Count = upperBound;
-  table.aColors.resize(static_cast<std::size_t>(upperBound + 1));
+  table.aColors.resize(static_cast<std::size_t>(upperBound) + 1);
 }
 
 TEST(zrClutTest, BeginsWhiteAndIsBlackOutside) {
