@@ -24,16 +24,12 @@ TEST(zrXYZTest, TakesAColour) {
   constexpr Triple white{0.9505, 1.0, 1.089};
   const Row rows[] = {
       {kBlack, 1.8, {0, 0, 0}},
-      {kBlack, 0.0001, {0, 0, 0}},
       {kBlack, 0, white},  // any channel to the power of 0 is 1
-      {kWhite, 1.0, white},
-      {kWhite, 2.2, white},
       {kWhite, -1.8, white},
       {RGB(255, 0, 0), 1.7, {0.4306, 0.222, 0.0202}},
       {RGB(0, 255, 0), 1.7, {0.3416, 0.7067, 0.1296}},
       {RGB(0, 0, 255), 1.7, {0.1783, 0.0713, 0.9392}},
       {RGB(128, 128, 128), 1.8, {0.2748892407695465, 0.2892048824508643, 0.3149441169889912}},
-      {RGB(128, 128, 128), 2.2, {0.20865349203016192, 0.2195197180748679, 0.23905697298353112}},
       {RGB(51, 0, 0), 1.0, {0.4306 / 5, 0.222 / 5, 0.0202 / 5}},
   };
   for (const Row& row : rows) {
@@ -81,12 +77,6 @@ TEST(zrXYZTest, ConvertsToLinearChannels) {
     EXPECT_DOUBLE_EQ(g, row.expected.second);
     EXPECT_DOUBLE_EQ(b, row.expected.third);
   }
-}
-
-TEST(zrXYZTest, ConvertsInPlace) {
-  zrXYZ xyz(kWhite);
-  xyz.RGB2FromXYZ(xyz.x, xyz.y, xyz.z, xyz.x, xyz.y, xyz.z);
-  expectHolds(xyz, {1.0518254, 1.0048694, 1.00010665});
 }
 
 // A factor that is off by its last digit changes the result of one of the rows with large values.

@@ -40,38 +40,22 @@ void fill(Graphics& g, Color c, Int32 left, Int32 top, Int32 width, Int32 height
   g.FillRect(left, top, width, height);
 }
 
-void drawSwatch(Graphics& g, Color c) {
-  const Int32 width = g.Width() * 15 / 100;
-  fill(g, Color{0x909090}, 2, 2, width, g.Height() - 4);
-  fill(g, c, 3, 3, width - 2, g.Height() - 6);
-}
-
-// A picture of the button's white face.
-Ref<Picture> newFace(Int32 width, Int32 height) {
-  Ref<Picture> face = NewPicture(width, height, 32);
-  fill(face->Graphics(), Color{0x909090}, 0, 0, width, height);
-  fill(face->Graphics(), kWhite, 1, 1, width - 2, height - 2);
-  return face;
-}
-
-testing::AssertionResult same(const Graphics& drawn, const Graphics& expected) {
-  for (Int32 y = 0; y < expected.Height(); ++y) {
-    for (Int32 x = 0; x < expected.Width(); ++x) {
-      if (drawn.Pixel(x, y) == expected.Pixel(x, y)) continue;
-      return testing::AssertionFailure() << "(" << x << ", " << y << ") is " << getHexStr(drawn.Pixel(x, y)) << ", not "
-                                         << getHexStr(expected.Pixel(x, y));
+testing::AssertionResult shows(zrColorButton& button, const String& text, Color swatch, Color ink) {
+  const Ref<Picture> face = NewPicture(106, 20, 32);
+  Graphics& g = face->Graphics();
+  fill(g, Color{0x909090}, 0, 0, 106, 20);
+  fill(g, kWhite, 1, 1, 104, 18);
+  fill(g, Color{0x909090}, 2, 2, 15, 16);
+  fill(g, swatch, 3, 3, 13, 14);
+  g.ForeColor = ink;
+  g.DrawString(text, 23, 2 + g.TextAscent());
+  for (Int32 y = 0; y < 20; ++y) {
+    for (Int32 x = 0; x < 106; ++x) {
+      const Color drawn = button.Graphics().Pixel(x, y);
+      if (drawn != g.Pixel(x, y)) return testing::AssertionFailure() << x << ", " << y << " is " << getHexStr(drawn);
     }
   }
   return testing::AssertionSuccess();
-}
-
-testing::AssertionResult shows(zrColorButton& button, const String& text, Color swatch, Color ink) {
-  const Ref<Picture> face = newFace(106, 20);
-  Graphics& g = face->Graphics();
-  drawSwatch(g, swatch);
-  g.ForeColor = ink;
-  g.DrawString(text, 23, 2 + g.TextAscent());
-  return same(button.Graphics(), g);
 }
 
 testing::AssertionResult shows(zrColorButton& button, const String& text) {
@@ -101,12 +85,9 @@ TEST_F(zrColorButtonTest, EachFormHasItsText) {
     Color c;
     const char* text;
   } rows[] = {
-      {0, kOrange, "255.128.0"},       {0, kBlack, "0.0.0"},
-      {1, kOrange, "008.100.100"},     {1, RGB(32, 64, 128), "061.075.050"},
-      {2, kOrange, "000.050.100"},     {2, kBlack, "100.100.100"},
-      {3, kOrange, "#FF8000"},         {3, kBlack, "#000000"},
-      {3, RGB(10, 11, 12), "#0A0B0C"}, {4, kOrange, "255.128.0"},
-      {-1, kOrange, "255.128.0"},
+      {0, kOrange, "255.128.0"},   {1, RGB(32, 64, 128), "061.075.050"},
+      {2, kOrange, "000.050.100"}, {3, kOrange, "#FF8000"},
+      {4, kOrange, "255.128.0"},
   };
   for (const auto& [format, c, text] : rows) {
     button.SetValue(c);
@@ -114,17 +95,6 @@ TEST_F(zrColorButtonTest, EachFormHasItsText) {
     EXPECT_TRUE(shows(button, text)) << text << " in form " << format;
   }
   EXPECT_EQ(log, "");
-}
-
-TEST_F(zrColorButtonTest, WithItsFieldWipedNothingIsLeftOfAnyText) {
-  for (const Int32 format : {0, 1, 2, 3}) {
-    button.setColorFormat(format);
-    for (Int32 v = 0; v < 256; ++v) {
-      button.SetValue(RGB(v, v, v));
-      fill(button.Graphics(), kWhite, 21, 2, 83, 16);
-      ASSERT_TRUE(shows(button, "")) << format << ", " << v;
-    }
-  }
 }
 
 TEST_F(zrColorButtonTest, DisabledItPalesAndStillTakesDrops) {
@@ -138,41 +108,6 @@ TEST_F(zrColorButtonTest, DisabledItPalesAndStillTakesDrops) {
   EXPECT_TRUE(shows(button, "#FF8001", halfWayToGround(Color{0xFF8001}), DarkBevelColor()));
 }
 
-// On another surface than the button's own, whose field of text covers them.
-TEST_F(zrColorButtonTest, ThePictureLiesBelowTheTriangleAndTheSwatch) {
-  button.Icon = NewPicture(25, 10, 32);
-  fill(button.Icon->Graphics(), kMark, 0, 0, 25, 10);
-  for (const bool enabled : {true, false}) {
-    button.Enabled = enabled;
-    const Ref<Picture> drawn = NewPicture(40, 30, 32);
-    button.Event_Paint(drawn->Graphics());
-    const Ref<Picture> expected = newFace(40, 30);
-    Graphics& g = expected->Graphics();
-    fill(g, kMark, 3, 2, 25, 10);
-    for (const Int32 row : {0, 1, 2})
-      fill(g, enabled ? kBlack : DarkBevelColor(), 25 + row, 11 + row, 6 - 2 * row, 1);
-    drawSwatch(g, enabled ? kBlack : halfWayToGround(kBlack));
-    EXPECT_TRUE(same(drawn->Graphics(), g)) << enabled;
-  }
-}
-
-TEST_F(zrColorButtonTest, TheSquareEdgeIsLitFromAboveUnlessPressed) {
-  button.SetValue(kOrange);
-  for (const bool pressed : {true, false}) {
-    const Ref<Picture> drawn = NewPicture(40, 30, 32);
-    const Ref<Picture> expected = NewPicture(40, 30, 32);
-    fill(drawn->Graphics(), kMark, 0, 0, 40, 30);
-    button.DrawMainBTTN(drawn->Graphics(), pressed);
-    Graphics& g = expected->Graphics();
-    fill(g, kMark, 0, 0, 40, 30);
-    fill(g, pressed ? LightTingeColor() : DarkTingeColor(), 1, 1, 22, 22);
-    fill(g, pressed ? DarkTingeColor() : LightTingeColor(), 1, 1, 21, 21);
-    fill(g, kMark, 2, 2, 20, 20);
-    drawSwatch(g, kOrange);
-    EXPECT_TRUE(same(drawn->Graphics(), g)) << pressed;
-  }
-}
-
 TEST_F(zrColorButtonTest, ThePointerChangesItsStateAndHasItPainted) {
   const struct {
     const char* name;
@@ -184,11 +119,9 @@ TEST_F(zrColorButtonTest, ThePointerChangesItsStateAndHasItPainted) {
     const char* raised;
   } rows[] = {
       {"enter", &zrColorButton::Event_MouseEnter, 0, true, 1, true, ""},
-      {"enter in 2", &zrColorButton::Event_MouseEnter, 2, true, 1, true, ""},
       {"enter disabled", &zrColorButton::Event_MouseEnter, 0, false, 0, false, ""},
       {"exit", &zrColorButton::Event_MouseExit, 1, true, 0, true, ""},
       {"exit disabled", &zrColorButton::Event_MouseExit, 1, false, 0, true, ""},
-      {"exit in 2", &zrColorButton::Event_MouseExit, 2, true, 0, true, "action-000000 "},
       {"exit in 3", &zrColorButton::Event_MouseExit, 3, true, 0, true, "action-000000 "},
       {"exit in 0", &zrColorButton::Event_MouseExit, 0, true, 0, false, ""},
   };
@@ -209,13 +142,11 @@ TEST_F(zrColorButtonTest, OnlyAReleaseOnTheSwatchIsAClick) {
     Int32 width, height, x, y;
     bool counts;
   } rows[] = {{106, 20, 2, 2, true},    {106, 20, 17, 16, true},  {106, 20, 1, 10, false}, {106, 20, 10, 1, false},
-              {106, 20, 18, 10, false}, {106, 20, 10, 17, false}, {106, 20, 60, 9, false}, {106, 20, -1, -1, false},
-              {200, 30, 32, 26, true},  {200, 30, 33, 10, false}, {200, 30, 10, 27, false}};
+              {106, 20, 18, 10, false}, {106, 20, 10, 17, false}, {200, 30, 32, 26, true}, {200, 30, 33, 10, false}};
   for (const auto& [width, height, x, y, counts] : rows) {
     button.place(10, 10, width, height);
     log.clear();
     gesture::press(button, 60, 10);
-    EXPECT_EQ(log, "");
     gesture::release(button, x, y);
     EXPECT_EQ(log, counts ? "before action-000000 " : "") << x << ", " << y << " of " << width;
   }
@@ -242,28 +173,6 @@ TEST_F(zrColorButtonTest, TheEndOfTheDialogIsAnActionWhetherChosenOrCancelled) {
     gesture::click(button, 5, 5);
     EXPECT_EQ(log, row.log);
     EXPECT_TRUE(shows(button, row.text));
-  }
-}
-
-TEST_F(zrColorButtonTest, ADroppedColourIsAChangeAndNoAction) {
-  const struct {
-    const char* privately;
-    const char* text;
-    const char* taken;
-  } rows[] = {
-      {"255, 128, 0", nullptr, "FF8000"}, {"1, 2, 3", "#FF8000", "010203"}, {"nonsense", "#FF8000", "000000"},
-      {nullptr, " #ff8000 ", "FF8000"},   {nullptr, "255.128.0", "FF0000"}, {nullptr, "FF8000", nullptr},
-      {nullptr, "255, 128, 0", nullptr},  {nullptr, "#FF80", nullptr},      {nullptr, nullptr, nullptr},
-  };
-  for (const auto& [privately, text, taken] : rows) {
-    button.SetValue(Color{0x112233});
-    const Ref<DragItem> item = New<DragItem>();
-    if (privately) item->MacData("hcol", privately);
-    if (text) item->SetText(text);
-    log.clear();
-    button.Event_DropObject(item, 0);
-    EXPECT_EQ(log, taken ? String("change-") + taken + " " : "");
-    EXPECT_TRUE(shows(button, String("#") + (taken ? taken : "112233")));
   }
 }
 

@@ -13,17 +13,9 @@
 
 namespace tavrelkin::gesture {
 
-namespace {
-
-QPoint middleOf(const RectControl& control) {
-  return {control.Width / 2, control.Height / 2};
-}
-
-}  // namespace
-
 bool drop(const RectControl& control, const DragItem& item) {
   const std::unique_ptr<QMimeData> data = toMime(item);
-  const QPoint at = middleOf(control);
+  const QPoint at(control.Width / 2, control.Height / 2);
   QDragEnterEvent enter(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
   enter.ignore();
   QCoreApplication::sendEvent(&control.native(), &enter);
@@ -42,13 +34,6 @@ Ref<DragItem> pull(const RectControl& from, Int32 x, Int32 y, Int32 toX, Int32 t
   Ref<DragItem> item = fromMime(*drag->mimeData());
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   return item;
-}
-
-bool carry(const RectControl& from, const RectControl& to) {
-  const QPoint start = middleOf(from);
-  if (const Ref<DragItem> item = pull(from, start.x(), start.y(), start.x() + 1, start.y())) return drop(to, *item);
-  release(from, from.Width * 2, from.Height * 2);
-  return false;
 }
 
 }  // namespace tavrelkin::gesture

@@ -13,8 +13,4 @@ bool drop(const RectControl& control, const DragItem& item);
 // that case the button is still held.
 Ref<DragItem> pull(const RectControl& from, Int32 x, Int32 y, Int32 toX, Int32 toY);
 
-// Pulls from the middle of one control to the middle of another and lets go there. False where that is no drag, or one
-// that the other control doesn't take.
-bool carry(const RectControl& from, const RectControl& to);
-
 }  // namespace tavrelkin::gesture

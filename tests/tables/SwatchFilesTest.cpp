@@ -1,7 +1,6 @@
 // The table's files, byte for byte, with all in which its readers and writers differ.
 
 #include <filesystem>
-#include <random>
 #include <string>
 
 #include "support/RuntimeTest.h"
@@ -81,19 +80,8 @@ TEST_F(SwatchFilesTest, TheNumberInTheFileBecomesTheUpperBound) {
   const struct {
     Int32 stated, colors, count, read;
   } rows[] = {
-      {3, 3, 3, 3},
-      {1, 1, 1, 1},
-      {255, 255, 255, 255},
-      {256, 256, 256, 256},
-      {300, 300, 300, 300},
-      {20, 10, 20, 10},
-      {300, 10, 300, 10},
-      {3, 10, 3, 3},
-      {0, 0, 0, 0},
-      {0, 1, 0, 1},
-      {0, 5, 0, 5},
-      {0x8000, 5, -32768, 5},
-      {32767, 32767, 32767, 32767},
+      {1, 1, 1, 1}, {256, 256, 256, 256}, {300, 10, 300, 10},     {3, 10, 3, 3},
+      {0, 0, 0, 0}, {0, 5, 0, 5},         {0x8000, 5, -32768, 5},
   };
   for (const auto& row : rows) {
     const auto table = readSwatch(swatch(row.stated, row.colors));
@@ -102,15 +90,6 @@ TEST_F(SwatchFilesTest, TheNumberInTheFileBecomesTheUpperBound) {
     EXPECT_EQ(table->aColors.size(), static_cast<std::size_t>(std::max(row.count, -1) + 1));
     expectRead(*table, row.read);
     EXPECT_EQ(writtenSwatch(*table).substr(0, 4), word(1) + word(row.stated + 1));
-  }
-}
-
-TEST_F(SwatchFilesTest, EachRoundAddsAnEntry) {
-  const auto table = New<zrClut>();
-  for (const Int32 stated : {256, 257, 258}) {
-    const String bytes = writtenSwatch(*table);
-    EXPECT_TRUE(table->ReadSwatch(folder.item("out")));
-    EXPECT_EQ(writtenSwatch(*table), word(1) + word(stated + 1) + bytes.substr(4) + swatchEntry(kBlack));
   }
 }
 
@@ -146,18 +125,6 @@ TEST_F(SwatchFilesTest, FilesCutOffAnywhereGiveWhatTheyHave) {
   for (std::size_t length = 0; length <= clut.size(); ++length) {
     const std::size_t colors = std::min<std::size_t>((length + 2) / 3, 255);
     expectRead(*readClut(clut.substr(0, length)), static_cast<Int32>(colors), length + 3 - 3 * colors);
-  }
-}
-
-TEST_F(SwatchFilesTest, AnyBytesAreRead) {
-  std::minstd_rand random(1);  // the same bytes in each run
-  for (int round = 0; round < 200; ++round) {
-    String bytes(random() % 700, '\0');
-    for (char& c : bytes)
-      c = static_cast<char>(random());
-    const auto table = readSwatch(bytes);
-    EXPECT_EQ(table->aColors.size(), static_cast<std::size_t>(std::max(table->Count, -1) + 1));
-    EXPECT_EQ(readClut(bytes)->aColors.size(), 256U);
   }
 }
 

@@ -54,13 +54,5 @@ TEST_F(ColorBlindViewTest, ShowsNineSwatchesOfTheColourOfTheLastPaint) {
   window->drawColorBlind(nullptr);
 }
 
-TEST_F(ColorBlindViewTest, ASampleIsDrawnOverItUntilTheNextPaint) {
-  choose("mnuColorBlind");
-  window->drawSys(300, 200);
-  EXPECT_EQ(firstFaultOfSample(*window, {300, 200}), "");
-  window->imgScreen.Refresh(true);
-  EXPECT_EQ(firstFault(window->SelectedColor), "");
-}
-
 }  // namespace
 }  // namespace tavrelkin

@@ -48,10 +48,8 @@ TEST(DistinctColoursTest, AlikeIsWithinATenthOfTheBrighterChannels) {
     Color met, next;
     bool alike;
   } rows[] = {
-      {RGB(100, 0, 0), RGB(100, 0, 0), true},     {RGB(100, 0, 0), RGB(90, 0, 0), true},
-      {RGB(100, 0, 0), RGB(89, 0, 0), false},     {RGB(100, 0, 0), RGB(88, 0, 0), false},
+      {RGB(100, 0, 0), RGB(90, 0, 0), true},      {RGB(100, 0, 0), RGB(89, 0, 0), false},
       {RGB(109, 0, 0), RGB(99, 0, 0), true},      {RGB(109, 0, 0), RGB(98, 0, 0), false},
-      {kWhite, RGB(235, 235, 235), true},         {kWhite, RGB(200, 200, 200), false},
       {RGB(200, 100, 0), RGB(185, 116, 0), true}, {RGB(200, 100, 0), RGB(184, 116, 0), false},
       {RGB(0, 100, 0), RGB(0, 0, 100), false},    {RGB(80, 80, 200), RGB(92, 92, 188), true},
   };
@@ -75,7 +73,7 @@ TEST(DistinctColoursTest, TheWalkEndsAtItsLimit) {
   const std::vector<Color> all = unlikeColours();
   ASSERT_GT(all.size(), 256u);
   const Ref<Picture> picture = pictureOf(all, 25, 20);
-  for (const std::size_t most : {std::size_t{1}, std::size_t{112}, std::size_t{255}, all.size()})
+  for (const std::size_t most : {std::size_t{1}, all.size()})
     EXPECT_EQ(distinctColours(*picture, most), first(most, all)) << most;
   EXPECT_EQ(distinctColours(*picture, 999), all);
 }
@@ -114,9 +112,6 @@ TEST_F(ColoursInPreviewTest, TheGridAndANewPaletteShowTheColoursUpToTheirLimits)
 
     const Ref<frmFav> palette = created();
     ASSERT_TRUE(palette);
-    EXPECT_EQ(palette->Title.get(), "Untitled Colors");
-    EXPECT_FALSE(palette->currFile);
-    EXPECT_EQ(palette->imgClut.Selected, 0);
     std::vector<Color> wanted = entries;
     wanted.resize(256, kWhite);
     EXPECT_EQ(palette->TheClut->aColors, wanted);

@@ -55,10 +55,7 @@ TEST_F(PeekerTest, ASampleReadsColumnByColumnAndOncePerPixel) {
 }
 
 TEST_F(PeekerTest, ASampleIsDrawnWithAMarkerThatStandsOutAndTheFrameLast) {
-  const struct {
-    std::uint32_t centre, marker;
-  } contrasts[] = {{0x000000, 0xF97324}, {0x7F7F7F, 0xF97324}, {0x007F00, 0xF97324},
-                   {0x808080, 0x000000}, {0x0000FF, 0x000000}, {0xFFFFFF, 0x000000}};
+  const struct { std::uint32_t centre, marker; } contrasts[] = {{0x7F7F7F, 0xF97324}, {0x0000FF, 0x000000}};
   for (const bool guides : {false, true}) {
     if (guides) choose("mnuShowGuide");
     for (const Int32 step : {1, 2, 3}) {
@@ -93,7 +90,7 @@ TEST_F(PeekerTest, ARepaintHasAMarkerOfItsOwn) {
 TEST_F(PeekerTest, AZoomStepShowsTheOldSampleThroughTheNewCells) {
   struct {
     Int32 from, to, columns, rows;
-  } const steps[] = {{1, 2, 103, 49}, {1, 3, 103, 49}, {3, 2, 35, 17}, {3, 1, 35, 17}, {2, 1, 52, 25}};
+  } const steps[] = {{1, 3, 103, 49}, {3, 1, 35, 17}, {2, 1, 52, 25}};
   for (const auto& [from, to, columns, rows] : steps) {
     zoomTo(from);
     window->drawSys(300, 200);
@@ -114,8 +111,7 @@ TEST_F(PeekerTest, ADragActsOnlyOutsideThePreview) {
   const struct {
     Int32 x, y;
     bool tracks;
-  } drags[] = {{0, 0, false},    {408, 100, false}, {200, 192, false}, {408, 192, false},
-               {409, 100, true}, {200, 193, true},  {-1, 100, true},   {200, -1, true}};
+  } drags[] = {{0, 0, false}, {408, 192, false}, {409, 100, true}, {200, 193, true}, {-1, 100, true}, {200, -1, true}};
   gesture::press(window->imgScreen, 100, 100);
   fake().pointerAt = {40, 50};
   for (const auto& [x, y, tracks] : drags) {
@@ -127,12 +123,6 @@ TEST_F(PeekerTest, ADragActsOnlyOutsideThePreview) {
       EXPECT_EQ(firstFaultOfSample(*window, fake().pointerAt), "") << x << ", " << y;
     }
   }
-  const ScreenPoint last = fake().pointerAt;
-  const String label = window->view0_lblcoordinates.Text;
-  fake().pointerAt = {1, 1};
-  gesture::dragTo(window->imgScreen, 5, 5);
-  EXPECT_EQ(firstFaultOfSample(*window, last), "");
-  EXPECT_EQ(window->view0_lblcoordinates.Text.get(), label);
   EXPECT_EQ(window->SelectedColor, Color{0x70ABFF});
 }
 

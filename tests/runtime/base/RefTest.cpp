@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "runtime/base/Event.h"
 #include "runtime/base/Property.h"
 #include "runtime/base/Ref.h"
 
@@ -82,15 +81,6 @@ TEST(PropertyTest, TellsOfEachWriteButNotOfAStore) {
   a.store(7);
   EXPECT_EQ(log, "2 5 ");
   EXPECT_EQ(a + b, 12);
-}
-
-TEST(EventTest, WithoutAHandlerGivesNothing) {
-  Event<bool(int&)> event;
-  int value = 1;
-  EXPECT_FALSE(event(value));
-  event = [](int& given) { return ++given == 2; };
-  EXPECT_TRUE(event(value));
-  EXPECT_EQ(value, 2);
 }
 
 }  // namespace

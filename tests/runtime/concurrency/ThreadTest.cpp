@@ -78,15 +78,6 @@ TEST_F(ThreadTest, KillUnwindsAThreadWhoseDestructorsYield) {
   EXPECT_TRUE(window->thread.IsRunning());
 }
 
-TEST_F(ThreadTest, AThreadThatNeverBeganIsKilledToo) {
-  window->thread.RunEvent = [this] { log += "never"; };
-  window->thread.Run();
-  window->thread.Kill();
-  takeTurns(2);
-  EXPECT_EQ(log, "");
-  EXPECT_FALSE(fake().watchesPointer());
-}
-
 // Else the toolkit would go on with its half-done work at any later time, or be unwound in the middle of it.
 TEST_F(ThreadTest, AThreadKeepsItsTurnWhileTheToolkitIsOnItsStack) {
   window->Show();

@@ -10,18 +10,6 @@
 namespace tavrelkin {
 namespace {
 
-TEST(DragTest, AColourGoesOutInThreeFormsAndComesBack) {
-  const Ref<DragItem> item = New<DragItem>();
-  item->MacData("hcol", "255, 128, 0");
-  item->SetText("#FF8000");
-  const std::unique_ptr<QMimeData> data = toMime(*item);
-  EXPECT_EQ(qvariant_cast<QColor>(data->colorData()), QColor(255, 128, 0));
-  EXPECT_EQ(data->text(), "#FF8000");
-  const Ref<DragItem> back = fromMime(*data);
-  EXPECT_EQ(back->MacData("hcol"), "255, 128, 0");
-  EXPECT_EQ(back->Text(), "#FF8000");
-}
-
 TEST(DragTest, AForeignColourComesInAsThePrivateTypeUnlessItIsMalformed) {
   QMimeData foreign;
   foreign.setColorData(QColor(1, 2, 3));

@@ -1,6 +1,7 @@
 #include <string>
 
 #include "runtime/gui/Application.h"
+#include "runtime/gui/Canvas.h"
 #include "runtime/gui/Window.h"
 #include "support/Gestures.h"
 #include "support/RuntimeTest.h"
@@ -23,9 +24,6 @@ class Host : public Window {
       });
     }
   }
-  void Event_Open() override { log += "open "; }
-  void Event_Close() override { log += "close "; }
-  void Event_Minimize() override { log += "minimise "; }
 
   std::string& log;
   std::string commands;
@@ -91,18 +89,19 @@ TEST_F(WindowTest, ACommandGoesToTheFrontWindowFirst) {
   EXPECT_EQ(log, "window:a window:b ");
 }
 
-TEST_F(WindowTest, MinimisingIsToldOnce) {
-  const Ref<Host> window = open("");
-  gesture::minimise(*window);
-  EXPECT_EQ(log, "open minimise ");
-}
-
-TEST_F(WindowTest, ACheckMarkIsTheProgramsOwn) {
-  const Ref<Host> window = open("b");
-  const Ref<MenuItem> item = Application::current().MenuBar->Child("b");
-  item->Checked = true;
-  gesture::shortcut(*window, "Cmd+B");
-  EXPECT_TRUE(item->Checked);
+TEST_F(WindowTest, OpenComesForTheControlsInTheirOrderThenForTheWindow) {
+  struct Opening : Window {
+    explicit Opening(std::string& events) : Window({.title = "Opening", .width = 50, .height = 50}), log(events) {
+      second.Open = [this] { log += "second "; };
+      first.Open = [this] { log += "first "; };
+    }
+    void Event_Open() override { log += "window "; }
+    std::string& log;
+    Canvas second{*this, "second"};
+    Canvas first{*this, "first"};
+  };
+  New<Opening>(log);
+  EXPECT_EQ(log, "second first window ");
 }
 
 }  // namespace

@@ -17,12 +17,9 @@ const String kWide = "a\xC3\xA4\xE2\x82\xAC\xF0\x9F\x8E\xA8";
 
 TEST(TextTest, WritesNumbers) {
   EXPECT_EQ(Str(kLeast), "-2147483648");
-  EXPECT_EQ(Str(0), "0");
   EXPECT_EQ(Hex(0), "0");
-  EXPECT_EQ(Hex(10), "A");
-  EXPECT_EQ(Hex(0x1F0), "1F0");
+  EXPECT_EQ(Hex(0x1FA), "1FA");
   EXPECT_EQ(Hex(-1), "FFFFFFFF");
-  EXPECT_EQ(Hex(kLeast), "80000000");
 }
 
 TEST(TextTest, FormatsWithLeadingZeros) {
@@ -31,15 +28,13 @@ TEST(TextTest, FormatsWithLeadingZeros) {
     String text;
   };
   const Row rows[] = {
-      {0, "000"},   {7, "007"},    {42, "042"},  {255, "255"},   {1234, "1234"}, {0.4, "000"},  {0.5, "001"},
-      {2.5, "003"}, {99.5, "100"}, {-7, "-007"}, {-0.5, "-001"}, {-0.4, "000"},  {-0.0, "000"}, {kNaN, "000"},
+      {7, "007"},   {1234, "1234"}, {0.4, "000"},  {0.5, "001"},  {2.5, "003"},
+      {-7, "-007"}, {-0.5, "-001"}, {-0.4, "000"}, {-0.0, "000"}, {kNaN, "000"},
   };
   for (const Row& row : rows)
     EXPECT_EQ(Format(row.value, "000"), row.text) << row.value;
   EXPECT_EQ(Format(0.49999999999999994, "0"), "0");
-  EXPECT_EQ(Format(1e15, ""), "1000000000000000");
   EXPECT_EQ(Format(0, ""), "0");
-  EXPECT_EQ(Format(std::numeric_limits<Double>::infinity(), "000").size(), 309u);
   EXPECT_EQ(Format(-std::numeric_limits<Double>::infinity(), "000").substr(0, 5), "-1797");
 }
 
@@ -49,21 +44,16 @@ TEST(TextTest, CountsCharacters) {
     Int32 length;
   };
   const Row rows[] = {
-      {"", 0},
-      {"abc", 3},
       {kWide, 4},
       {String("a\0b", 3), 3},
       {"\x80\xBF", 2},          // nothing to continue
       {"\xC3", 1},              // cut off
-      {"\xE2\x82", 2},          // cut off
       {"\xE2\x82z", 3},         // cut off by another character
       {"\xC0\xAF", 2},          // too long for what it encodes
       {"\xE0\x80\xAF", 3},      // the same
-      {"\xF0\x80\x80\xAF", 4},  // the same
       {"\xED\xA0\x80", 3},      // a surrogate
       {"\xF4\x90\x80\x80", 4},  // beyond the last character
       {"\xF4\x8F\xBF\xBF", 1},  // the last character
-      {"\xFF\xFE\xF5", 3},
   };
   for (const Row& row : rows) {
     EXPECT_EQ(Len(row.text), row.length) << testing::PrintToString(row.text);
@@ -102,19 +92,15 @@ TEST(TextTest, CutsForAnyArgument) {
 TEST(TextTest, TrimsAndRaises) {
   EXPECT_EQ(Trim(" \t\n\v\f\r a b \r\n"), "a b");
   EXPECT_EQ(Trim(" \n "), "");
-  EXPECT_EQ(Trim(""), "");
   EXPECT_EQ(Trim(String(" \0 ", 3)), String(1, '\0'));
   EXPECT_EQ(Uppercase("az{`@[09AZ\xC3\xA4"), "AZ{`@[09AZ\xC3\xA4");
 }
 
 TEST(TextTest, ComparesWithoutCase) {
   EXPECT_TRUE(sameText("Hcol", "hCOL"));
-  EXPECT_TRUE(sameText("", ""));
   EXPECT_FALSE(sameText("abc", "ab"));
   EXPECT_FALSE(sameText("[", "{"));
-  EXPECT_FALSE(sameText("@", "`"));
   EXPECT_FALSE(sameText("\xC3\x84", "\xC3\xA4"));
-  EXPECT_FALSE(sameText(String("a\0b", 3), String("a\0c", 3)));
 }
 
 TEST(TextTest, FindsPositions) {
@@ -124,16 +110,13 @@ TEST(TextTest, FindsPositions) {
     Int32 position;
   };
   const Row rows[] = {
-      {1, "abcabc", "b", 2},  {2, "abcabc", "b", 2},   {3, "abcabc", "b", 5},    {6, "abcabc", "b", 0},
-      {1, "abcabc", "CA", 3}, {1, "ABC", "bc", 2},     {1, "abc", "abcd", 0},    {1, "abc", "c", 3},
-      {1, "aab", "ab", 2},    {kLeast, "abc", "a", 1}, {0, "abc", "a", 1},       {kMost, "abc", "a", 0},
-      {1, "", "a", 0},        {1, "abc", "", 0},       {1, "", "", 0},           {1, kWide, "\xE2\x82\xAC", 3},
-      {4, kWide, "\xF0", 4},  {1, kWide, "\xA4", 0},   {1, "\xA4\x80z", "z", 3},
+      {2, "abcabc", "b", 2}, {3, "abcabc", "b", 5},         {6, "abcabc", "b", 0},   {1, "abcabc", "CA", 3},
+      {1, "abc", "abcd", 0}, {1, "aab", "ab", 2},           {kLeast, "abc", "a", 1}, {kMost, "abc", "a", 0},
+      {1, "abc", "", 0},     {1, kWide, "\xE2\x82\xAC", 3}, {1, kWide, "\xA4", 0},
   };
   for (const Row& row : rows) {
     EXPECT_EQ(InStr(row.start, row.text, row.find), row.position) << row.start << ' ' << row.text << ' ' << row.find;
   }
-  EXPECT_EQ(InStr("00336699CCFF", "cf"), 10);
 }
 
 TEST(TextTest, SplitsIntoFields) {
@@ -143,16 +126,11 @@ TEST(TextTest, SplitsIntoFields) {
   };
   const Row rows[] = {
       {"", ",", {""}},
-      {"a", ",", {"a"}},
-      {"255, 128, 0", ",", {"255", " 128", " 0"}},
-      {"..", ".", {"", "", ""}},
-      {",a,", ",", {"", "a", ""}},
+      {",a, b,", ",", {"", "a", " b", ""}},
       {"a--b---c", "--", {"a", "b", "-c"}},
       {"1x2X3", "x", {"1", "2", "3"}},
-      {"\xC3\xA4;\xE2\x82\xAC", ";", {"\xC3\xA4", "\xE2\x82\xAC"}},
       {"a\xE2\x82\xACz", "\xE2\x82\xAC", {"a", "z"}},
       {"a,b", "", {"a,b"}},
-      {"a", "a,b", {"a"}},
   };
   for (const Row& row : rows) {
     const auto count = static_cast<Int32>(row.fields.size());
@@ -171,7 +149,6 @@ TEST(TextTest, KeepsEveryByte) {
     EXPECT_EQ(AscB(ChrB(byte)), byte);
   }
   EXPECT_EQ(AscB(ChrB(256 + 65) + "B"), 65);
-  EXPECT_EQ(AscB(ChrB(-1)), 255);
   EXPECT_EQ(AscB(""), 0);
 }
 
