@@ -22,6 +22,9 @@ struct Session {
     std::vector<std::string> environment{};  // more variables for the program, in the form NAME=value
   };
 
+  // What starts the program.
+  static std::vector<std::string> command();
+
   Session() : Session(Options()) {}
   explicit Session(const Options& options);
 
