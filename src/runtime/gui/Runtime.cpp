@@ -1,6 +1,7 @@
 #include "runtime/gui/Runtime.h"
 
 #include <array>
+#include <csignal>
 #include <cstdlib>
 #include <iostream>
 #include <utility>
@@ -61,7 +62,9 @@ void applyLook(QApplication& toolkit) {
   toolkit.setQuitOnLastWindowClosed(false);
 }
 
+// A write beyond a limit on the size of files would end the program; so it fails, and the user is told.
 Runtime::Runtime() : toolkit_(makeToolkit()) {
+  std::signal(SIGXFSZ, SIG_IGN);
   applyLook(*toolkit_);
   installDesktop(makeNativeDesktop());
 }
