@@ -12,6 +12,7 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr std::size_t kMostWindows = 8;
+constexpr int kMenuBar = 24;
 
 }  // namespace
 
@@ -33,10 +34,11 @@ std::string RandomUser::oneOf(std::initializer_list<const char*> texts) {
   return texts.begin()[number(static_cast<int>(texts.size()))];
 }
 
-// Inside the frame: the menu bar counts.
+// Below the menu bar, where a second press might take the item that ends the program.
 ScreenPoint RandomUser::placeOn(xcb_window_t window) {
   const Area area = session_.windows.area(window);
-  return {area.x + number(std::max<int>(1, area.width)), area.y + number(std::max<int>(1, area.height))};
+  return {area.x + number(std::max<int>(1, area.width)),
+          area.y + kMenuBar + number(std::max<int>(1, area.height - kMenuBar))};
 }
 
 ScreenPoint RandomUser::anywhere() {
@@ -64,13 +66,19 @@ void RandomUser::actOn(const Shown& chosen) {
   waitUntil([&] { return session_.windows.hasKeyboard(chosen.window); }, 200ms);
   const int what = number(10);
   if (what < 5) return press(chosen);
-  if (what < 9) return useMouse(chosen);
+  if (what < 8) return useMouse(chosen);
+  if (what < 9) return openMenu(chosen.window);
   moveOrMinimise(chosen.window);
 }
 
 // What asks nothing of the user, for the most part. The last window is never closed, for that would be the end.
 void RandomUser::press(const Shown& chosen) {
-  if (number(12) == 0 && shown().size() > 1) return session_.hand.keys("Ctrl+W");
+  const std::size_t count = shown().size();
+  if (number(12) == 0 && count > 1) {
+    session_.hand.keys("Ctrl+W");
+    waitUntil([&] { return shown().size() < count; }, 2s);
+    return;
+  }
   switch (chosen.kind) {
     case Kind::kTool:
       return session_.hand.keys(
@@ -80,7 +88,7 @@ void RandomUser::press(const Shown& chosen) {
       return session_.hand.keys(
           oneOf({"Ctrl+S", "Ctrl+Shift+S", "Ctrl+C", "Ctrl+V", "Ctrl+Alt+C", "Ctrl+D", "Ctrl+N"}));
     default:
-      return session_.hand.keys(oneOf({"Ctrl+V", "Ctrl+C", "Ctrl+D", "Tab", "Up", "Down", "1", "7", "Return"}));
+      return session_.hand.keys(oneOf({"Ctrl+V", "Ctrl+C", "Ctrl+D", "Tab", "Up", "Down", "1", "7"}));
   }
 }
 
@@ -101,6 +109,20 @@ void RandomUser::useMouse(const Shown& chosen) {
   }
   // What has come up may be a menu or a dialog.
   if (number(2) == 0) session_.hand.keys(oneOf({"Escape", "Down", "Up"}));
+}
+
+// Looks into any menu, or takes the favourites, the last item of one.
+void RandomUser::openMenu(xcb_window_t window) {
+  constexpr int kMenus[] = {20, 55, 84, 129, 180};
+  constexpr int kView = 3;
+  const int menu = number(5);
+  const Area area = session_.windows.area(window);
+  session_.hand.click({area.x + kMenus[menu], area.y + kMenuBar / 2});
+  session_.hand.keys("Up");
+  session_.hand.rest();
+  if (menu == kView) return session_.hand.keys("Return");
+  session_.hand.keys("Escape");
+  session_.hand.keys("Escape");
 }
 
 void RandomUser::moveOrMinimise(xcb_window_t window) {

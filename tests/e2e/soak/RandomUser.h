@@ -37,6 +37,7 @@ class RandomUser {
   void actOn(const Shown& chosen);
   void useMouse(const Shown& chosen);
   void press(const Shown& chosen);
+  void openMenu(xcb_window_t window);
   void moveOrMinimise(xcb_window_t window);
   void leave(xcb_window_t dialog);
   bool closeAllBut(xcb_window_t kept);
