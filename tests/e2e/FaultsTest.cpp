@@ -109,7 +109,7 @@ const FavouritesFault kFavouritesFaults[] = {
     {"DanglingLink", [](const fs::path& at) { fs::create_symlink("none", at); }, kNewPalette},
     {"RingOfLinks", [](const fs::path& at) { fs::create_symlink("Tavrelkin.aco", at); }, kMessage},
     {"NoFolder", [](const fs::path& at) { fs::remove(at.parent_path()), std::ofstream(at.parent_path()); }, kMessage},
-    {"HundredGigabytes", [](const fs::path& at) { std::ofstream(at) << "", fs::resize_file(at, 100'000'000'000); }, kPalette},
+    {"HundredGigabytes", [](const fs::path& at) { std::ofstream(at), fs::resize_file(at, 100'000'000'000); }, kPalette},
 };
 
 INSTANTIATE_TEST_SUITE_P(Of, FavouritesFaultsTest, testing::ValuesIn(kFavouritesFaults),

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdlib>
+#include <filesystem>
 #include <iostream>
 #include <random>
 #include <stdexcept>
@@ -36,7 +37,8 @@ bool isWithin(const Usage& at, const Usage& before, bool countsMemory) {
 
 class Soak {
  public:
-  Soak(std::chrono::seconds length, std::uint32_t seed) : length_(length), user_(session_, seed) {
+  Soak(std::chrono::seconds length, std::uint32_t seed)
+      : length_(length), session_(in(folder_)), user_(session_, seed) {
     session_.waitForWindow("Color: ");
     session_.clipboard.copy("#3C8CDC");
   }
@@ -56,6 +58,12 @@ class Soak {
   std::string errors() const { return session_.program.errors(); }
 
  private:
+  // The program is started in the folder that this process is in.
+  static Session::Options in(const Home& folder) {
+    std::filesystem::current_path(folder.path());
+    return {};
+  }
+
   void actUntil(Clock::time_point end) {
     while (Clock::now() < end) {
       if (const auto status = session_.program.waitForExit(0s))
@@ -81,6 +89,7 @@ class Soak {
   }
 
   std::chrono::seconds length_;
+  Home folder_;  // where files are saved, unless the user goes elsewhere
   Session session_;
   RandomUser user_;
   Usage last_;
