@@ -89,7 +89,12 @@ void checkRead(const QMimeData& drag, const Ref<DragItem>& item) {
     require(!item->MacDataAvailable("hcol"), "a malformed colour counts as absent");
     require(colour == colourOfText(*item), "a text is all that is left");
   }
-  require(item->TextAvailable() == (drag.hasText() || drag.hasFormat(kPlainText)), "a text has either of two names");
+  const bool hasText = !drag.hasUrls() && (drag.hasText() || drag.hasFormat(kPlainText));
+  require(item->TextAvailable() == hasText, "a text has either of two names, and doesn't come with addresses");
+  const Ref<DragItem> offered = offeredBy(drag);
+  for (const String& type : item->MacDataTypes())
+    require(offered->MacDataAvailable(type), "what comes in was offered");
+  require(offered->TextAvailable() == hasText, "the same text is offered as comes in");
 }
 
 // What a program of the same kind, and one that knows the desktop's colour type alone, get of an item.

@@ -1,6 +1,8 @@
 // The table's two file formats. Readers and writers of a format don't mirror each other, and this is meant: files in
 // use depend on it.
 
+#include <cstdint>
+
 #include "runtime/files/FolderItem.h"
 #include "runtime/gui/MsgBox.h"
 #include "tables/zrClut.h"
@@ -41,13 +43,19 @@ void finish(BinaryStream& stream, FolderItem& file, const char* macType) {
   file.MacCreator = "8BIM";
 }
 
-// Adds colours up to the end of the stream or the last but one entry. With a Count of 0 or less the cursor never meets
-// that, and the rest of the file is read in vain.
+// Adds colours of so many bytes each up to the end of the stream or the last but one entry. With a Count of 0 or less
+// the cursor never meets that: it goes over all the rest of the file, of which nothing is stored. That may be
+// gigabytes, and more entries than the cursor can count.
 template <class ReadColor>
-void fill(zrClut& table, BinaryStream& stream, ReadColor readColor) {
-  while (!stream.EOF()) {
+void fill(zrClut& table, BinaryStream& stream, Int32 bytes, ReadColor readColor) {
+  const bool storesAll = table.Count > 0;
+  while (!stream.EOF() && (storesAll || table.Index < 0)) {
     table.Add(readColor());
     if (table.Index + 1 == table.Count) break;
+  }
+  if (!storesAll && !stream.EOF()) {
+    const std::int64_t passed = (stream.size() - stream.Position + bytes - 1) / bytes;
+    table.Index = toInt32(static_cast<Double>(table.Index + passed));
   }
   stream.Close();
 }
@@ -90,7 +98,7 @@ bool zrClut::ReadSwatch(const Ref<FolderItem>& file) {
   stream->Position = 2;
   resize(stream->ReadShort());
   stream->Position = 6;
-  fill(*this, *stream, [&] {
+  fill(*this, *stream, 10, [&] {
     const Int32 red = readHighByte(*stream);
     const Int32 green = readHighByte(*stream);
     const Int32 blue = readHighByte(*stream);
@@ -104,7 +112,7 @@ bool zrClut::ReadClut(const Ref<FolderItem>& file) {
   const Ref<BinaryStream> stream = opened(file, "Unable to read color clut");
   if (!stream) return false;
   resize(255);
-  fill(*this, *stream, [&] {
+  fill(*this, *stream, 3, [&] {
     const Int32 red = stream->ReadByte();
     const Int32 green = stream->ReadByte();
     const Int32 blue = stream->ReadByte();

@@ -7,6 +7,7 @@
 #include <boost/context/protected_fixedsize_stack.hpp>
 
 #if defined(__SANITIZE_ADDRESS__)
+#include <sanitizer/asan_interface.h>
 #include <sanitizer/common_interface_defs.h>
 #endif
 
@@ -28,9 +29,14 @@ struct StackSwitch {
   static void arrive(void* fakeStack, const void** cameFrom, std::size_t* size) {
     __sanitizer_finish_switch_fiber(fakeStack, cameFrom, size);
   }
+  // The outermost frames never return, and their marks would lie on whatever is mapped to the same place next.
+  static void forget(const void* bottom, std::size_t size) {
+    __asan_unpoison_memory_region(bottom, size);
+  }
 #else
   static void leave(void**, const void*, std::size_t) {}
   static void arrive(void*, const void**, std::size_t*) {}
+  static void forget(const void*, std::size_t) {}
 #endif
 };
 
@@ -96,6 +102,7 @@ void Fiber::resume() {
   state.self = std::move(state.self).resume();
   StackSwitch::arrive(fakeStack, nullptr, nullptr);
   State::running = state.outer;
+  if (state.ended) StackSwitch::forget(state.bottom(), state.stack.size);
 }
 
 void Fiber::kill() {

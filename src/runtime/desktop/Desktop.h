@@ -7,6 +7,8 @@
 #include <optional>
 #include <string>
 
+#include "runtime/desktop/Offer.h"
+
 namespace tavrelkin {
 
 // A position in the screen's own pixels, over all monitors. May be negative, and may lie off every monitor.
@@ -89,6 +91,11 @@ class Desktop {
   // The path of the folder for the program's own files of this user, which is made first where it is missing. If that
   // can't be done there is still a path, but no folder. Empty on a desktop without such a place.
   virtual std::string applicationDataFolder() = 0;
+
+  // What another program has on the clipboard, and what its drag carries that is just being dropped on a window of this
+  // one. Null where the toolkit's own reading will do, or must.
+  virtual std::unique_ptr<Offer> clipboardOffer() { return nullptr; }
+  virtual std::unique_ptr<Offer> dropOffer() { return nullptr; }
 };
 
 // The desktop in use. It must be installed before any other part of the runtime is used.

@@ -29,6 +29,9 @@ class BinaryStream : public Object {
   // The place of the next byte, from 0. Reads and writes move it forward; it may stand anywhere.
   std::int64_t Position = 0;
 
+  // The number of bytes in the file.
+  std::int64_t size() const;
+
   // Whether Position stands at the end or beyond it.
   bool EOF() const;
 
@@ -45,8 +48,6 @@ class BinaryStream : public Object {
   void Close();
 
  private:
-  std::int64_t size() const;
-
   std::unique_ptr<FileSource> source_;
   std::unique_ptr<FileReplacement> target_;
   std::string written_;

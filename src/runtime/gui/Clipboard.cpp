@@ -3,11 +3,13 @@
 #include <QClipboard>
 #include <QGuiApplication>
 
+#include "runtime/desktop/Desktop.h"
 #include "runtime/qt/Convert.h"
 
 namespace tavrelkin {
 
 String Clipboard::Text() const {
+  if (const auto offer = desktop().clipboardOffer()) return offer->text().value_or(String());
   return fromQt(QGuiApplication::clipboard()->text());
 }
 

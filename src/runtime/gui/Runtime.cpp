@@ -1,6 +1,9 @@
 #include "runtime/gui/Runtime.h"
 
 #include <array>
+#include <csignal>
+#include <cstdlib>
+#include <iostream>
 #include <utility>
 
 #include <QApplication>
@@ -17,12 +20,27 @@ namespace tavrelkin {
 
 namespace {
 
+// Without a display the toolkit ends the program as in a crash, in words for a developer. Its other messages name what
+// was tried.
+void tellNoDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  if (type != QtFatalMsg)
+    return void(std::cerr << qFormatLogMessage(type, context, message).toStdString() << std::endl);
+  std::cerr
+      << "Tavrelkin: no display was found to show its windows on. Start it in a desktop session, or set DISPLAY to "
+         "a display that it may use."
+      << std::endl;
+  std::_Exit(1);
+}
+
 // The program has no command line: the toolkit gets its name and nothing else.
 std::unique_ptr<QApplication> makeToolkit() {
   static std::array name{'t', 'a', 'v', 'r', 'e', 'l', 'k', 'i', 'n', '\0'};
   static std::array<char*, 2> arguments{name.data(), nullptr};
   static int count = 1;
-  return std::make_unique<QApplication>(count, arguments.data());
+  const QtMessageHandler usual = qInstallMessageHandler(tellNoDisplay);
+  auto toolkit = std::make_unique<QApplication>(count, arguments.data());
+  qInstallMessageHandler(usual);
+  return toolkit;
 }
 
 // Light, whatever the desktop's theme is: the windows have light colours of their own.
@@ -53,7 +71,9 @@ void applyLook(QApplication& toolkit) {
   toolkit.setQuitOnLastWindowClosed(false);
 }
 
+// A write beyond a limit on the size of files would end the program; so it fails, and the user is told.
 Runtime::Runtime(const std::string& iconFolder) : toolkit_(makeToolkit()) {
+  std::signal(SIGXFSZ, SIG_IGN);
   applyLook(*toolkit_);
   QApplication::setWindowIcon(readIcon(iconFolder));
   installDesktop(makeNativeDesktop());

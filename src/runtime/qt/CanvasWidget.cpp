@@ -169,14 +169,15 @@ void CanvasWidget::leaveEvent(QEvent*) {
 }
 
 void CanvasWidget::dragEnterEvent(QDragEnterEvent* event) {
-  if (canvas_ && canvas_->accepts(*fromMime(*event->mimeData()))) takeCopy(*event);
+  if (canvas_ && canvas_->accepts(*offeredBy(*event->mimeData()))) takeCopy(*event);
 }
 
 void CanvasWidget::dropEvent(QDropEvent* event) {
   if (!canvas_) return;
   takeCopy(*event);
-  const Ref<DragItem> item = fromMime(*event->mimeData());
-  deliver(canvas_->ownerWindow(), [&] { canvas_->Event_DropObject(item, 0); });
+  const Ref<DragItem> item = fromDrop(*event);
+  // It may have been offered, and not be sent.
+  if (canvas_->accepts(*item)) deliver(canvas_->ownerWindow(), [&] { canvas_->Event_DropObject(item, 0); });
 }
 
 // Keys are taken here, ahead of the tabulator's way to the next control, which would never let the canvas see it.

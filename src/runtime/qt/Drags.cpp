@@ -1,14 +1,22 @@
 #include "runtime/qt/Drags.h"
 
+#include <array>
+#include <cstdint>
+#include <cstring>
+#include <optional>
+#include <utility>
+
 #include <QColor>
 #include <QCoreApplication>
 #include <QCursor>
 #include <QDrag>
+#include <QDropEvent>
 #include <QMimeData>
 #include <QPainter>
 #include <QPixmap>
 #include <QWidget>
 
+#include "runtime/desktop/Desktop.h"
 #include "runtime/drawing/Color.h"
 #include "runtime/qt/Convert.h"
 
@@ -18,6 +26,7 @@ namespace {
 
 constexpr auto kColourType = "hcol";
 constexpr auto kPrivatePrefix = "application/x-tavrelkin-";
+constexpr auto kDesktopColour = "application/x-color";
 constexpr auto kPlainText = "text/plain;charset=utf-8";  // what the toolkit doesn't know as text by itself
 
 QColor toColor(const String& triple) {
@@ -27,6 +36,62 @@ QColor toColor(const String& triple) {
 
 String toTriple(const QColor& c) {
   return Str(c.red()) + ", " + Str(c.green()) + ", " + Str(c.blue());
+}
+
+// What there is under the types of a drag; here only that there is something.
+struct Content {
+  Content() = default;
+  Content(const Content&) = delete;
+  Content& operator=(const Content&) = delete;
+  virtual ~Content() = default;
+  virtual std::optional<String> bytes(const QString&) const { return String(); }
+  virtual std::optional<String> colour() const { return String(); }
+  virtual std::optional<String> text() const { return String(); }
+};
+
+// As the toolkit gives it.
+struct Held final : Content {
+  explicit Held(const QMimeData& from) : data(from) {}
+  std::optional<String> bytes(const QString& type) const override { return data.data(type).toStdString(); }
+  std::optional<String> colour() const override {
+    const auto c = qvariant_cast<QColor>(data.colorData());
+    return c.isValid() ? std::optional(toTriple(c)) : std::nullopt;
+  }
+  std::optional<String> text() const override {
+    return fromQt(data.hasText() ? data.text() : QString::fromUtf8(data.data(kPlainText)));
+  }
+  const QMimeData& data;
+};
+
+// As another program sends it.
+struct Sent final : Content {
+  explicit Sent(Offer& from) : offer(from) {}
+  std::optional<String> bytes(const QString& type) const override { return offer.bytes(fromQt(type)); }
+  // Four channels of two bytes, in the order of this machine: the high ones count.
+  std::optional<String> colour() const override {
+    std::array<std::uint16_t, 4> channels;
+    const auto sent = offer.bytes(kDesktopColour);
+    if (!sent || sent->size() != sizeof channels) return std::nullopt;
+    std::memcpy(channels.data(), sent->data(), sizeof channels);
+    return toTriple(QColor::fromRgba64(channels[0], channels[1], channels[2], channels[3]));
+  }
+  std::optional<String> text() const override { return offer.text(); }
+  Offer& offer;
+};
+
+// Reads no more than counts.
+Ref<DragItem> itemOf(const QMimeData& types, const Content& content) {
+  Ref<DragItem> item = New<DragItem>();
+  const QString prefix = QLatin1String(kPrivatePrefix);
+  for (const QString& format : types.formats()) {
+    if (!format.startsWith(prefix)) continue;
+    if (auto payload = content.bytes(format)) item->MacData(fromQt(format.mid(prefix.size())), *std::move(payload));
+  }
+  if (!item->MacDataAvailable(kColourType) && types.hasColor())
+    if (auto colour = content.colour()) item->MacData(kColourType, *std::move(colour));
+  if (!types.hasUrls() && (types.hasText() || types.hasFormat(kPlainText)))
+    if (auto text = content.text()) item->SetText(*std::move(text));
+  return item;
 }
 
 // White around black, so that it can be seen on any ground.
@@ -54,21 +119,17 @@ std::unique_ptr<QMimeData> toMime(const DragItem& item) {
 }
 
 Ref<DragItem> fromMime(const QMimeData& data) {
-  Ref<DragItem> item = New<DragItem>();
-  const QString prefix = QLatin1String(kPrivatePrefix);
-  for (const QString& format : data.formats()) {
-    if (format.startsWith(prefix)) item->MacData(fromQt(format.mid(prefix.size())), data.data(format).toStdString());
-  }
-  if (!item->MacDataAvailable(kColourType) && data.hasColor()) {
-    const auto c = qvariant_cast<QColor>(data.colorData());
-    if (c.isValid()) item->MacData(kColourType, toTriple(c));
-  }
-  if (data.hasText()) {
-    item->SetText(fromQt(data.text()));
-  } else if (data.hasFormat(kPlainText)) {
-    item->SetText(fromQt(QString::fromUtf8(data.data(kPlainText))));
-  }
-  return item;
+  return itemOf(data, Held(data));
+}
+
+Ref<DragItem> offeredBy(const QMimeData& data) {
+  return itemOf(data, Content());
+}
+
+Ref<DragItem> fromDrop(const QDropEvent& event) {
+  const bool isOwn = event.source() != nullptr;
+  const auto offer = isOwn ? nullptr : desktop().dropOffer();
+  return offer ? itemOf(*event.mimeData(), Sent(*offer)) : fromMime(*event.mimeData());
 }
 
 // The drag belongs to the program, not to the window, which may be closed before the user lets go.

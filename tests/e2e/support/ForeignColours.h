@@ -24,6 +24,9 @@ class ForeignColours {
   static constexpr ScreenPoint kShortColour{990, 630};
   static constexpr ScreenPoint kLongColourAndText{1050, 630};  // the text is #00C0FF
   static constexpr ScreenPoint kText{1110, 630};               // #C000FF
+  static constexpr ScreenPoint kFile{930, 690};                // its address has two dots
+  static constexpr ScreenPoint kHugeText{990, 690};            // 100 MB
+  static constexpr ScreenPoint kSilence{1050, 690};            // a colour and a text that never come
 
   // The colour that the button has taken last: four hexadecimal digits a channel; empty before the first.
   std::string taken() const;

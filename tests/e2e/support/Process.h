@@ -20,6 +20,8 @@ class Process {
   Process& operator=(const Process&) = delete;
   ~Process();
 
+  pid_t id() const { return pid_; }
+
   // What it has written so far.
   std::string output() const;
   std::string errors() const;

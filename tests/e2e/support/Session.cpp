@@ -25,6 +25,10 @@ X11Client& settled(X11Client& client, const Session::Options& options) {
 
 }  // namespace
 
+std::vector<std::string> Session::command() {
+  return {TAVRELKIN_PROGRAM};
+}
+
 Session::Session(const Options& options)
     : server(options.server),
       client(server.display().c_str()),
@@ -32,7 +36,7 @@ Session::Session(const Options& options)
       hand(client),
       manager(server),
       clipboard(server, client),
-      program({TAVRELKIN_PROGRAM}, programEnvironment(home, server, options.environment)) {}
+      program(command(), programEnvironment(home, server, options.environment)) {}
 
 xcb_window_t Session::waitForWindow(const std::string& titleBeginning) {
   waitForWindow(titleBeginning, 1);

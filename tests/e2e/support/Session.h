@@ -25,6 +25,9 @@ struct Session {
     std::uint16_t leftMonitor = 0;           // the width of one beside the main one, if any
   };
 
+  // What starts the program.
+  static std::vector<std::string> command();
+
   Session() : Session(Options()) {}
   explicit Session(const Options& options);
 

@@ -39,7 +39,7 @@ std::string Windows::property(xcb_window_t window, const std::string& name) cons
 std::vector<std::uint32_t> Windows::numbers(xcb_window_t window, const std::string& name) const {
   const std::string bytes = property(window, name);
   std::vector<std::uint32_t> result(bytes.size() / sizeof(std::uint32_t));
-  std::memcpy(result.data(), bytes.data(), result.size() * sizeof(std::uint32_t));
+  if (!result.empty()) std::memcpy(result.data(), bytes.data(), result.size() * sizeof(std::uint32_t));
   return result;
 }
 

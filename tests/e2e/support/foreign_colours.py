@@ -2,9 +2,12 @@
 
 A window without a frame at (900, 600) holds, each 60 by 60 and from left to right: the toolkit's own colour button, which
 gives and takes colours; and three that only give: a colour in too few bytes, a colour in too many bytes beside a text
-that names one, and nothing but a text that names one. Says "ready" when it can be used, then "over" for each
+that names one, and nothing but a text that names one. Below them: a file, a text of 100 MB with two dots in it, and one
+that promises a colour and a text, but gives neither for a minute. Says "ready" when it can be used, then "over" for each
 drag of its own that has ended, and each colour that the button takes, as four hexadecimal digits a channel.
 """
+import time
+
 import gi
 
 gi.require_version("Gdk", "3.0")
@@ -13,6 +16,8 @@ from gi.repository import Gdk, Gtk  # noqa: E402
 
 COLOUR = "application/x-color"
 TEXT = "text/plain;charset=utf-8"
+FILES = "text/uri-list"
+ADDRESS = b"file:///tmp/photo.v1.png"
 
 
 def colour_button():
@@ -34,6 +39,9 @@ def source(payloads):
 
     def give(_widget, _context, data, info, _time):
         kind, payload = payloads[info]
+        if payload is None:
+            time.sleep(60)
+            return
         data.set(Gdk.Atom.intern(kind, False), 16 if kind == COLOUR else 8, payload)
 
     box.connect("drag-data-get", give)
@@ -42,17 +50,20 @@ def source(payloads):
 
 def main():
     window = Gtk.Window(type=Gtk.WindowType.POPUP)
-    row = Gtk.Box()
-    for widget in (
+    grid = Gtk.Grid()
+    for i, widget in enumerate((
         colour_button(),
         source([(COLOUR, b"\x12\x34\x56")]),
         source([(COLOUR, bytes(30)), (TEXT, b"#00C0FF")]),
         source([(TEXT, b"#C000FF")]),
-    ):
+        source([(FILES, ADDRESS + b"\r\n"), (TEXT, ADDRESS)]),
+        source([(TEXT, b"1,2,3.." + bytes(100_000_000))]),
+        source([(COLOUR, None), (TEXT, None)]),
+    )):
         widget.set_size_request(60, 60)
         widget.connect("drag-end", lambda *_: print("over", flush=True))
-        row.pack_start(widget, False, False, 0)
-    window.add(row)
+        grid.attach(widget, i % 4, i // 4, 1, 1)
+    window.add(grid)
     window.move(900, 600)
     window.show_all()
     window.connect("map-event", lambda *_: print("ready", flush=True))

@@ -8,6 +8,7 @@
 #include <utility>
 
 #include <QApplication>
+#include <QClipboard>
 #include <QColorDialog>
 #include <QFile>
 #include <QFileDialog>
@@ -20,6 +21,7 @@
 #include "runtime/desktop/ScreenReader.h"
 #include "runtime/desktop/native/ApplicationDataFolder.h"
 #include "runtime/desktop/native/NoScreenReader.h"
+#include "runtime/desktop/x11/X11Offers.h"
 #include "runtime/desktop/x11/X11ScreenReader.h"
 
 namespace tavrelkin {
@@ -89,7 +91,9 @@ class NativeAlarm final : public Alarm {
 
 class NativeDesktop final : public Desktop {
  public:
-  NativeDesktop() : reader_(makeScreenReader()), canReadScreen_(reader_->whyNoScreen().empty()) {}
+  NativeDesktop() : reader_(makeScreenReader()), canReadScreen_(reader_->whyNoScreen().empty()) {
+    if (QGuiApplication::platformName() == "xcb") offers_ = std::make_unique<X11Offers>();
+  }
 
   bool canReadScreen() const override { return canReadScreen_; }
   std::string whyNoScreen() const override { return reader_->whyNoScreen(); }
@@ -110,10 +114,13 @@ class NativeDesktop final : public Desktop {
   std::optional<std::uint32_t> selectColor(std::uint32_t initial, const std::string& prompt) override;
   std::optional<std::string> chooseSaveFile(const std::string& filter, const std::string& name) override;
   std::string applicationDataFolder() override { return makeApplicationDataFolder(); }
+  std::unique_ptr<Offer> clipboardOffer() override;
+  std::unique_ptr<Offer> dropOffer() override { return offers_ ? offers_->drop() : nullptr; }
 
  private:
   std::unique_ptr<ScreenReader> reader_;
   bool canReadScreen_;  // asked at each pixel
+  std::unique_ptr<X11Offers> offers_;
 };
 
 // Some displays state no rate, or a senseless one.
@@ -155,6 +162,10 @@ std::optional<std::string> NativeDesktop::chooseSaveFile(const std::string& filt
   dialog->deleteLater();
   if (!accepted) return std::nullopt;
   return QFile::encodeName(dialog->selectedFiles().constFirst()).toStdString();
+}
+
+std::unique_ptr<Offer> NativeDesktop::clipboardOffer() {
+  return offers_ && !QGuiApplication::clipboard()->ownsClipboard() ? offers_->clipboard() : nullptr;
 }
 
 }  // namespace

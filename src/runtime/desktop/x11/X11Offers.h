@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstdint>
+#include <memory>
+
+#include <QAbstractNativeEventFilter>
+
+#include "runtime/desktop/Offer.h"
+
+namespace tavrelkin {
+
+// What other programs have on offer on an X11 display. The toolkit's own reading is unbounded: it waits five seconds
+// for each form of the data that isn't sent, and takes in all that is. So these read on a connection of their own,
+// which goes with the offer: an answer that comes later finds nobody.
+//
+// Made while the toolkit runs on X11; needed from before the first drop on.
+class X11Offers final : public QAbstractNativeEventFilter {
+ public:
+  X11Offers();
+  X11Offers(const X11Offers&) = delete;
+  X11Offers& operator=(const X11Offers&) = delete;
+  ~X11Offers() override;
+
+  // Null where the display can't be reached. Whoever owns the clipboard must not be this program, which can't answer
+  // while it reads.
+  std::unique_ptr<Offer> clipboard() const;
+  // The drag that is being dropped, of another program; of use within the handler of the drop.
+  std::unique_ptr<Offer> drop() const;
+
+  // Notes the time of a drop, by which its source knows which of its drags is asked for.
+  bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
+
+ private:
+  std::uint32_t dropMessage_ = 0;
+  std::uint32_t dropTime_ = 0;
+};
+
+}  // namespace tavrelkin
