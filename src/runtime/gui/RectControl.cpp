@@ -22,6 +22,7 @@ RectControl::RectControl(Window& owner, String name, QWidget* native, const Rect
       Visible(true, [this](bool on) { native_->setVisible(on); }),
       Enabled(true, [this](bool) { enabledChanged(); }),
       HelpTag({}, [this](const String&) { applyHelpTag(); }),
+      AccessibleName({}, [this](const String& text) { native_->setAccessibleName(toQt(text)); }),
       AcceptFocus(false, [this](bool) { applyFocusPolicy(); }),
       TabStop(false, [this](bool) { applyFocusPolicy(); }),
       native_(native),

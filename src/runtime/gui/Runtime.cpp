@@ -9,6 +9,7 @@
 #include "runtime/concurrency/Scheduler.h"
 #include "runtime/desktop/Desktop.h"
 #include "runtime/desktop/native/NativeDesktop.h"
+#include "runtime/qt/Accessibility.h"
 #include "runtime/qt/Delivery.h"
 
 namespace tavrelkin {
@@ -42,6 +43,7 @@ void applyLook(QApplication& toolkit) {
   toolkit.setApplicationDisplayName({});
   toolkit.setDesktopFileName(QStringLiteral("tavrelkin"));
   toolkit.setQuitOnLastWindowClosed(false);
+  installAccessibility();
 }
 
 Runtime::Runtime() : toolkit_(makeToolkit()) {

@@ -1,6 +1,7 @@
 #include "runtime/qt/WindowWidget.h"
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMenuBar>
 #include <QVBoxLayout>
 
@@ -78,6 +79,15 @@ bool WindowWidget::focusNextPrevChild(bool next) {
     if (!first) first = focus;
   }
   return false;
+}
+
+// Escape leaves a modal window as its close button does, whatever its buttons are.
+void WindowWidget::keyPressEvent(QKeyEvent* event) {
+  if (windowModality() == Qt::ApplicationModal && event->matches(QKeySequence::Cancel)) {
+    close();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
 }
 
 void WindowWidget::closeEvent(QCloseEvent* event) {

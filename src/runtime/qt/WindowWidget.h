@@ -29,6 +29,7 @@ class WindowWidget : public QWidget {
 
  protected:
   bool focusNextPrevChild(bool next) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
 
