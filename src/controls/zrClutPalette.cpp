@@ -94,6 +94,7 @@ void zrClutPalette::choose(Int32 index) {
   DrawBorder(false, Selected);
   if (index < 0 || index >= TheClut->Count) {
     Selected = -1;
+    announce(AccessibleChange::currentCell);
     return;
   }
   Selected = index;

@@ -102,13 +102,10 @@ void frmColorBlind::dress() {
 
 void frmColorBlind::nameControls() {
   txtGamma.AccessibleName = "Gamma";
-  cmbGamma.AccessibleName = "Common gammas";
   cmdColor[0].AccessibleName = "Normal color";
   cmdColor[1].AccessibleName = "Protanopia";
   cmdColor[2].AccessibleName = "Deutanopia";
   cmdColor[3].AccessibleName = "Tritanopia";
-  colors[0].AccessibleName = "Simulated color at large";
-  colors[1].AccessibleName = "Normal color at large";
 }
 
 void frmColorBlind::wire() {

@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "color/ColourWords.h"
+#include "color/zrColorLib.h"
 #include "runtime/system/System.h"
 #include "toolwindow/PreviewGrid.h"
 #include "toolwindow/frmVesk.h"
@@ -79,12 +80,14 @@ void frmVesk::showsScreen() {
   imgScreen.announce(isNew ? AccessibleChange::cells : AccessibleChange::description);
 }
 
+// The label tells the cell's colour, as it does where the pointer rests on it.
 void frmVesk::markCell(std::size_t index) {
   Graphics& g = imgScreen.Graphics();
   if (markedCell_ >= 0) eraseMark(g, shownCells_.at(static_cast<std::size_t>(markedCell_)));
   markedCell_ = static_cast<Int32>(index);
   drawMark(g, shownCells_.at(index));
   imgScreen.announce(AccessibleChange::currentCell);
+  if (!flgTrackMouse) view0_lblColor.Text = getStdColorString(shownCells_.at(index).colour);
 }
 
 bool frmVesk::imgScreen_KeyDown(const String& key) {

@@ -43,7 +43,12 @@ bool canBeUsed(const CanvasWidget& widget) {
 
 }  // namespace
 
-CanvasAccessible::CanvasAccessible(CanvasWidget& widget) : QAccessibleWidget(&widget), canvas_(widget) {}
+CanvasAccessible::CanvasAccessible(CanvasWidget& widget) : QAccessibleWidget(&widget), canvas_(widget) {
+  if (!described()) return;
+  toldName_ = toQt(described()->name());
+  toldDescription_ = CanvasAccessible::text(QAccessible::Description);
+  seen_ = toldDescription_;
+}
 
 CanvasAccessible::~CanvasAccessible() {
   for (const auto& [index, id] : cells_)
@@ -169,6 +174,7 @@ void CanvasAccessible::announce(CanvasWidget& widget, AccessibleChange change) {
       if (std::exchange(known->toldValue_, value) == value) return;
       QAccessibleValueChangeEvent event(&widget, value);
       QAccessible::updateAccessibility(&event);
+      known->tellAtRest(false);
       break;
     }
     case AccessibleChange::currentCell:
@@ -191,9 +197,12 @@ void CanvasAccessible::tell(QAccessible::Event what, int cell) const {
 
 void CanvasAccessible::tellCurrentCell() {
   const int current = described()->currentCell();
-  if (!child(current)) return;
-  if (role() == QAccessible::List) tell(QAccessible::Selection, current);
-  if (canvas_.hasFocus()) tell(QAccessible::Focus, current);
+  const int former = std::exchange(toldCell_, current);
+  if (role() == QAccessible::List) {
+    if (former != current && child(former)) tell(QAccessible::SelectionRemove, former);
+    if (child(current)) tell(QAccessible::Selection, current);
+  }
+  if (canvas_.hasFocus() && child(current)) tell(QAccessible::Focus, current);
 }
 
 void CanvasAccessible::tellAtRest(bool cellsToo) {
@@ -204,12 +213,10 @@ void CanvasAccessible::tellAtRest(bool cellsToo) {
 
 void CanvasAccessible::tellChanges() {
   if (!described()) return;
-  const QString name = text(QAccessible::Name);
+  const QString name = toQt(described()->name());  // the toolkit tells of any other
   if (std::exchange(toldName_, name) != name) tell(QAccessible::NameChanged);
   const QString description = text(QAccessible::Description);
   if (std::exchange(toldDescription_, description) != description) tell(QAccessible::DescriptionChanged);
-  const int count = childCount();
-  if (std::exchange(toldCells_, count) != count) tell(QAccessible::ObjectReorder);
   for (const auto& [index, id] : cells_)
     static_cast<CellAccessible*>(QAccessible::accessibleInterface(id))->tellName();
 }

@@ -62,8 +62,8 @@ class CanvasAccessible : public QAccessibleWidget, public QAccessibleValueInterf
   mutable std::map<int, QAccessible::Id> cells_;  // those that were asked for
   QString seen_;                                  // the description at the last announcement
   QString toldName_, toldDescription_;
-  int toldCells_ = 0;
   int toldValue_ = -1;
+  int toldCell_ = -1;
 };
 
 }  // namespace tavrelkin

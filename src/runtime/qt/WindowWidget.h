@@ -34,6 +34,8 @@ class WindowWidget : public QWidget {
   void changeEvent(QEvent* event) override;
 
  private:
+  bool takesTabulator(const QWidget& control) const;
+
   Window* window_;
   QWidget* content_;
 };

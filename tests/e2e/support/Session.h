@@ -1,12 +1,14 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "e2e/X11Client.h"
 #include "e2e/support/Hand.h"
 #include "e2e/support/Home.h"
+#include "e2e/support/MessageBus.h"
 #include "e2e/support/OutsideClipboard.h"
 #include "e2e/support/Process.h"
 #include "e2e/support/WindowManager.h"
@@ -19,6 +21,7 @@ namespace tavrelkin::test {
 struct Session {
   struct Options {
     XServer::Options server{};
+    bool messageBus = false;
     std::vector<std::string> environment{};  // more variables for the program, in the form NAME=value
   };
 
@@ -34,6 +37,7 @@ struct Session {
 
   Home home;  // the program's
   XServer server;
+  std::optional<MessageBus> bus;
   X11Client client;
   Windows windows;
   Hand hand;
