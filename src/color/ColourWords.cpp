@@ -18,9 +18,9 @@ struct Band {
 constexpr Band kGrays[] = {{0.06, "black"}, {0.35, "dark gray"}, {0.65, "gray"}, {0.95, "light gray"}, {2, "white"}};
 
 // Degrees; red lies on both sides of 0.
-constexpr Band kHues[] = {{16, "red"},    {42, "orange"}, {66, "yellow"},  {82, "yellowish green"}, {160, "green"},
-                          {195, "cyan"},  {255, "blue"},  {285, "purple"}, {320, "magenta"},        {345, "pink"},
-                          {361, "red"}};
+constexpr Band kHues[] = {{16, "red"},      {42, "orange"}, {66, "yellow"}, {82, "yellowish green"},
+                          {160, "green"},   {195, "cyan"},  {255, "blue"},  {285, "purple"},
+                          {320, "magenta"}, {345, "pink"},  {361, "red"}};
 
 constexpr Band kLightness[] = {{0.12, "very dark "}, {0.34, "dark "}, {0.66, ""}, {0.86, "light "}, {2, "very light "}};
 
@@ -31,8 +31,8 @@ const char* nameIn(const Band (&bands)[n], Double value) {
 
 }  // namespace
 
-// By hue, lightness and chroma, the mean and the difference of the strongest and the weakest channel: these go with what
-// the eye finds light and colourful better than value and saturation do, for which navy is a full blue.
+// By hue, lightness and chroma, the mean and the difference of the strongest and the weakest channel: these go with
+// what the eye finds light and colourful better than value and saturation do, for which navy is a full blue.
 String colourInWords(Color c) {
   const auto [least, most] = std::minmax({c.red(), c.green(), c.blue()});
   const Double lightness = (least + most) / 510.0;

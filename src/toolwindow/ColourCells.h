@@ -23,8 +23,8 @@ void drawSwatch(Graphics& g, Int32 x, Int32 y, Int32 side, Color c);
 void drawMark(Graphics& g, const ColourCell& cell);
 void eraseMark(Graphics& g, const ColourCell& cell);
 
-// The cell of `cells` that an arrow key leads to from one of them: the neighbour in that direction, or the same one where
-// there is none.
+// The cell of `cells` that an arrow key leads to from one of them: the neighbour in that direction, or the same one
+// where there is none.
 std::size_t cellTowards(const std::vector<ColourCell>& cells, std::size_t from, std::string_view arrow);
 
 // Fills a surface with a grid of framed cells, one for each colour, row by row. Cells step 24 pixels across and 25

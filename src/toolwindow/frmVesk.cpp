@@ -60,8 +60,8 @@ void frmVesk::layOut() {
   for (const Place& at : places)
     at.control.place(at.left, at.top, at.width, at.height);
 
-  for (RectControl* control : std::initializer_list<RectControl*>{&cmdColor, &imgScreen, &DisclosureTriangle1, &slZoom,
-                                                                  &cmdMakeWebSafe})
+  for (RectControl* control :
+       std::initializer_list<RectControl*>{&cmdColor, &imgScreen, &DisclosureTriangle1, &slZoom, &cmdMakeWebSafe})
     control->TabStop = true;
   for (zrColorCHBar& bar : cmdMixer) {
     bar.propColorChannel = bar.Index;

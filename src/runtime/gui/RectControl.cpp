@@ -33,8 +33,8 @@ RectControl::RectControl(Window& owner, String name, QWidget* native, const Rect
   native_->setGeometry(0, 0, 0, 0);
 }
 
-// The widget goes with its window, which outlives its controls. It is silent until then, but not cut off: the toolkit has
-// to hear of its end.
+// The widget goes with its window, which outlives its controls. It is silent until then, but not cut off: the toolkit
+// has to hear of its end.
 RectControl::~RectControl() {
   native_->blockSignals(true);
 }

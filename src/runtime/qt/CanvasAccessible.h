@@ -12,8 +12,8 @@ class CanvasWidget;
 class CellAccessible;
 enum class AccessibleChange;
 
-// A canvas as assistive technologies meet it: passes their questions on to what the canvas says of itself, and what they
-// do to it as the user's gestures.
+// A canvas as assistive technologies meet it: passes their questions on to what the canvas says of itself, and what
+// they do to it as the user's gestures.
 class CanvasAccessible : public QAccessibleWidget, public QAccessibleValueInterface {
  public:
   explicit CanvasAccessible(CanvasWidget& widget);

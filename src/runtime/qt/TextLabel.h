@@ -8,8 +8,9 @@
 namespace tavrelkin {
 
 // A label whose single line stands in the middle of its height. It sets its text narrower where it would be cut off.
-// Its lines have the same pitch in every family of fonts, since other controls stand beside them. Assistive technologies
-// hear of another text when it has come to rest; the toolkit's own label would tell each of those of a followed pointer.
+// Its lines have the same pitch in every family of fonts, since other controls stand beside them. Assistive
+// technologies hear of another text when it has come to rest; the toolkit's own label would tell each of those of a
+// followed pointer.
 class TextLabel : public QWidget {
  public:
   const QString& text() const { return text_; }

@@ -8,7 +8,8 @@
 
 namespace tavrelkin::test {
 
-// The message bus of a session, which starts the services that are asked for, such as the one of assistive technologies.
+// The message bus of a session, which starts the services that are asked for, such as the one of assistive
+// technologies.
 class MessageBus {
  public:
   // Returns when programs can connect to it.
