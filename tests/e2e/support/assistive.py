@@ -7,7 +7,8 @@ The first argument says what to do with the program, whose windows it waits for:
   press NAME          presses what is called so, the last of them where there are several
   set NAME VALUE      sets a slider
   focus NAME          brings the keyboard there
-  listen              says "listening", then tells each change as it is announced: its kind, and a line as those of "tree"
+  listen              says "listening", then tells each change as it is announced: its kind, and a line as those of
+                      "tree"
 """
 import os
 import sys
