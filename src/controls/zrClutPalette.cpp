@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/Access.h"
 #include "controls/ColourDrag.h"
 
 namespace tavrelkin {
@@ -14,7 +15,9 @@ constexpr Double kDragStart = 6.0;
 
 }  // namespace
 
-zrClutPalette::zrClutPalette(Window& owner, String name) : Canvas(owner, std::move(name)) {}
+zrClutPalette::zrClutPalette(Window& owner, String name) : Canvas(owner, std::move(name)) {
+  describe(accessTo(*this));
+}
 
 void zrClutPalette::Event_Open() {
   wBox = 12;
@@ -27,6 +30,7 @@ void zrClutPalette::Event_Open() {
 void zrClutPalette::SetClut(const Ref<zrClut>& clut) {
   TheClut = clut;
   Refresh(true);
+  announce(AccessibleChange::cells);
 }
 
 Int32 zrClutPalette::columns() const {
@@ -82,16 +86,40 @@ bool zrClutPalette::Event_MouseDown(Int32 x, Int32 y) {
 void zrClutPalette::Event_MouseUp(Int32 x, Int32 y) {
   int_LastX = x;
   int_LastY = y;
-  const Int32 index = indexAt(x, y);
+  choose(indexAt(x, y));
+}
+
+void zrClutPalette::choose(Int32 index) {
   LastSelection = Selected;
   DrawBorder(false, Selected);
   if (index < 0 || index >= TheClut->Count) {
     Selected = -1;
+    announce(AccessibleChange::currentCell);
     return;
   }
   Selected = index;
   DrawBorder(true, index);
+  announce(AccessibleChange::currentCell);
   Action(index, TheClut->getColor(index));
+}
+
+bool zrClutPalette::Event_KeyDown(const String& key) {
+  const Int32 index = TheClut && TheClut->Count > 0 ? cellTowards(key) : -1;
+  if (index < 0) return Canvas::Event_KeyDown(key);
+  choose(index);
+  return true;
+}
+
+Int32 zrClutPalette::cellTowards(const String& key) const {
+  const Int32 step = key == kLeftArrow    ? -1
+                     : key == kRightArrow ? 1
+                     : key == kUpArrow    ? -columns()
+                     : key == kDownArrow  ? columns()
+                                          : 0;
+  if (step == 0 && !isPressKey(key)) return -1;
+  if (Selected < 0 || Selected >= TheClut->Count) return 0;
+  const Int32 index = Selected + step;
+  return index >= 0 && index < TheClut->Count ? index : Selected;
 }
 
 // A press doesn't move the selection: the drag carries the colour that was selected before it.
@@ -112,6 +140,7 @@ void zrClutPalette::Event_DropObject(const Ref<DragItem>& item, Int32) {
   if (!TheClut || !ColourDrag::takePrivate(item, c) || Selected < 0) return;
   TheClut->SetColor(c, Selected);
   DrawBorder(true, Selected);
+  announce(AccessibleChange::cells);
   Change(Selected, c);
 }
 

@@ -29,15 +29,24 @@ class zrClutPalette : public Canvas {
   // A drop has changed the selected entry: its index and colour.
   Event<void(Int32, Color)> Change;
 
+  // The top left corner of a cell's frame.
+  struct Place {
+    Int32 x, y;
+  };
+  Place origin(Int32 index) const;
+
   void Event_MouseDrag(Int32 x, Int32 y) override;
   void Event_DropObject(const Ref<DragItem>& item, Int32 action) override;
   void Event_MouseUp(Int32 x, Int32 y) override;
   void Event_Open() override;
   bool Event_MouseDown(Int32 x, Int32 y) override;
+  bool Event_KeyDown(const String& key) override;
   void Event_Paint(tavrelkin::Graphics& g) override;
 
   // Shows a table, or what has changed in the one shown. Raises nothing.
   virtual void SetClut(const Ref<zrClut>& clut);
+  // A click on a cell, by hand, by key or by assistive technology. A number that no cell has ends the selection.
+  void choose(Int32 index);
   // Paints one cell with the mark or without. Does nothing for a negative index.
   virtual void DrawBorder(bool highlighted, Int32 index);
 
@@ -49,15 +58,12 @@ class zrClutPalette : public Canvas {
   Int32 int_LastY = 0;
 
  private:
-  struct Place {
-    Int32 x, y;
-  };
-
   Int32 pitch() const { return wBox < 0 ? 1 : wBox + 1; }
+  // The cell that a key leads to from the selected one, or -1 for a key that leads nowhere. With nothing selected every
+  // key leads to the first cell; at the edge it stays.
+  Int32 cellTowards(const String& key) const;
   // Whole cells side by side; 1 where there is room for none, so that places can be divided by it.
   Int32 columns() const;
-  // The top left corner of a cell's frame.
-  Place origin(Int32 index) const;
   // The index that a position stands for by arithmetic alone, whether there is such a cell or not. The pixels right of
   // the last column belong to the first cell of the next row.
   Int32 indexAt(Int32 x, Int32 y) const;

@@ -3,12 +3,15 @@
 #include <utility>
 
 #include "color/zrColorLib.h"
+#include "controls/Access.h"
 #include "controls/ColourDrag.h"
 #include "runtime/system/Keyboard.h"
 
 namespace tavrelkin {
 
-zrColorBox::zrColorBox(Window& owner, String name) : Canvas(owner, std::move(name)) {}
+zrColorBox::zrColorBox(Window& owner, String name) : Canvas(owner, std::move(name)) {
+  describe(accessTo(*this));
+}
 
 void zrColorBox::Event_Open() {
   ColourDrag::accept(*this);
@@ -18,6 +21,7 @@ void zrColorBox::SetValue(Color c) {
   Value = c;
   DrawBox();
   HelpTag = "Color: " + Str(c.red()) + "." + Str(c.green()) + "." + Str(c.blue()) + ", #" + getHexStr(c);
+  announce(AccessibleChange::description);
 }
 
 void zrColorBox::DrawBox() {
@@ -48,6 +52,12 @@ void zrColorBox::Event_MouseDrag(Int32 x, Int32 y) {
 void zrColorBox::Event_MouseUp(Int32 x, Int32 y) {
   if (std::exchange(IsDrag, false)) return;
   if (0 < x && x < Width && 0 < y && y < Height) Action();
+}
+
+bool zrColorBox::Event_KeyDown(const String& key) {
+  if (!isPressKey(key)) return Canvas::Event_KeyDown(key);
+  press();
+  return true;
 }
 
 void zrColorBox::Event_DropObject(const Ref<DragItem>& item, Int32) {

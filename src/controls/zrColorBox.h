@@ -25,11 +25,15 @@ class zrColorBox : public Canvas {
   // A drop has changed Value.
   Event<void()> ColorChanged;
 
+  // A click by key, or by assistive technology.
+  void press() { Action(); }
+
   void Event_DropObject(const Ref<DragItem>& item, Int32 action) override;
   void Event_Open() override;
   void Event_MouseDrag(Int32 x, Int32 y) override;
   void Event_MouseUp(Int32 x, Int32 y) override;
   bool Event_MouseDown(Int32 x, Int32 y) override;
+  bool Event_KeyDown(const String& key) override;
   void Event_Paint(tavrelkin::Graphics& g) override;
 
   // Shows a colour and tells it in the help tag. Raises nothing.

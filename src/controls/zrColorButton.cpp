@@ -4,13 +4,16 @@
 
 #include <utility>
 
+#include "controls/Access.h"
 #include "controls/ColourDrag.h"
 #include "runtime/gui/SelectColor.h"
 #include "runtime/system/Keyboard.h"
 
 namespace tavrelkin {
 
-zrColorButton::zrColorButton(Window& owner, String name) : Canvas(owner, std::move(name)) {}
+zrColorButton::zrColorButton(Window& owner, String name) : Canvas(owner, std::move(name)) {
+  describe(accessTo(*this));
+}
 
 void zrColorButton::Event_Open() {
   propFrameColor = Color{0x909090};
@@ -24,6 +27,7 @@ void zrColorButton::Event_Open() {
 void zrColorButton::SetValue(Color c) {
   Value = c;
   drawColor(Graphics());
+  announce(AccessibleChange::description);
 }
 
 void zrColorButton::setColorFormat(Int32 format) {
@@ -59,6 +63,16 @@ void zrColorButton::Event_MouseDrag(Int32 x, Int32 y) {
 void zrColorButton::Event_MouseUp(Int32 x, Int32 y) {
   if (std::exchange(IsDrag, false)) return;
   if (x < 2 || x > toInt32(swatchWidth(Width) + 2.0) || y < 2 || y > Height - 4) return;
+  press();
+}
+
+bool zrColorButton::Event_KeyDown(const String& key) {
+  if (!isPressKey(key)) return Canvas::Event_KeyDown(key);
+  press();
+  return true;
+}
+
+void zrColorButton::press() {
   if (BeforeSelectColor()) {
     Action();
   } else {

@@ -43,11 +43,15 @@ class zrColorButton : public Canvas {
   // A drop has changed Value.
   Event<void()> Change;
 
+  // A click on the swatch, by hand, by key or by assistive technology.
+  void press();
+
   void Event_DropObject(const Ref<DragItem>& item, Int32 action) override;
   void Event_MouseEnter() override;
   void Event_MouseExit() override;
   void Event_MouseUp(Int32 x, Int32 y) override;
   bool Event_MouseDown(Int32 x, Int32 y) override;
+  bool Event_KeyDown(const String& key) override;
   void Event_Open() override;
   void Event_Paint(tavrelkin::Graphics& g) override;
   void Event_MouseDrag(Int32 x, Int32 y) override;

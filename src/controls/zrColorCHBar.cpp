@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "controls/Access.h"
 #include "controls/BarPosition.h"
 #include "controls/ColorChannel.h"
 #include "controls/ColourDrag.h"
@@ -19,6 +20,7 @@ constexpr Int32 kWebSafeStep = 51;
 
 zrColorCHBar::zrColorCHBar(Window& owner, String name, Int32 index) : Canvas(owner, std::move(name)) {
   Index = index;
+  describe(accessTo(*this));
 }
 
 void zrColorCHBar::Event_Open() {
@@ -41,6 +43,7 @@ void zrColorCHBar::SetValue(Int32 v) {
   Value = v;
   intSetTooltip();
   Update();
+  announce(AccessibleChange::value);
 }
 
 void zrColorCHBar::CopyChannel(Color c) {
@@ -81,6 +84,7 @@ void zrColorCHBar::DoMouseDrag(Int32 x, Int32 y) {
     DrawValue();
     DrawArrow(at);
     intSetTooltip();
+    announce(AccessibleChange::value);
     ValueChanging();
   }
   Lastx = at;
@@ -93,18 +97,21 @@ void zrColorCHBar::Event_MouseUp(Int32, Int32) {
 }
 
 bool zrColorCHBar::Event_KeyDown(const String& key) {
-  if (key == kRightArrow) {
-    if (Value < Maximum) ++Value;
-  } else if (key == kLeftArrow) {
-    if (Value >= 1) --Value;
-  }
+  const bool isUp = key == kRightArrow && Value < Maximum;
+  const bool isDown = key == kLeftArrow && Value >= 1;
+  chooseValue(isUp ? Value + 1 : isDown ? Value - 1 : Value);
+  return false;
+}
+
+void zrColorCHBar::chooseValue(Int32 v) {
+  Value = v;
   const Int32 position = BarPosition::ofKeyedValue(Value, Maximum, Width);
   intSetTooltip();
   intRecreateColor();
   Lastx = position;
   Update();
+  announce(AccessibleChange::value);
   Change();
-  return false;
 }
 
 void zrColorCHBar::Event_DropObject(const Ref<DragItem>& item, Int32) {

@@ -59,6 +59,8 @@ class zrColorCHBar : public Canvas {
   virtual void intSetTooltip();
   // Puts the value into propBaseColor.
   virtual void intRecreateColor();
+  // Moves the indicator to a value, from Minimum to Maximum, as the user's keys do; raises Change.
+  void chooseValue(Int32 v);
   // Takes only this bar's channel from a colour into propBaseColor, and raises Action.
   virtual void CopyChannel(Color c);
 };

@@ -16,6 +16,9 @@ frmFav::frmFav() : Window({.title = "Favorities", .width = 431, .height = 161}) 
   lblColor.TextFont = "Helvetica";
   lblColor.TextSize = 10;
   lblColor.Text = "- -";
+  imgClut.TabStop = true;
+  imgClut.AccessibleName = "Palette";
+  cRect.AccessibleName = "Selected color";
   imgClut.Action = [this](Int32 index, Color c) { imgClut_Action(index, c); };
   MenuBar = MenuBar1::Instance();
 }

@@ -27,6 +27,7 @@ frmColorBlind::frmColorBlind()
   styleTexts();
   dress();
   wire();
+  nameControls();
   MenuBar = MenuBar1::Instance();
 }
 
@@ -93,9 +94,18 @@ void frmColorBlind::dress() {
   cmbGamma.TabStop = true;
   txtGamma.Text = "1.8";
   cmdColor[0].AcceptFocus = true;
-  cmdColor[0].TabStop = true;
+  for (zrColorBox& box : cmdColor)
+    box.TabStop = true;
   cmdUpdate.Caption = "Update";
   cmdUpdate.TabStop = true;
+}
+
+void frmColorBlind::nameControls() {
+  txtGamma.AccessibleName = "Gamma";
+  cmdColor[0].AccessibleName = "Normal color";
+  cmdColor[1].AccessibleName = "Protanopia";
+  cmdColor[2].AccessibleName = "Deutanopia";
+  cmdColor[3].AccessibleName = "Tritanopia";
 }
 
 void frmColorBlind::wire() {

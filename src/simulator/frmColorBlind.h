@@ -71,6 +71,8 @@ class frmColorBlind : public Window {
   void styleTexts();
   void dress();
   void wire();
+  // What the controls are called where they don't show it.
+  void nameControls();
 
   // The gamma that the field asks for, or nothing, after the user was told.
   std::optional<Double> chosenGamma();

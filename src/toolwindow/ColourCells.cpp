@@ -1,17 +1,28 @@
 #include "toolwindow/ColourCells.h"
 
+#include <cstdlib>
+
+#include "runtime/gui/Canvas.h"
+
 namespace tavrelkin {
 
 namespace {
 
 constexpr Color kGround{0xA0A0A0};
 constexpr Color kSwatchFrame{0x909090};
+constexpr Color kMark{0x308CC6};
 constexpr Int32 kLeft = 13;
 constexpr Int32 kTop = 10;
 constexpr Int32 kCell = 20;
 constexpr Int32 kRightMargin = 10;
 constexpr Int32 kStepAcross = 24;
 constexpr Int32 kStepDown = 25;
+
+void drawAround(Graphics& g, const ColourCell& cell, Color c) {
+  g.ForeColor = c;
+  for (const Int32 away : {1, 2})
+    g.DrawRect(cell.x - away, cell.y - away, cell.side + 2 * away, cell.side + 2 * away);
+}
 
 }  // namespace
 
@@ -24,9 +35,32 @@ void drawSwatch(Graphics& g, Int32 x, Int32 y, Int32 side, Color c) {
   g.FillRect(x + 2, y + 2, side - 4, side - 4);
 }
 
-void drawCells(Graphics& g, const std::vector<Color>& colours) {
+void drawMark(Graphics& g, const ColourCell& cell) {
+  drawAround(g, cell, kMark);
+}
+
+// What lies between cells has one colour everywhere.
+void eraseMark(Graphics& g, const ColourCell& cell) {
+  drawAround(g, cell, g.Pixel(cell.x - 3, cell.y - 3));
+}
+
+std::size_t cellTowards(const std::vector<ColourCell>& cells, std::size_t from, std::string_view arrow) {
+  if (arrow == kLeftArrow) return from > 0 ? from - 1 : from;
+  if (arrow == kRightArrow) return from + 1 < cells.size() ? from + 1 : from;
+  std::size_t result = from;
+  for (std::size_t i = 0; i < cells.size(); ++i) {
+    const bool isBeyond = arrow == kUpArrow ? cells[i].y < cells[from].y : cells[i].y > cells[from].y;
+    if (cells[i].x != cells[from].x || !isBeyond) continue;
+    const auto away = [&](std::size_t other) { return std::abs(cells[other].y - cells[from].y); };
+    if (result == from || away(i) < away(result)) result = i;
+  }
+  return result;
+}
+
+std::vector<ColourCell> drawCells(Graphics& g, const std::vector<Color>& colours) {
   g.ForeColor = kGround;
   g.FillRect(0, 0, g.Width(), g.Height());
+  std::vector<ColourCell> cells;
   Int32 x = kLeft;
   Int32 y = kTop;
   for (const Color c : colours) {
@@ -35,10 +69,12 @@ void drawCells(Graphics& g, const std::vector<Color>& colours) {
       y += kStepDown;
     }
     drawSwatch(g, x, y, kCell, c);
+    cells.push_back({c, x, y, kCell, {}});
     x += kStepAcross;
   }
   g.ForeColor = kWhite;
   g.DrawRect(0, 0, g.Width(), g.Height());
+  return cells;
 }
 
 }  // namespace tavrelkin

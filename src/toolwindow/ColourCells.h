@@ -1,16 +1,34 @@
 #pragma once
 
+#include <cstddef>
+#include <string_view>
 #include <vector>
 
 #include "runtime/drawing/Graphics.h"
+#include "runtime/text/Text.h"
 
 namespace tavrelkin {
+
+// A square of one colour that a view shows, frames included; `label` is what it shows beside its colour, if anything.
+struct ColourCell {
+  Color colour;
+  Int32 x = 0, y = 0, side = 0;
+  String label;
+};
 
 // A square of one colour in a grey and a white frame; `side` is its size in pixels, frames included.
 void drawSwatch(Graphics& g, Int32 x, Int32 y, Int32 side, Color c);
 
+// Puts the keyboard's mark around a cell, on the two pixels beside its frame, or takes it away again.
+void drawMark(Graphics& g, const ColourCell& cell);
+void eraseMark(Graphics& g, const ColourCell& cell);
+
+// The cell of `cells` that an arrow key leads to from one of them: the neighbour in that direction, or the same one
+// where there is none.
+std::size_t cellTowards(const std::vector<ColourCell>& cells, std::size_t from, std::string_view arrow);
+
 // Fills a surface with a grid of framed cells, one for each colour, row by row. Cells step 24 pixels across and 25
-// down, and a row ends where the next cell would come near the right edge.
-void drawCells(Graphics& g, const std::vector<Color>& colours);
+// down, and a row ends where the next cell would come near the right edge. Gives the cells.
+std::vector<ColourCell> drawCells(Graphics& g, const std::vector<Color>& colours);
 
 }  // namespace tavrelkin

@@ -1,5 +1,7 @@
 #include "toolwindow/frmVesk.h"
 
+#include <initializer_list>
+
 #include "app/menubar/MenuBar1.h"
 #include "runtime/gui/Application.h"
 #include "tables/zrPixMap.h"
@@ -20,6 +22,7 @@ frmVesk::frmVesk() : Window({.title = "Vesk", .width = 448, .height = kUnfoldedH
   layOut();
   styleTexts();
   wire();
+  nameControls();
   MenuBar = MenuBar1::Instance();
 }
 
@@ -57,8 +60,9 @@ void frmVesk::layOut() {
   for (const Place& at : places)
     at.control.place(at.left, at.top, at.width, at.height);
 
-  slZoom.TabStop = true;
-  DisclosureTriangle1.TabStop = true;
+  for (RectControl* control :
+       std::initializer_list<RectControl*>{&cmdColor, &imgScreen, &DisclosureTriangle1, &slZoom, &cmdMakeWebSafe})
+    control->TabStop = true;
   for (zrColorCHBar& bar : cmdMixer) {
     bar.propColorChannel = bar.Index;
     bar.TabStop = true;
@@ -149,6 +153,7 @@ void frmVesk::Event_Close() {
 }
 
 void frmVesk::DisclosureTriangle1_Action() {
+  DisclosureTriangle1.AccessibleName = DisclosureTriangle1.Value ? "Hide controls" : "Show controls";
   Height = DisclosureTriangle1.Value ? kUnfoldedHeight : kFoldedHeight;
 }
 

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
+#include <vector>
 
 #include "controls/zrColorBox.h"
 #include "controls/zrColorButton.h"
@@ -14,6 +16,7 @@
 #include "runtime/gui/Slider.h"
 #include "runtime/gui/StaticText.h"
 #include "runtime/gui/Window.h"
+#include "toolwindow/ColourCells.h"
 
 namespace tavrelkin {
 
@@ -127,9 +130,13 @@ class frmVesk : public Window {
   Timer rTIP_Timer{*this, "rTIP_Timer"};
 
  private:
+  class PreviewAccess;
+
   void layOut();
   void styleTexts();
   void wire();
+  // What the controls are called where they don't show it.
+  void nameControls();
 
   // The item of that name in the window's menu bar.
   MenuItem& menuItem(const char* name) const;
@@ -137,6 +144,20 @@ class frmVesk : public Window {
   void showChosenView();
   // Ends the two views that a look at the screen replaces.
   void leaveColourViews();
+  // The end of a choice in the preview.
+  void take(Color c);
+
+  // What the preview has come to show: cells, which keyboard and assistive technologies can choose, or the screen.
+  void showsCells(const char* view, std::vector<ColourCell> cells);
+  void showsScreen();
+  // Arrow keys go from cell to cell, and the keys of a button choose the one that they have come to, or the pixel under
+  // the pointer.
+  bool imgScreen_KeyDown(const String& key);
+  void markCell(std::size_t index);
+
+  String shownView_;
+  std::vector<ColourCell> shownCells_;
+  Int32 markedCell_ = -1;
 };
 
 }  // namespace tavrelkin

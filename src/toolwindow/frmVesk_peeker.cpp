@@ -56,6 +56,7 @@ void frmVesk::drawSys(Int32 x, Int32 y) {
   g.DrawRect(grid.markerX(), grid.markerY(), grid.cell + 1, grid.cell + 1);
   g.ForeColor = kWhite;
   g.DrawRect(0, 0, grid.width(), grid.height());
+  showsScreen();
 }
 
 void frmVesk::drawScreen(Graphics* g) {
@@ -72,6 +73,7 @@ void frmVesk::drawScreen(Graphics* g) {
   g->DrawRect(grid.markerX(), grid.markerY(), grid.cell, grid.cell);
   g->ForeColor = kWhite;
   g->DrawRect(0, 0, g->Width(), g->Height());
+  showsScreen();
 }
 
 void frmVesk::drawGrid() {
@@ -114,9 +116,7 @@ void frmVesk::imgScreen_MouseDrag(Int32 x, Int32 y) {
 }
 
 void frmVesk::imgScreen_MouseUp(Int32, Int32) {
-  const Color c = System::Pixel(System::MouseX(), System::MouseY());
-  leaveColourViews();
-  setColor(c, false);
+  take(System::Pixel(System::MouseX(), System::MouseY()));
 }
 
 void frmVesk::imgScreen_MouseMove(Int32, Int32) {

@@ -1,5 +1,8 @@
 // What the preview shows: the screen, or one of three views in its place.
 
+#include <array>
+#include <utility>
+
 #include "color/zrXYZ.h"
 #include "favourites/frmFav.h"
 #include "toolwindow/ColourCells.h"
@@ -55,11 +58,11 @@ void frmVesk::leaveColourViews() {
 }
 
 void frmVesk::drawSuggestions(Graphics* g) {
-  if (g) drawCells(*g, suggestionsFor(SelectedColor));
+  if (g) showsCells("Suggestions", drawCells(*g, suggestionsFor(SelectedColor)));
 }
 
 void frmVesk::drawColorsInScreen(Graphics* g) {
-  if (g) drawCells(*g, distinctColours(*zoomImage, 112));
+  if (g) showsCells("Colors in preview", drawCells(*g, distinctColours(*zoomImage, 112)));
 }
 
 // The window is up before its colours arrive.
@@ -75,17 +78,28 @@ void frmVesk::saveColorsInScreen() {
 // A row for each gamma, a column for each deficiency.
 void frmVesk::drawColorBlind(Graphics* g) {
   if (!g) return;
+  struct Gamma {
+    Double value;
+    const char* text;
+  };
   constexpr Int32 side = 40;
+  constexpr std::array names{"Protanopia", "Deutanopia", "Tritanopia"};
+  std::vector<ColourCell> cells;
   const Color c = SelectedColor;
   zrXYZ colour(c);
   Int32 y = 12;
-  for (const Double gamma : {1.7, 1.8, 2.2}) {
+  for (const auto& [gamma, text] : {Gamma{1.7, "1.7"}, {1.8, "1.8"}, {2.2, "2.2"}}) {
     colour.gamma = gamma;
     colour.XYZFromRGB(c);
-    for (Int32 index = 0; index < 3; ++index)
-      drawSwatch(*g, 100 + index * 48, y, side, colour.getDichromatTranformation(index, c));
+    for (Int32 index = 0; index < 3; ++index) {
+      const Color seen = colour.getDichromatTranformation(index, c);
+      const Int32 x = 100 + index * 48;
+      drawSwatch(*g, x, y, side, seen);
+      cells.push_back({seen, x, y, side, names.at(static_cast<std::size_t>(index)) + String(", gamma ") + text});
+    }
     y += 44;
   }
+  showsCells("Color blind simulation", std::move(cells));
 }
 
 }  // namespace tavrelkin

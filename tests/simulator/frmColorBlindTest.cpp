@@ -138,11 +138,14 @@ TEST_F(frmColorBlindTest, TheNormalBoxHasTheKeyboardWheneverTheWindowComesToTheF
 }
 
 TEST_F(frmColorBlindTest, TheTabulatorKeyVisitsWhatTakesKeys) {
-  const RectControl* const order[] = {&window->cmbGamma, &window->txtGamma, &window->cmdColor[0], &window->cmdUpdate};
+  auto& box = window->cmdColor;
+  const std::array<const RectControl*, 7> order{&window->cmbGamma, &window->txtGamma, &box[0],           &box[1],
+                                                &box[2],           &box[3],           &window->cmdUpdate};
   window->cmbGamma.SetFocus();
-  for (std::size_t i = 0; i < 8; ++i) {
-    ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(*order[i % 4]); })) << i;
-    gesture::key(*order[i % 4], kKeyTab);
+  for (std::size_t i = 0; i < 2 * order.size(); ++i) {
+    const RectControl& control = *order.at(i % order.size());
+    ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(control); })) << i;
+    gesture::key(control, kKeyTab);
   }
   for (std::size_t result = 1; result < 4; ++result) {
     show(result);

@@ -31,24 +31,23 @@ TEST_F(CoreTest, OpensFoldedAndIdleAtTheStartColour) {
   EXPECT_EQ(firstFault(*window, {1, [](Int32, Int32) { return kWhite; }, kBlack, 4}), "");
 }
 
-TEST_F(CoreTest, TheTabulatorVisitsTheBarsInAnOrderOfTheirOwn) {
+TEST_F(CoreTest, TheTabulatorVisitsWhatTakesKeysAndIsInSight) {
   constexpr int kTab = 0x01000001;
   auto& bar = window->cmdMixer;
-  const RectControl* const order[] = {
-      &window->DisclosureTriangle1, &window->slZoom, &bar[4], &bar[5], &bar[2], &bar[1], &bar[0], &bar[3],
-      &window->DisclosureTriangle1};
-  const RectControl* at = order[0];
+  const auto visits = [this](const std::vector<const RectControl*>& order) {
+    window->cmdColor.SetFocus();
+    ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(window->cmdColor); }));
+    for (const RectControl* next : order) {
+      EXPECT_TRUE(gesture::hasKeyboard(*next)) << next->Name() << " " << next->Index;
+      gesture::key(*next, kTab);
+    }
+    EXPECT_TRUE(gesture::hasKeyboard(window->cmdColor)) << "from the last to the first";
+  };
   window->Height = 400;
-  window->DisclosureTriangle1.SetFocus();
-  ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(*at); }));
-  for (const RectControl* next : order) {
-    EXPECT_TRUE(gesture::hasKeyboard(*next)) << next->Name() << " " << next->Index;
-    gesture::key(*next, kTab);
-  }
+  visits({&window->cmdColor, &window->imgScreen, &window->DisclosureTriangle1, &window->slZoom, &bar[4], &bar[5],
+          &bar[2], &bar[1], &bar[0], &bar[3], &window->cmdMakeWebSafe});
   window->Height = 262;
-  window->DisclosureTriangle1.SetFocus();
-  gesture::key(window->DisclosureTriangle1, kTab);
-  EXPECT_TRUE(gesture::hasKeyboard(window->DisclosureTriangle1)) << "nothing else is in sight";
+  visits({&window->cmdColor, &window->imgScreen, &window->DisclosureTriangle1, &window->cmdMakeWebSafe});
 }
 
 TEST_F(CoreTest, TheWebSafePairShowsForAnyOtherColour) {

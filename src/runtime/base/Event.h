@@ -22,6 +22,9 @@ class Event<R(Args...)> {
     return *this;
   }
 
+  // Whether there is a handler.
+  explicit operator bool() const { return static_cast<bool>(handler_); }
+
   R operator()(Args... args) const {
     if (!handler_) return R();
     return handler_(args...);

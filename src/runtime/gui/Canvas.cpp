@@ -7,6 +7,7 @@
 #include "runtime/concurrency/Scheduler.h"
 #include "runtime/drawing/Picture.h"
 #include "runtime/gui/Window.h"
+#include "runtime/qt/CanvasAccessible.h"
 #include "runtime/qt/CanvasWidget.h"
 #include "runtime/qt/Delivery.h"
 
@@ -59,6 +60,10 @@ void Canvas::enabledChanged() {
   applyFocusPolicy();
   if (!Enabled) native().clearFocus();
   if (shown_) Refresh(false);
+}
+
+void Canvas::announce(AccessibleChange change) {
+  CanvasAccessible::announce(widget(), change);
 }
 
 void Canvas::drawn() {

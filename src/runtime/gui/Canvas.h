@@ -1,11 +1,13 @@
 #pragma once
 
+#include <memory>
 #include <string_view>
 #include <vector>
 
 #include "runtime/base/Event.h"
 #include "runtime/drawing/DrawnText.h"
 #include "runtime/drawing/Graphics.h"
+#include "runtime/gui/Accessible.h"
 #include "runtime/gui/RectControl.h"
 
 namespace tavrelkin {
@@ -17,6 +19,11 @@ constexpr std::string_view kLeftArrow = "\x1C";
 constexpr std::string_view kRightArrow = "\x1D";
 constexpr std::string_view kUpArrow = "\x1E";
 constexpr std::string_view kDownArrow = "\x1F";
+
+// Whether a key presses a button: the space bar, Return and Enter do.
+constexpr bool isPressKey(std::string_view key) {
+  return key == " " || key == "\r";
+}
 
 // A control that the program draws by itself. Its surface keeps what is drawn on it, in a paint event or at any other
 // time, until the next paint event, ahead of which it is erased to the window's BackColor. That event comes when the
@@ -38,6 +45,12 @@ class Canvas : public RectControl, private DrawingObserver {
   // Erases the surface down to the backdrop and raises Paint at once; `now` also has it on the screen before this
   // returns.
   void Refresh(bool now) override;
+
+  // How the canvas presents itself to assistive technologies. A picture without cells at first.
+  void describe(std::unique_ptr<Accessible> as) { accessible_ = std::move(as); }
+  Accessible* accessible() const { return accessible_.get(); }
+  // Tells them of a change, if there are any.
+  void announce(AccessibleChange change);
 
   // The events, for the host. Coordinates count from the canvas's top left corner and may lie outside of it during a
   // drag. Only a MouseDown that returns true grants the MouseDrag and the MouseUp of that press; MouseMove comes while
@@ -84,6 +97,7 @@ class Canvas : public RectControl, private DrawingObserver {
   // Those that may still be whole; no two of them meet.
   std::vector<DrawnText> texts_;
   tavrelkin::Graphics graphics_;
+  std::unique_ptr<Accessible> accessible_;
   bool shown_ = false;
 };
 

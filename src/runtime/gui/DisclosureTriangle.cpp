@@ -5,6 +5,7 @@
 #include <QToolButton>
 
 #include "runtime/qt/Delivery.h"
+#include "runtime/qt/ReturnKey.h"
 
 namespace tavrelkin {
 
@@ -14,6 +15,7 @@ QToolButton* makeButton() {
   auto* button = new QToolButton;
   button->setAutoRaise(true);
   button->setArrowType(Qt::RightArrow);
+  pressByReturn(*button);
   return button;
 }
 

@@ -7,6 +7,7 @@
 namespace tavrelkin {
 
 // The little arrow that unfolds a part of a window: it points to the right, and down while Value is true.
+// While it has the keyboard, the space bar and the Return key turn it.
 class DisclosureTriangle : public RectControl {
  public:
   DisclosureTriangle(Window& owner, String name);

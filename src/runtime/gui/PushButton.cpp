@@ -7,6 +7,7 @@
 #include "runtime/qt/Convert.h"
 #include "runtime/qt/Delivery.h"
 #include "runtime/qt/Fonts.h"
+#include "runtime/qt/ReturnKey.h"
 
 namespace tavrelkin {
 
@@ -16,6 +17,7 @@ PushButton::PushButton(Window& owner, String name)
   auto* button = static_cast<QPushButton*>(&native());
   button->setFont(fontFor("System", 12, false));
   button->setAutoDefault(false);
+  pressByReturn(*button);
   QObject::connect(button, &QPushButton::clicked, [this] { deliver(ownerWindow(), [this] { Action(); }); });
 }
 

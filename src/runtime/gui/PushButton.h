@@ -6,6 +6,7 @@
 
 namespace tavrelkin {
 
+// A button with a caption. While it has the keyboard, the space bar and the Return key press it.
 class PushButton : public RectControl {
  public:
   PushButton(Window& owner, String name);

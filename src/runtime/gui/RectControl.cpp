@@ -22,6 +22,7 @@ RectControl::RectControl(Window& owner, String name, QWidget* native, const Rect
       Visible(true, [this](bool on) { native_->setVisible(on); }),
       Enabled(true, [this](bool) { enabledChanged(); }),
       HelpTag({}, [this](const String&) { applyHelpTag(); }),
+      AccessibleName({}, [this](const String& text) { native_->setAccessibleName(toQt(text)); }),
       AcceptFocus(false, [this](bool) { applyFocusPolicy(); }),
       TabStop(false, [this](bool) { applyFocusPolicy(); }),
       native_(native),
@@ -32,9 +33,10 @@ RectControl::RectControl(Window& owner, String name, QWidget* native, const Rect
   native_->setGeometry(0, 0, 0, 0);
 }
 
-// The widget goes with its window, which outlives its controls.
+// The widget goes with its window, which outlives its controls. It is silent until then, but not cut off: the toolkit
+// has to hear of its end.
 RectControl::~RectControl() {
-  QObject::disconnect(native_, nullptr, nullptr, nullptr);
+  native_->blockSignals(true);
 }
 
 void RectControl::place(Int32 left, Int32 top, Int32 width, Int32 height) {

@@ -26,6 +26,9 @@ class RectControl : public Control {
   // The text that shows when the pointer rests on the control. "\r" begins a new line.
   Property<String> HelpTag;
 
+  // What the control is called by assistive technologies, where its own text doesn't say it.
+  Property<String> AccessibleName;
+
   // Whether a press or the tabulator key may bring the keyboard here. SetFocus does in any case.
   Property<bool> AcceptFocus;
   Property<bool> TabStop;

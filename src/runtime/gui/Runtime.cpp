@@ -14,6 +14,7 @@
 #include "runtime/concurrency/Scheduler.h"
 #include "runtime/desktop/Desktop.h"
 #include "runtime/desktop/native/NativeDesktop.h"
+#include "runtime/qt/Accessibility.h"
 #include "runtime/qt/Delivery.h"
 
 namespace tavrelkin {
@@ -69,6 +70,7 @@ void applyLook(QApplication& toolkit) {
   toolkit.setApplicationDisplayName({});
   toolkit.setDesktopFileName(QStringLiteral("tavrelkin"));
   toolkit.setQuitOnLastWindowClosed(false);
+  installAccessibility();
 }
 
 // A write beyond a limit on the size of files would end the program; so it fails, and the user is told.

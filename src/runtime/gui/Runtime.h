@@ -28,7 +28,8 @@ class Runtime {
   std::unique_ptr<QApplication> toolkit_;
 };
 
-// The look of the program, the same on every desktop: for a toolkit that has just been made.
+// The look of the program, the same on every desktop, and what it tells assistive technologies: for a toolkit that has
+// just been made.
 void applyLook(QApplication& toolkit);
 
 // Ends all threads, and forgets a fault that was told. For the end of the runtime.

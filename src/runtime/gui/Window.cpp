@@ -69,6 +69,8 @@ QWidget& Window::content() const {
 void Window::setTabOrder(std::initializer_list<const RectControl*> controls) {
   const RectControl* last = nullptr;
   for (const RectControl* next : controls) {
+    // The toolkit ignores an order that names a control without the keyboard.
+    if (next->native().focusPolicy() == Qt::NoFocus) continue;
     if (last) QWidget::setTabOrder(&last->native(), &next->native());
     last = next;
   }

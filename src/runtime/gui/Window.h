@@ -82,7 +82,8 @@ class Window : public Object {
     handlers_.add(itemName, std::move(handler));
   }
 
-  // The order in which the tabulator key visits the controls.
+  // The order in which the tabulator key visits the controls. Those that it doesn't visit when this is called are left
+  // out.
   void setTabOrder(std::initializer_list<const RectControl*> controls);
 
  private:

@@ -17,6 +17,9 @@ class CanvasWidget : public QWidget {
   // The canvas goes; what still comes from the toolkit is ignored.
   void detach() { canvas_ = nullptr; }
 
+  // The canvas, or null when it is gone.
+  Canvas* canvas() const { return canvas_; }
+
   // Has the surface on the screen when the event loop comes round to it, or at once. What looks the same as before
   // costs no painting.
   void showSoon();

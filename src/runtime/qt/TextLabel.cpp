@@ -2,19 +2,24 @@
 
 #include <algorithm>
 
+#include <QAccessible>
 #include <QFontMetrics>
 #include <QPainter>
 
+#include "runtime/qt/RestingAnnouncement.h"
+
 namespace tavrelkin {
 
-TextLabel::TextLabel() {
-  setTextFormat(Qt::PlainText);
-}
-
 void TextLabel::setLines(const QString& lines) {
-  if (lines == text()) return;
-  setText(lines);
+  if (lines == text_) return;
+  text_ = lines;
   fit();
+  update();
+  if (!QAccessible::isActive()) return;
+  announceAtRest(*this, [this] {
+    QAccessibleEvent event(this, QAccessible::NameChanged);
+    QAccessible::updateAccessibility(&event);
+  });
 }
 
 void TextLabel::setBaseFont(const QFont& font) {
@@ -29,16 +34,16 @@ void TextLabel::setTextColor(const QColor& c) {
 }
 
 void TextLabel::align(TextAlignment where) {
-  const Qt::Alignment across = where == TextAlignment::left      ? Qt::AlignLeft
-                               : where == TextAlignment::centred ? Qt::AlignHCenter
-                                                                 : Qt::AlignRight;
-  setAlignment(across | Qt::AlignTop);
+  across_ = where == TextAlignment::left      ? Qt::AlignLeft
+            : where == TextAlignment::centred ? Qt::AlignHCenter
+                                              : Qt::AlignRight;
+  update();
 }
 
 void TextLabel::fit() {
   constexpr int narrowest = 66;
   QFont fitted = base_;
-  const auto wanted = [&] { return QFontMetrics(fitted).size(0, text()).width(); };
+  const auto wanted = [&] { return QFontMetrics(fitted).size(0, text_).width(); };
   // Each character's width is rounded, so that the first stretch may not be narrow enough.
   int stretch = 100;
   for (int needs = wanted(); needs > width() && width() > 0 && stretch > narrowest; needs = wanted()) {
@@ -51,13 +56,12 @@ void TextLabel::fit() {
 void TextLabel::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setPen(palette().color(isEnabled() ? QPalette::Normal : QPalette::Disabled, QPalette::WindowText));
-  const QStringList lines = text().split(QLatin1Char('\n'));
-  const Qt::Alignment across = alignment() & Qt::AlignHorizontal_Mask;
+  const QStringList lines = text_.split(QLatin1Char('\n'));
   const int pitch = lines.size() == 1 ? height() : qRound(1.2 * base_.pixelSize());
   int top = 0;
   for (const QString& line : lines) {
     const QRect place(0, top, width(), pitch);
-    painter.drawText(place, static_cast<int>(across) | Qt::AlignVCenter | Qt::TextDontClip, line);
+    painter.drawText(place, static_cast<int>(across_) | Qt::AlignVCenter | Qt::TextDontClip, line);
     top += pitch;
   }
 }

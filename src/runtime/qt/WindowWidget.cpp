@@ -4,6 +4,7 @@
 #include <utility>
 
 #include <QCloseEvent>
+#include <QKeyEvent>
 #include <QMenuBar>
 #include <QMetaObject>
 #include <QScreen>
@@ -73,14 +74,15 @@ void WindowWidget::showInFront() {
   activateWindow();
 }
 
-// A control outside of the window's content, such as one below the fold, is passed over.
+// A control outside of the window's content, such as one below the fold, is passed over. The toolkit's own way leads
+// through it, and assistive technologies would tell of each that the keyboard comes by.
 bool WindowWidget::focusNextPrevChild(bool next) {
-  const QWidget* first = nullptr;
-  while (QWidget::focusNextPrevChild(next)) {
-    const QWidget* focus = focusWidget();
-    const QRect place(focus->mapTo(this, QPoint()), focus->size());
-    if (rect().intersects(place) || focus == first) return true;
-    if (!first) first = focus;
+  QWidget* const from = focusWidget() ? focusWidget() : this;
+  const auto step = [next](const QWidget* at) { return next ? at->nextInFocusChain() : at->previousInFocusChain(); };
+  for (QWidget* to = step(from); to != from; to = step(to)) {
+    if (!takesTabulator(*to)) continue;
+    to->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+    return true;
   }
   return false;
 }
@@ -106,6 +108,20 @@ void WindowWidget::takeSizeAgain() {
   setMinimumSize(0, 0);
   setGeometry(place);
   setFixedSize(whole);
+}
+
+bool WindowWidget::takesTabulator(const QWidget& control) const {
+  if (!(control.focusPolicy() & Qt::TabFocus) || !control.isEnabled() || !control.isVisibleTo(this)) return false;
+  return control.window() == this && rect().intersects(QRect(control.mapTo(this, QPoint()), control.size()));
+}
+
+// Escape leaves a modal window as its close button does, whatever its buttons are.
+void WindowWidget::keyPressEvent(QKeyEvent* event) {
+  if (windowModality() == Qt::ApplicationModal && event->matches(QKeySequence::Cancel)) {
+    close();
+  } else {
+    QWidget::keyPressEvent(event);
+  }
 }
 
 void WindowWidget::closeEvent(QCloseEvent* event) {

@@ -29,12 +29,14 @@ class WindowWidget : public QWidget {
 
  protected:
   bool focusNextPrevChild(bool next) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
   void takeSizeAgain();
+  bool takesTabulator(const QWidget& control) const;
 
   Window* window_;
   QWidget* content_;

@@ -21,7 +21,7 @@ Home::~Home() {
   fs::remove_all(path_, ignored);
 }
 
-std::vector<std::string> Home::environment(const std::string& display) const {
+std::vector<std::string> Home::environment(const std::string& display, const std::string& bus) const {
   const char* const path = std::getenv("PATH");
   const std::string home = path_;
   std::vector<std::string> result{
@@ -32,7 +32,7 @@ std::vector<std::string> Home::environment(const std::string& display) const {
       "XDG_CACHE_HOME=" + home + "/cache",
       "XDG_RUNTIME_DIR=" + home + "/runtime",
       "XAUTHORITY=" + home + "/xauthority",
-      "DBUS_SESSION_BUS_ADDRESS=disabled:",
+      "DBUS_SESSION_BUS_ADDRESS=" + (bus.empty() ? "disabled:" : bus),
       "LANG=C.UTF-8",
   };
   if (!display.empty()) result.push_back("DISPLAY=" + display);

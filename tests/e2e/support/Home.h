@@ -16,8 +16,9 @@ class Home {
 
   const std::filesystem::path& path() const { return path_; }
 
-  // NAME=value for each variable; `display` is empty for a program that needs none.
-  std::vector<std::string> environment(const std::string& display) const;
+  // NAME=value for each variable; `display` is empty for a program that needs none, and so is `bus`, the address of a
+  // message bus.
+  std::vector<std::string> environment(const std::string& display, const std::string& bus = {}) const;
 
  private:
   std::filesystem::path path_;

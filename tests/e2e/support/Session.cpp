@@ -9,8 +9,9 @@ namespace tavrelkin::test {
 namespace {
 
 std::vector<std::string> programEnvironment(const Home& home, const XServer& server,
+                                            const std::optional<MessageBus>& bus,
                                             const std::vector<std::string>& more) {
-  auto result = home.environment(server.display());
+  auto result = home.environment(server.display(), bus ? bus->address() : "");
   result.insert(result.end(), more.begin(), more.end());
   return result;
 }
@@ -31,12 +32,13 @@ std::vector<std::string> Session::command() {
 
 Session::Session(const Options& options)
     : server(options.server),
+      bus(options.messageBus ? std::optional<MessageBus>(std::in_place, home, server) : std::nullopt),
       client(server.display().c_str()),
       windows(settled(client, options)),
       hand(client),
       manager(server),
       clipboard(server, client),
-      program(command(), programEnvironment(home, server, options.environment)) {}
+      program(command(), programEnvironment(home, server, bus, options.environment)) {}
 
 xcb_window_t Session::waitForWindow(const std::string& titleBeginning) {
   waitForWindow(titleBeginning, 1);

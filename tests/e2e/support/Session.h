@@ -2,12 +2,14 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "e2e/X11Client.h"
 #include "e2e/support/Hand.h"
 #include "e2e/support/Home.h"
+#include "e2e/support/MessageBus.h"
 #include "e2e/support/OutsideClipboard.h"
 #include "e2e/support/Process.h"
 #include "e2e/support/WindowManager.h"
@@ -20,6 +22,7 @@ namespace tavrelkin::test {
 struct Session {
   struct Options {
     XServer::Options server{};
+    bool messageBus = false;
     std::vector<std::string> environment{};  // more variables for the program, in the form NAME=value
     int dotsPerInch = 0;                     // as the desktop's settings say it; nothing where 0
     std::uint16_t leftMonitor = 0;           // the width of one beside the main one, if any
@@ -40,6 +43,7 @@ struct Session {
 
   Home home;  // the program's
   XServer server;
+  std::optional<MessageBus> bus;
   X11Client client;
   Windows windows;
   Hand hand;

@@ -110,6 +110,29 @@ TEST_F(ControlTest, AWindowClosesOnceAndGoesOnlyAfterTheHandlerThatClosedIt) {
   }
 }
 
+TEST_F(ControlTest, ReturnPressesTheButtonThatHasTheKeyboardAndEscapeLeavesAModalWindow) {
+  class Modal : public Window {
+   public:
+    Modal() : Window({.title = "Modal", .width = 50, .height = 50, .frame = WindowFrame::movableModal}) {
+      button.TabStop = true;
+      button.Action = [this] { ++presses; };
+    }
+    PushButton button{*this, "button"};
+    int presses = 0;
+  };
+  const Ref<Modal> modal = New<Modal>();
+  modal->Show();
+  gesture::key(modal->button, Qt::Key_Return);
+  EXPECT_EQ(modal->presses, 1);
+  EXPECT_TRUE(modal->isOpen());
+  gesture::key(modal->button, Qt::Key_Escape);
+  EXPECT_FALSE(modal->isOpen());
+  EXPECT_EQ(modal->presses, 1);
+  Host& host = open();
+  gesture::key(host.second, Qt::Key_Escape);
+  EXPECT_TRUE(host.isOpen()) << "no other window";
+}
+
 TEST_F(ControlTest, AWindowThatIsReferredToOutlivesItsCloseAndOpensAgain) {
   const Ref<Host> window = New<Host>(log);
   window->Show();

@@ -1,0 +1,53 @@
+#include "color/ColourWords.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "color/zrColorLib.h"
+
+namespace tavrelkin {
+
+namespace {
+
+// A name and the bound that it goes up to, exclusive.
+struct Band {
+  Double end;
+  const char* name;
+};
+
+constexpr Band kGrays[] = {{0.06, "black"}, {0.35, "dark gray"}, {0.65, "gray"}, {0.95, "light gray"}, {2, "white"}};
+
+// Degrees; red lies on both sides of 0.
+constexpr Band kHues[] = {{16, "red"},      {42, "orange"}, {66, "yellow"}, {82, "yellowish green"},
+                          {160, "green"},   {195, "cyan"},  {255, "blue"},  {285, "purple"},
+                          {320, "magenta"}, {345, "pink"},  {361, "red"}};
+
+constexpr Band kLightness[] = {{0.12, "very dark "}, {0.34, "dark "}, {0.66, ""}, {0.86, "light "}, {2, "very light "}};
+
+template <std::size_t n>
+const char* nameIn(const Band (&bands)[n], Double value) {
+  return std::find_if(std::begin(bands), std::end(bands), [value](const Band& band) { return value < band.end; })->name;
+}
+
+}  // namespace
+
+// By hue, lightness and chroma, the mean and the difference of the strongest and the weakest channel: these go with
+// what the eye finds light and colourful better than value and saturation do, for which navy is a full blue.
+String colourInWords(Color c) {
+  const auto [least, most] = std::minmax({c.red(), c.green(), c.blue()});
+  const Double lightness = (least + most) / 510.0;
+  const Double chroma = (most - least) / 255.0;
+  if (chroma < 0.06) return nameIn(kGrays, lightness);
+  const Double room = 1 - Abs(2 * lightness - 1);
+  const String grayish = chroma < 0.3 * room ? "grayish " : "";
+  String hue = nameIn(kHues, readColorHue(c) * 360);
+  const bool isDark = lightness < 0.34;
+  if (isDark && hue == "orange") return lightness < 0.2 ? "dark brown" : "brown";
+  return nameIn(kLightness, lightness) + grayish + hue;
+}
+
+String colourInWordsAndNumbers(Color c) {
+  return colourInWords(c) + ", " + Str(c.red()) + "." + Str(c.green()) + "." + Str(c.blue()) + ", #" + getHexStr(c);
+}
+
+}  // namespace tavrelkin

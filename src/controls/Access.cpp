@@ -1,0 +1,85 @@
+#include "controls/Access.h"
+
+#include "color/ColourWords.h"
+#include "controls/ColorChannel.h"
+#include "controls/zrClutPalette.h"
+#include "controls/zrColorBox.h"
+#include "controls/zrColorButton.h"
+#include "controls/zrColorCHBar.h"
+
+namespace tavrelkin {
+
+namespace {
+
+class BarAccess : public Accessible {
+ public:
+  explicit BarAccess(zrColorCHBar& bar) : bar_(bar) {}
+
+  AccessibleRole role() const override { return AccessibleRole::slider; }
+  String name() const override { return channelWord(bar_.propColorChannel); }
+  Range range() const override { return {bar_.Value, bar_.Minimum, bar_.Maximum}; }
+  void setValue(Int32 value) override { bar_.chooseValue(value); }
+
+ private:
+  zrColorCHBar& bar_;
+};
+
+bool answersClicks(const zrColorBox& box) {
+  return static_cast<bool>(box.Action);
+}
+bool answersClicks(const zrColorButton&) {
+  return true;
+}
+
+template <class Swatch>
+class SwatchAccess : public Accessible {
+ public:
+  explicit SwatchAccess(Swatch& swatch) : swatch_(swatch) {}
+
+  AccessibleRole role() const override {
+    return answersClicks(swatch_) ? AccessibleRole::button : AccessibleRole::picture;
+  }
+  String description() const override { return colourInWordsAndNumbers(swatch_.Value); }
+  void press() override { swatch_.press(); }
+
+ private:
+  Swatch& swatch_;
+};
+
+class PaletteAccess : public Accessible {
+ public:
+  explicit PaletteAccess(zrClutPalette& palette) : palette_(palette) {}
+
+  AccessibleRole role() const override { return AccessibleRole::list; }
+  Int32 cellCount() const override { return palette_.TheClut ? palette_.TheClut->Count : 0; }
+  Cell cell(Int32 index) const override {
+    const auto [x, y] = palette_.origin(index);
+    const Int32 side = palette_.wBox + 2;
+    return {colourInWordsAndNumbers(palette_.TheClut->getColor(index)), x, y, side, side};
+  }
+  Int32 currentCell() const override { return palette_.Selected; }
+  void pressCell(Int32 index) override { palette_.choose(index); }
+
+ private:
+  zrClutPalette& palette_;
+};
+
+}  // namespace
+
+std::unique_ptr<Accessible> accessTo(zrColorCHBar& bar) {
+  return std::make_unique<BarAccess>(bar);
+}
+
+std::unique_ptr<Accessible> accessTo(zrColorButton& button) {
+  return std::make_unique<SwatchAccess<zrColorButton>>(button);
+}
+
+std::unique_ptr<Accessible> accessTo(zrColorBox& box) {
+  return std::make_unique<SwatchAccess<zrColorBox>>(box);
+}
+
+std::unique_ptr<Accessible> accessTo(zrClutPalette& palette) {
+  return std::make_unique<PaletteAccess>(palette);
+}
+
+}  // namespace tavrelkin

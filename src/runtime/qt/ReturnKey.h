@@ -1,0 +1,10 @@
+#pragma once
+
+class QAbstractButton;
+
+namespace tavrelkin {
+
+// Has the Return and the Enter key press the button while it has the keyboard, as the space bar does.
+void pressByReturn(QAbstractButton& button);
+
+}  // namespace tavrelkin
