@@ -31,7 +31,7 @@ int peakMemory(const Process& process) {
 
 // Of zeros, which take no room on the disk.
 void makeFile(const fs::path& path, std::uintmax_t size) {
-  std::ofstream{path};
+  const std::ofstream file(path);
   fs::resize_file(path, size);
 }
 
@@ -66,7 +66,9 @@ TEST_F(FaultsTest, ASilentClipboardIsSoonGivenUp) {
 
 TEST_F(FaultsTest, AHugeClipboardIsNotReadWhole) {
   const int before = peakMemory(session_.program);
-  session_.clipboard.copy("1,2,3.." + std::string(100'000'000, 'x'));
+  std::string huge = "1,2,3..";
+  huge.resize(100'000'000, 'x');
+  session_.clipboard.copy(huge);
   expectNoDelay([this] { tool_.keys("Ctrl+V"); });
   EXPECT_LT(peakMemory(session_.program), before + 30);
 }

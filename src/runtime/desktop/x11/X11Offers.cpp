@@ -72,9 +72,12 @@ Selection::Selection(XcbConnection connection, std::string_view name, xcb_timest
 std::optional<std::string> Selection::bytes(const std::string& type) {
   if (!isConverted(atom(connection_.get(), type))) return std::nullopt;
   std::string result;
-  if (takeAll(result)) return result;
-  end_ = {};
-  return std::nullopt;
+  if (!takeAll(result)) {
+    end_ = {};
+    return std::nullopt;
+  }
+  xcb_delete_property(connection_.get(), window_, property_);
+  return result;
 }
 
 // In the order of how well each names its encoding.
