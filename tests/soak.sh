@@ -15,6 +15,6 @@ for preset in release sanitized; do
   cmake --build "$root/build/$preset" --target soak
 done
 
-"$root/build/sanitized/tests/e2e/soak/soak" "${1:-3600}" "$seed" 2>&1 | sed 's/^/sanitized: /' &
-"$root/build/release/tests/e2e/soak/soak" "${1:-3600}" "$seed" 2>&1 | sed 's/^/release: /'
+"$root/build/sanitized/tests/e2e/soak/soak" "${1:-3600}" "$seed" 2>&1 | sed -u 's/^/sanitized: /' &
+"$root/build/release/tests/e2e/soak/soak" "${1:-3600}" "$seed" 2>&1 | sed -u 's/^/release: /'
 wait $!
