@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# tests/soak.sh [SECONDS [SEED]]: uses the program at random for so long, an hour unless told, as users run it and,
-# at the same time under the sanitizers. Prints the seed, which makes the same choices again, and what the program holds.
+# tests/soak.sh [SECONDS [SEED]]: uses the program at random for so long, an hour unless told, as users run it and, at
+# the same time, under the sanitizers. Prints the seed, which makes the same choices again, and what the program holds.
 set -euo pipefail
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
 # shellcheck source=scripts/packages.sh
