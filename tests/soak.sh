@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# tests/soak.sh [SECONDS [SEED]]: uses the program at random for so long, an hour unless told, as users run it and,
-# at the same time under the sanitizers. Prints the seed, which makes the same choices again, and what the program holds.
+# tests/soak.sh [SECONDS [SEED]]: uses the program at random for so long, an hour unless told, as users run it and, at
+# the same time, under the sanitizers. Prints the seed, which makes the same choices again, and what the program holds.
 set -euo pipefail
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
 # shellcheck source=scripts/packages.sh
@@ -15,6 +15,6 @@ for preset in release sanitized; do
   cmake --build "$root/build/$preset" --target soak
 done
 
-"$root/build/sanitized/tests/e2e/soak/soak" "${1:-3600}" "$seed" 2>&1 | sed 's/^/sanitized: /' &
-"$root/build/release/tests/e2e/soak/soak" "${1:-3600}" "$seed" 2>&1 | sed 's/^/release: /'
+"$root/build/sanitized/tests/e2e/soak/soak" "${1:-3600}" "$seed" 2>&1 | sed -u 's/^/sanitized: /' &
+"$root/build/release/tests/e2e/soak/soak" "${1:-3600}" "$seed" 2>&1 | sed -u 's/^/release: /'
 wait $!

@@ -1,6 +1,8 @@
 // What other programs, the disk and the desktop may do wrong: the program survives it, or says plainly why it can't.
 
 #include <chrono>
+#include <cstdint>
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <functional>
@@ -31,7 +33,7 @@ int peakMemory(const Process& process) {
 
 // Of zeros, which take no room on the disk.
 void makeFile(const fs::path& path, std::uintmax_t size) {
-  std::ofstream{path};
+  const std::ofstream file(path);
   fs::resize_file(path, size);
 }
 
@@ -46,6 +48,14 @@ class FaultsTest : public testing::Test {
     EXPECT_LT(std::chrono::steady_clock::now() - before, 4s);
   }
 
+  xcb_atom_t atom(const std::string& name) {
+    auto* const c = session_.client.connection();
+    const auto cookie = xcb_intern_atom(c, 0, static_cast<std::uint16_t>(name.size()), name.data());
+    const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> reply(
+        xcb_intern_atom_reply(c, cookie, nullptr), &std::free);
+    return reply->atom;
+  }
+
   Session session_;
   ToolWindow tool_{session_};
   std::uint32_t pasted_ = 0x123456;
@@ -53,20 +63,32 @@ class FaultsTest : public testing::Test {
 
 // The test owns the clipboard, and answers to nothing.
 TEST_F(FaultsTest, ASilentClipboardIsSoonGivenUp) {
-  X11Client& client = session_.client;
-  auto* const c = client.connection();
-  const xcb_window_t owner = client.open({1200, 700, 10, 10});
-  const auto cookie = xcb_intern_atom(c, 0, 9, "CLIPBOARD");
-  const std::unique_ptr<xcb_intern_atom_reply_t, decltype(&std::free)> clipboard(
-      xcb_intern_atom_reply(c, cookie, nullptr), &std::free);
-  xcb_set_selection_owner(c, owner, clipboard->atom, XCB_CURRENT_TIME);
-  client.sync();
+  const xcb_window_t owner = session_.client.open({1200, 700, 10, 10});
+  xcb_set_selection_owner(session_.client.connection(), owner, atom("CLIPBOARD"), XCB_CURRENT_TIME);
+  session_.client.sync();
   expectNoDelay([this] { tool_.keys("Ctrl+V"); });
+}
+
+// It would have the toolkit treat the window as another program's.
+TEST_F(FaultsTest, ADragThatSaysItComesFromTheWindowItselfLeavesItsEars) {
+  constexpr std::uint32_t kVersion = 5U << 24;
+  xcb_client_message_event_t enter{};
+  enter.response_type = XCB_CLIENT_MESSAGE;
+  enter.format = 32;
+  enter.window = tool_.window();
+  enter.type = atom("XdndEnter");
+  enter.data.data32[0] = tool_.window();
+  enter.data.data32[1] = kVersion;
+  xcb_send_event(session_.client.connection(), 0, tool_.window(), 0, reinterpret_cast<const char*>(&enter));
+  session_.client.sync();
+  tool_.unfold();
 }
 
 TEST_F(FaultsTest, AHugeClipboardIsNotReadWhole) {
   const int before = peakMemory(session_.program);
-  session_.clipboard.copy("1,2,3.." + std::string(100'000'000, 'x'));
+  std::string huge = "1,2,3..";
+  huge.resize(100'000'000, 'x');
+  session_.clipboard.copy(huge);
   expectNoDelay([this] { tool_.keys("Ctrl+V"); });
   EXPECT_LT(peakMemory(session_.program), before + 30);
 }

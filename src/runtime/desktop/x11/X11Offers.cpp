@@ -72,9 +72,12 @@ Selection::Selection(XcbConnection connection, std::string_view name, xcb_timest
 std::optional<std::string> Selection::bytes(const std::string& type) {
   if (!isConverted(atom(connection_.get(), type))) return std::nullopt;
   std::string result;
-  if (takeAll(result)) return result;
-  end_ = {};
-  return std::nullopt;
+  if (!takeAll(result)) {
+    end_ = {};
+    return std::nullopt;
+  }
+  xcb_delete_property(connection_.get(), window_, property_);
+  return result;
 }
 
 // In the order of how well each names its encoding.
@@ -161,8 +164,13 @@ std::unique_ptr<Offer> open(std::string_view selection, xcb_timestamp_t time) {
 }  // namespace
 
 X11Offers::X11Offers() {
-  if (auto* x11 = qApp->nativeInterface<QNativeInterface::QX11Application>())
+  if (auto* x11 = qApp->nativeInterface<QNativeInterface::QX11Application>()) {
+    enterMessage_ = atom(x11->connection(), "XdndEnter");
     dropMessage_ = atom(x11->connection(), "XdndDrop");
+    const auto* setup = xcb_get_setup(x11->connection());
+    ownWindows_ = setup->resource_id_base;
+    ownWindowsMask_ = ~setup->resource_id_mask;
+  }
   qApp->installNativeEventFilter(this);
 }
 
@@ -178,14 +186,19 @@ std::unique_ptr<Offer> X11Offers::drop() const {
   return open("XdndSelection", dropTime_);
 }
 
+bool X11Offers::isOwn(std::uint32_t window) const {
+  return (window & ownWindowsMask_) == ownWindows_;
+}
+
 bool X11Offers::nativeEventFilter(const QByteArray&, void* message, qintptr*) {
-  constexpr int kTime = 2;  // where the message of the XDND protocol has it
+  constexpr int kSource = 0;  // where the messages of the XDND protocol have it
+  constexpr int kTime = 2;
   const auto& event = *static_cast<const xcb_generic_event_t*>(message);
-  if ((event.response_type & 0x7F) == XCB_CLIENT_MESSAGE) {
-    const auto& told = reinterpret_cast<const xcb_client_message_event_t&>(event);
-    if (told.type == dropMessage_ && told.format == 32) dropTime_ = told.data.data32[kTime];
-  }
-  return false;
+  if ((event.response_type & 0x7F) != XCB_CLIENT_MESSAGE) return false;
+  const auto& told = reinterpret_cast<const xcb_client_message_event_t&>(event);
+  if (told.format != 32) return false;
+  if (told.type == dropMessage_) dropTime_ = told.data.data32[kTime];
+  return told.type == enterMessage_ && isOwn(told.data.data32[kSource]);
 }
 
 }  // namespace tavrelkin

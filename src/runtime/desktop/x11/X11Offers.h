@@ -27,11 +27,18 @@ class X11Offers final : public QAbstractNativeEventFilter {
   // The drag that is being dropped, of another program; of use within the handler of the drop.
   std::unique_ptr<Offer> drop() const;
 
-  // Notes the time of a drop, by which its source knows which of its drags is asked for.
+  // Notes the time of a drop, by which its source knows which of its drags is asked for. Keeps a forged drag from the
+  // toolkit that claims to come from one of its own windows: it would watch that window as another program's, and no
+  // click or key would reach it any more. Its real ones don't come by messages.
   bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
 
  private:
+  bool isOwn(std::uint32_t window) const;
+
+  std::uint32_t enterMessage_ = 0;
   std::uint32_t dropMessage_ = 0;
+  std::uint32_t ownWindows_ = 0;  // the bits that are the same in all of them
+  std::uint32_t ownWindowsMask_ = 0;
   std::uint32_t dropTime_ = 0;
 };
 
