@@ -95,11 +95,12 @@ Pixels ToolWindow::preview() const {
 // Each pixel as a block that ends where the next one begins.
 Pixels ToolWindow::enlarged(const Pixels& preview) const {
   Pixels result;
-  for (int y = 0; y < kPreviewHeight; ++y)
+  auto first = preview.begin();
+  for (int y = 0; y < kPreviewHeight; ++y, first += kPreviewWidth) {
     for (int row = scaled(y); row < scaled(y + 1); ++row)
       for (int x = 0; x < kPreviewWidth; ++x)
-        result.insert(result.end(), static_cast<std::size_t>(scaled(x + 1) - scaled(x)),
-                      preview[static_cast<std::size_t>(y * kPreviewWidth + x)]);
+        result.insert(result.end(), static_cast<std::size_t>(scaled(x + 1) - scaled(x)), first[x]);
+  }
   return result;
 }
 
