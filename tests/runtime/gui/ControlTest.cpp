@@ -129,7 +129,7 @@ TEST_F(ControlTest, ReturnPressesTheButtonThatHasTheKeyboardAndEscapeLeavesAModa
   EXPECT_FALSE(modal->isOpen());
   EXPECT_EQ(modal->presses, 1);
   Host& host = open();
-  gesture::key(host.second, Qt::Key_Escape);
+  gesture::key(host.canvas, Qt::Key_Escape);
   EXPECT_TRUE(host.isOpen()) << "no other window";
 }
 
