@@ -1,5 +1,7 @@
 #include "controls/Access.h"
 
+#include <algorithm>
+
 #include "color/ColourWords.h"
 #include "controls/ColorChannel.h"
 #include "controls/zrClutPalette.h"
@@ -51,7 +53,7 @@ class PaletteAccess : public Accessible {
   explicit PaletteAccess(zrClutPalette& palette) : palette_(palette) {}
 
   AccessibleRole role() const override { return AccessibleRole::list; }
-  Int32 cellCount() const override { return palette_.TheClut ? palette_.TheClut->Count : 0; }
+  Int32 cellCount() const override { return palette_.TheClut ? std::max(palette_.TheClut->Count, 0) : 0; }
   Cell cell(Int32 index) const override {
     const auto [x, y] = palette_.origin(index);
     const Int32 side = palette_.wBox + 2;

@@ -98,28 +98,30 @@ void CanvasWidget::hideEvent(QHideEvent*) {
 
 void CanvasWidget::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
-  if (painter.deviceTransform().m11() != 1) return paintEnlarged(painter);
+  const Enlargement enlargement(painter.deviceTransform().m11());
+  setOpaque(enlargement.isWhole());
+  if (enlargement.scale() != 1) return paintEnlarged(painter, enlargement);
   const QImage picture(reinterpret_cast<const uchar*>(std::as_const(surface_).row(0)), surface_.width(),
                        surface_.height(), QImage::Format_RGB32);
   painter.drawImage(event->rect(), picture, event->rect());
 }
 
-void CanvasWidget::paintEnlarged(QPainter& painter) {
-  const QTransform toScreen = painter.deviceTransform();
-  const Enlargement enlargement(toScreen.m11());
+void CanvasWidget::paintEnlarged(QPainter& painter, const Enlargement& enlargement) {
+  static const std::vector<DrawnText> kNone;
   if (enlarged_.isNull() || enlargedBy_ != enlargement.scale()) {
-    enlarged_ = enlargement.of(surface_, canvas_ ? canvas_->texts_ : std::vector<DrawnText>());
+    enlarged_ = enlargement.of(surface_, canvas_ ? canvas_->texts_ : kNone);
     enlargedBy_ = enlargement.scale();
   }
   // Pixel for pixel: the painter's own scaling would set edges between two pixels of the screen.
+  const QTransform toScreen = painter.deviceTransform();
   const QTransform toCorner = QTransform::fromTranslate(qRound(toScreen.dx()), qRound(toScreen.dy()));
   painter.setWorldTransform(toCorner * toScreen.inverted());
   painter.drawImage(0, 0, enlarged_);
+}
 
-  // At a scale that is no whole number the toolkit may leave out pixels between two widgets: the window has to paint
-  // there.
-  if (testAttribute(Qt::WA_OpaquePaintEvent) == enlargement.isWhole()) return;
-  setAttribute(Qt::WA_OpaquePaintEvent, enlargement.isWhole());
+void CanvasWidget::setOpaque(bool opaque) {
+  if (testAttribute(Qt::WA_OpaquePaintEvent) == opaque) return;
+  setAttribute(Qt::WA_OpaquePaintEvent, opaque);
   parentWidget()->update(geometry().adjusted(-1, -1, 1, 1));
 }
 
@@ -183,7 +185,10 @@ void CanvasWidget::dropEvent(QDropEvent* event) {
 // Keys are taken here, ahead of the tabulator's way to the next control, which would never let the canvas see it.
 bool CanvasWidget::event(QEvent* event) {
   if (event->type() == QEvent::KeyPress && canvas_ && canvas_->Enabled) {
-    const String key = asOneByte(*static_cast<QKeyEvent*>(event));
+    const auto& press = *static_cast<QKeyEvent*>(event);
+    const String key = asOneByte(press);
+    // A key that is held down presses once: it would press what the first press has opened, and open that again.
+    if (press.isAutoRepeat() && isPressKey(key)) return true;
     const auto handler = [&] { return canvas_->Event_KeyDown(key); };
     if (!key.empty() && deliver(canvas_->ownerWindow(), handler)) return true;
   }

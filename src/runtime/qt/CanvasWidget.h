@@ -8,6 +8,7 @@
 namespace tavrelkin {
 
 class Canvas;
+class Enlargement;
 
 // Shows a canvas's surface and passes the toolkit's events on to the canvas.
 class CanvasWidget : public QWidget {
@@ -41,7 +42,10 @@ class CanvasWidget : public QWidget {
  private:
   // Brings what is shown up to date; gives the part to be painted anew.
   QRect takeChanges();
-  void paintEnlarged(QPainter& painter);
+  void paintEnlarged(QPainter& painter, const Enlargement& enlargement);
+  // Whether the window need not paint beneath. It must at a scale that is no whole number, where the toolkit may leave
+  // out pixels between two widgets.
+  void setOpaque(bool opaque);
   // The pixel of the canvas that shows under the pointer, also left of and above it.
   QPoint pixelUnder(const QMouseEvent& event) const;
 
