@@ -11,6 +11,7 @@ namespace tavrelkin::test {
 namespace {
 
 constexpr auto kScreen = "2400x1000x24";
+constexpr std::uint16_t kLeftMonitor = 1200;
 constexpr Area kForeign{1080, 720, 240, 140};  // where no tool window is
 
 // Sample, marker, poke, click and a drag out of the preview.
@@ -50,7 +51,7 @@ TEST_P(ScalesTest, EveryPixelIsHit) {
   const Scale& row = GetParam();
   Session session({.server = {.screen = kScreen}, .environment = row.environment, .dotsPerInch = row.dotsPerInch});
   ToolWindow tool(session);
-  tool.setScale(row.scale);
+  ASSERT_TRUE(tool.getsScale(row.scale));
   expectExact(session, tool);
 }
 
@@ -73,13 +74,14 @@ class MonitorScalesTest : public testing::TestWithParam<Monitors> {};
 
 TEST_P(MonitorScalesTest, EveryPixelIsHitFromEither) {
   const Monitors& row = GetParam();
-  Session session(
-      {.server = {.screen = kScreen}, .environment = {"QT_SCREEN_SCALE_FACTORS=" + row.factors}, .leftMonitor = 1200});
+  Session session({.server = {.screen = kScreen},
+                   .environment = {"QT_SCREEN_SCALE_FACTORS=" + row.factors},
+                   .leftMonitor = kLeftMonitor});
   ToolWindow tool(session);
-  tool.setScale(row.left);
+  ASSERT_TRUE(tool.getsScale(row.left));
   expectExact(session, tool);
   tool.moveTo(1350, 60);
-  tool.setScale(row.right);
+  ASSERT_TRUE(tool.getsScale(row.right));
   expectExact(session, tool);
 }
 
@@ -94,17 +96,19 @@ INSTANTIATE_TEST_SUITE_P(Of, MonitorScalesTest, testing::ValuesIn(kMonitors),
 
 // Where it gets so large that its middle would lie on the monitor it came from, it must not go back and forth.
 TEST(MonitorEdgeTest, AWindowThatGrowsStaysOnItsMonitor) {
-  Session session(
-      {.server = {.screen = kScreen}, .environment = {"QT_SCREEN_SCALE_FACTORS=left=2;right=1"}, .leftMonitor = 1200});
+  Session session({.server = {.screen = kScreen},
+                   .environment = {"QT_SCREEN_SCALE_FACTORS=left=2;right=1"},
+                   .leftMonitor = kLeftMonitor});
   ToolWindow tool(session);
-  const Area large = session.windows.area(tool.window());
   tool.moveTo(1500, 60);
-  const auto isOfWidth = [&](int width) { return session.windows.area(tool.window()).width == width; };
-  ASSERT_TRUE(waitUntil([&] { return isOfWidth(large.width / 2); }));
+  ASSERT_TRUE(tool.getsScale(1));
   session.windows.moveTo(tool.window(), 950, 60);
-  EXPECT_TRUE(waitUntil([&] { return isOfWidth(large.width); }));
-  session.hand.rest();
-  EXPECT_TRUE(isOfWidth(large.width));
+  ASSERT_TRUE(tool.getsScale(2));
+  const auto middle = [&] {
+    const Area area = session.windows.area(tool.window());
+    return area.x + area.width / 2;
+  };
+  EXPECT_TRUE(waitUntil([&] { return middle() < kLeftMonitor && tool.hasItsSize(); }));
 }
 
 }  // namespace

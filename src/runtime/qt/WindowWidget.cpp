@@ -1,12 +1,12 @@
 #include "runtime/qt/WindowWidget.h"
 
 #include <algorithm>
+#include <chrono>
 #include <utility>
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
-#include <QMetaObject>
 #include <QScreen>
 #include <QVBoxLayout>
 
@@ -40,6 +40,8 @@ WindowWidget::WindowWidget(Window& window, const WindowDesign& design)
   layout->addWidget(content_);
   layout->setSizeConstraint(QLayout::SetFixedSize);
   new FocusRing(*content_);
+  rescaled_.setSingleShot(true);
+  rescaled_.callOnTimeout(this, &WindowWidget::takeSizeAgain);
 }
 
 void WindowWidget::setContentSize(int width, int height) {
@@ -87,26 +89,25 @@ bool WindowWidget::focusNextPrevChild(bool next) {
   return false;
 }
 
-// On a monitor of another scale the toolkit lets a window keep its pixels of the screen, and tells its size anew.
+// On a monitor of another scale the toolkit lets a window keep its pixels of the screen, and tells its size anew. While
+// a window manager moves and resizes it, it may seem to change monitors for a moment.
 void WindowWidget::resizeEvent(QResizeEvent*) {
+  constexpr std::chrono::milliseconds settled(100);
   const qreal scale = devicePixelRatioF();
-  if (std::exchange(scale_, scale) == scale) return;
-  QMetaObject::invokeMethod(
-      this, [this] { takeSizeAgain(); }, Qt::QueuedConnection);
+  if (std::exchange(scale_, scale) != scale) rescaled_.start(settled);
 }
 
 void WindowWidget::takeSizeAgain() {
   const QSize whole = minimumSize();
-  QRect place(geometry().topLeft(), whole);
   // A window is on the monitor that has its middle: were that to move to the one it came from, it would go back and
   // forth without end.
   const QRect monitor = screen()->geometry().adjusted(1, 1, -1, -1);
-  const QPoint middle = place.center();
-  place.translate(std::clamp(middle.x(), monitor.left(), monitor.right()) - middle.x(),
-                  std::clamp(middle.y(), monitor.top(), monitor.bottom()) - middle.y());
+  const QPoint middle = QRect(geometry().topLeft(), whole).center();
+  const QPoint inside(std::clamp(middle.x(), monitor.left(), monitor.right()),
+                      std::clamp(middle.y(), monitor.top(), monitor.bottom()));
   // The limits have to change for the window manager to learn what they are in pixels of this screen.
   setMinimumSize(0, 0);
-  setGeometry(place);
+  if (inside != middle) setGeometry(QRect(geometry().topLeft() + inside - middle, whole));
   setFixedSize(whole);
 }
 

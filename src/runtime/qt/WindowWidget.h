@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QTimer>
 #include <QWidget>
 
 #include "runtime/base/Ref.h"
@@ -41,6 +42,7 @@ class WindowWidget : public QWidget {
   Window* window_;
   QWidget* content_;
   qreal scale_ = 1;  // of the screen it was on when it was last resized
+  QTimer rescaled_;
 };
 
 }  // namespace tavrelkin

@@ -18,8 +18,6 @@ class ProgramWindow {
       : session_(session), window_(window), contentHeight_(contentHeight) {}
 
   xcb_window_t window() const { return window_; }
-  // How many of the screen's pixels it now takes for one of those, across and down.
-  void setScale(double scale) { scale_ = scale; }
   std::string title() const { return session_.windows.title(window_); }
   ScreenPoint onScreen(int x, int y) const;
   // What one pixel of its content shows.
@@ -43,6 +41,7 @@ class ProgramWindow {
   // Where something begins that has so many pixels before it.
   int scaled(int pixels) const;
   void setContentHeight(int pixels) { contentHeight_ = pixels; }
+  void setScale(double scale) { scale_ = scale; }
 
  private:
   void choose(int x, const std::string& key);

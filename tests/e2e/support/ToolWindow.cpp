@@ -10,6 +10,7 @@ namespace tavrelkin::test {
 
 namespace {
 
+constexpr int kWidth = 448;
 constexpr int kFoldedHeight = 262;
 constexpr int kUnfoldedHeight = 400;
 constexpr ScreenPoint kPreview{20, 33};
@@ -102,6 +103,16 @@ Pixels ToolWindow::enlarged(const Pixels& preview) const {
         result.insert(result.end(), static_cast<std::size_t>(scaled(x + 1) - scaled(x)), first[x]);
   }
   return result;
+}
+
+testing::AssertionResult ToolWindow::getsScale(double scale) {
+  setScale(scale);
+  if (waitUntil([this] { return hasItsSize(); })) return testing::AssertionSuccess();
+  return testing::AssertionFailure() << "It isn't " << scaled(kWidth) << " pixels wide.";
+}
+
+bool ToolWindow::hasItsSize() const {
+  return session().windows.area(window()).width == scaled(kWidth);
 }
 
 testing::AssertionResult ToolWindow::getsTitleOf(std::uint32_t rgb) const {

@@ -32,6 +32,11 @@ class ToolWindow : public ProgramWindow {
   ScreenPoint onPreview(int x, int y) const;
   Pixels preview() const;
 
+  // How many of the screen's pixels it takes for one of its own, across and down: 1 until this is called. Whether it
+  // comes to have that size before long.
+  testing::AssertionResult getsScale(double scale);
+  bool hasItsSize() const;
+
   // Whether title, or preview, become so before long. Each channel of the preview may differ by `tolerance`.
   testing::AssertionResult getsTitleOf(std::uint32_t rgb) const;
   testing::AssertionResult getsPreview(const Preview& expected, int tolerance = 0) const;
