@@ -129,7 +129,7 @@ void printRows(const Medians& medians) {
 }
 
 int run(test::X11Client& client) {
-  const Runtime runtime;
+  const Runtime runtime{std::string()};
   const auto app = New<App>();
   app->AddMenuHandlers();
   const Ref<frmVesk> window = frmVesk::Default();
