@@ -187,7 +187,7 @@ bool CanvasWidget::event(QEvent* event) {
   if (event->type() == QEvent::KeyPress && canvas_ && canvas_->Enabled) {
     const auto& press = *static_cast<QKeyEvent*>(event);
     const String key = asOneByte(press);
-    // A key that is held down presses once: it would press what the first press has opened, and open that again.
+    // A key that is held down presses once.
     if (press.isAutoRepeat() && isPressKey(key)) return true;
     const auto handler = [&] { return canvas_->Event_KeyDown(key); };
     if (!key.empty() && deliver(canvas_->ownerWindow(), handler)) return true;
