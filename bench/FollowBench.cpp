@@ -11,7 +11,6 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
-#include <numbers>
 #include <random>
 #include <stdexcept>
 #include <string>
@@ -19,6 +18,7 @@
 #include <utility>
 #include <vector>
 
+#include "bench/support/Circles.h"
 #include "bench/support/Figures.h"
 #include "bench/support/ProcessUsage.h"
 #include "e2e/support/ForeignWindow.h"
@@ -42,16 +42,6 @@ constexpr ScreenPoint kInMarker{206, 98};  // in the centre cell at step 1
 
 Area pixelAt(ScreenPoint at) {
   return {static_cast<std::int16_t>(at.x), static_cast<std::int16_t>(at.y), 1, 1};
-}
-
-// Calls `act` so many times a second.
-template <class Act>
-void atRate(int rate, std::chrono::seconds span, const Act& act) {
-  const auto begun = Clock::now();
-  for (int i = 0; i < rate * span.count(); ++i) {
-    std::this_thread::sleep_until(begun + i * std::chrono::nanoseconds(1s) / rate);
-    act(i);
-  }
 }
 
 // A session with the program, and what is done in it.
@@ -174,13 +164,7 @@ void FollowBench::benchCircles() {
 }
 
 void FollowBench::moveInCircles() {
-  constexpr double kRadius = 90;
-  constexpr double kStep = 2 * std::numbers::pi / 60;
-  atRate(60, 5s, [&](int i) {
-    const double x = kMiddle.x + kRadius * std::cos(i * kStep);
-    const double y = kMiddle.y + kRadius * std::sin(i * kStep);
-    session_.hand.moveTo({static_cast<int>(std::lround(x)), static_cast<int>(std::lround(y))});
-  });
+  bench::moveInCircles(session_.hand, kMiddle, 90);
 }
 
 void FollowBench::benchLatency() {

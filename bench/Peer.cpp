@@ -1,13 +1,11 @@
 #include "Peer.h"
 
 #include <chrono>
-#include <cstdlib>
 #include <filesystem>
-#include <sstream>
 #include <stdexcept>
 #include <thread>
 
-#include <unistd.h>
+#include <QStandardPaths>
 
 #include "e2e/support/WaitUntil.h"
 
@@ -39,13 +37,7 @@ std::string fileName(const std::string& path) {
 }  // namespace
 
 bool Program::isInstalled() const {
-  if (path.find('/') != std::string::npos) return true;
-  const char* const folders = std::getenv("PATH");
-  std::istringstream list(folders ? folders : "");
-  for (std::string folder; std::getline(list, folder, ':');) {
-    if (access((folder + "/" + path).c_str(), X_OK) == 0) return true;
-  }
-  return false;
+  return !QStandardPaths::findExecutable(QString::fromStdString(path)).isEmpty();
 }
 
 RunningProgram::RunningProgram(PeerDesktop& desktop, const Program& program) : desktop_(desktop), program_(program) {

@@ -5,16 +5,15 @@
 // the colour under the pointer, wherever that pixel is; it is found by holding the pointer over one colour and then
 // over another. Latency: until that pixel has the new colour.
 
-#include <cmath>
 #include <exception>
 #include <iostream>
-#include <numbers>
 #include <random>
 #include <thread>
 
 #include <sys/prctl.h>
 
 #include "Peer.h"
+#include "bench/support/Circles.h"
 #include "bench/support/Figures.h"
 #include "e2e/support/ForeignWindow.h"
 
@@ -95,13 +94,7 @@ double medianLatency(PeerDesktop& desktop, const Area& pixel) {
 double percentInCircles(PeerDesktop& desktop, const ProcessUsage& usage) {
   const test::ForeignWindow foreign(desktop.client, kPatches[0]);
   const CpuMeter cpu(usage);
-  const auto begun = Clock::now();
-  for (int i = 0; i < 300; ++i) {
-    std::this_thread::sleep_until(begun + i * std::chrono::nanoseconds(1s) / 60);
-    const double angle = i * 2 * std::numbers::pi / 60;
-    desktop.hand.moveTo({kPoints[0].x + static_cast<int>(std::lround(80 * std::cos(angle))),
-                         kPoints[0].y + static_cast<int>(std::lround(60 * std::sin(angle)))});
-  }
+  moveInCircles(desktop.hand, kPoints[0], 80);
   return cpu.percent();
 }
 

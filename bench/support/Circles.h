@@ -1,0 +1,10 @@
+#pragma once
+
+#include "e2e/support/Hand.h"
+
+namespace tavrelkin::bench {
+
+// Moves the pointer around a place for five seconds, 60 times a second, a turn a second.
+void moveInCircles(test::Hand& hand, ScreenPoint centre, double radius);
+
+}  // namespace tavrelkin::bench
