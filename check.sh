@@ -77,8 +77,9 @@ check_coverage() {
 }
 
 report_coverage() {
-  gcovr --root . --filter src/ --object-directory build/coverage --csv build/coverage 2>/dev/null | tail -n +2 |
-    awk -F, '{ split($1, folder, "/"); layer = folder[2] ~ /\./ ? "main" : folder[2]
+  gcovr --root . --filter src/ --object-directory build/coverage --csv - | tail -n +2 |
+    awk -F, '{ sub("build/coverage/layers/[^/]*", "src", $1)  # where the layers have their headers
+               split($1, folder, "/"); layer = folder[2] ~ /\./ ? "main" : folder[2]
                lines[layer] += $2; reached[layer] += $3; lines["all"] += $2; reached["all"] += $3 }
              END { for (layer in lines) printf "      %-12s %5.1f %% of %d lines\n", layer,
                    100 * reached[layer] / lines[layer], lines[layer] }' | sort

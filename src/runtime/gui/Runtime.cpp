@@ -16,6 +16,7 @@
 #include "runtime/desktop/native/NativeDesktop.h"
 #include "runtime/qt/Accessibility.h"
 #include "runtime/qt/Delivery.h"
+#include "runtime/qt/HeldKeys.h"
 
 namespace tavrelkin {
 
@@ -77,6 +78,7 @@ void applyLook(QApplication& toolkit) {
 Runtime::Runtime(const std::string& iconFolder) : toolkit_(makeToolkit()) {
   std::signal(SIGXFSZ, SIG_IGN);
   applyLook(*toolkit_);
+  toolkit_->installEventFilter(new HeldKeys(toolkit_.get()));
   QApplication::setWindowIcon(readIcon(iconFolder));
   installDesktop(makeNativeDesktop());
 }

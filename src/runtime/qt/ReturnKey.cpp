@@ -14,7 +14,7 @@ class ReturnKey : public QObject {
   bool eventFilter(QObject* button, QEvent* event) override {
     if (event->type() != QEvent::KeyPress) return false;
     const auto* key = static_cast<QKeyEvent*>(event);
-    if (key->isAutoRepeat() || (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter)) return false;
+    if (key->key() != Qt::Key_Return && key->key() != Qt::Key_Enter) return false;
     static_cast<QAbstractButton*>(button)->click();
     return true;
   }

@@ -1,0 +1,66 @@
+#include <string>
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QWindow>
+
+#include "runtime/qt/HeldKeys.h"
+#include "support/RuntimeTest.h"
+
+namespace tavrelkin {
+
+namespace {
+
+// Writes down its presses: P, and H for a held key's.
+class Keyboarded : public QWindow {
+ public:
+  std::string presses;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override { presses += event->isAutoRepeat() ? 'H' : 'P'; }
+};
+
+class HeldKeysTest : public RuntimeTest {
+ protected:
+  HeldKeysTest() { QCoreApplication::instance()->installEventFilter(&filter); }
+
+  void send(QEvent::Type type, Qt::Key key, quint64 time, quint32 code = 36, bool isKnown = false) {
+    QKeyEvent event(type, key, Qt::NoModifier, code, 0, 0, {}, isKnown);
+    event.setTimestamp(time);
+    QCoreApplication::sendEvent(&window, &event);
+  }
+
+  HeldKeys filter;
+  Keyboarded window;
+};
+
+TEST_F(HeldKeysTest, APressAtTheTimeOfItsReleaseIsAHeldKeys) {
+  send(QEvent::KeyPress, Qt::Key_Space, 100);
+  send(QEvent::KeyRelease, Qt::Key_Space, 700);
+  send(QEvent::KeyPress, Qt::Key_Space, 700);
+  EXPECT_EQ(window.presses, "PH");
+  send(QEvent::KeyRelease, Qt::Key_Space, 740);
+  send(QEvent::KeyPress, Qt::Key_Left, 740, 113);
+  send(QEvent::KeyPress, Qt::Key_Space, 741);
+  EXPECT_EQ(window.presses, "PHPP") << "another key, and a quick second press";
+}
+
+TEST_F(HeldKeysTest, AHeldReturnPressesOnce) {
+  send(QEvent::KeyPress, Qt::Key_Return, 100);
+  send(QEvent::KeyRelease, Qt::Key_Return, 700);
+  send(QEvent::KeyPress, Qt::Key_Return, 700);
+  send(QEvent::KeyRelease, Qt::Key_Return, 740, 36, true);
+  send(QEvent::KeyPress, Qt::Key_Return, 740, 36, true);
+  EXPECT_EQ(window.presses, "P");
+}
+
+TEST_F(HeldKeysTest, MadeUpKeysWithoutCodeAndTimeAreNotHeld) {
+  send(QEvent::KeyPress, Qt::Key_Return, 0, 0);
+  send(QEvent::KeyRelease, Qt::Key_Return, 0, 0);
+  send(QEvent::KeyPress, Qt::Key_Return, 0, 0);
+  EXPECT_EQ(window.presses, "PP");
+}
+
+}  // namespace
+
+}  // namespace tavrelkin
