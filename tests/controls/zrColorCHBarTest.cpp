@@ -1,9 +1,18 @@
-#include "controls/BarTest.h"
+#include "controls/ControlsTest.h"
 
 namespace tavrelkin {
 namespace {
 
-using zrColorCHBarTest = BarTest;
+class zrColorCHBarTest : public ControlsTest {
+ protected:
+  zrColorCHBar& open(Int32 channel, Color c) {
+    host = New<Host>(channel);
+    host->Show();
+    host->log = "";
+    host->bar.SetBaseColor(c);
+    return host->bar;
+  }
+};
 
 TEST_F(zrColorCHBarTest, ABaseColourGivesTheChannelsValueAndTip) {
   const struct {
@@ -12,34 +21,95 @@ TEST_F(zrColorCHBarTest, ABaseColourGivesTheChannelsValueAndTip) {
     Int32 value;
     const char* tip;
   } rows[] = {
-      {0, 0x80FF00, 128, "Red 128"},        {1, 0x128034, 128, "Green 128"},      {2, 0x123407, 7, "Blue 7"},
-      {3, 0xFF8000, 21, "Hue 008"},         {3, 0x00FFFF, 127, "Hue 050"},        {3, 0xFF0001, 254, "Hue 100"},
-      {3, 0x808080, 0, "Hue 000"},          {4, 0xFF8000, 255, "Saturation 100"}, {4, 0x000000, 0, "Saturation 000"},
-      {4, 0x70ABFF, 143, "Saturation 056"}, {5, 0x102030, 48, "Luminosity 019"},  {6, 0x40FFFF, 191, "Cyan 075"},
-      {7, 0xFF8000, 127, "Magenta 050"},    {8, 0xFFFF00, 255, "Yellow 100"},
+      {0, 0x80FF00, 128, "Red 128"},        {1, 0x128034, 128, "Green 128"},    {2, 0x123407, 7, "Blue 7"},
+      {3, 0xFF8000, 21, "Hue 008"},         {3, 0x00FFFF, 127, "Hue 050"},      {3, 0xFF0001, 254, "Hue 100"},
+      {4, 0xFF8000, 255, "Saturation 100"}, {4, 0x000000, 0, "Saturation 000"}, {4, 0x70ABFF, 143, "Saturation 056"},
+      {5, 0x102030, 48, "Luminosity 019"},  {6, 0x40FFFF, 191, "Cyan 075"},     {7, 0xFF8000, 127, "Magenta 050"},
+      {8, 0xFFFF00, 255, "Yellow 100"},
   };
   for (const auto& [channel, color, value, tip] : rows) {
-    const Ref<Host> host = open(channel, Color{color});
-    EXPECT_EQ(host->bar.propColorChannel, channel);
-    EXPECT_EQ(host->bar.propBaseColor, Color{color});
-    EXPECT_EQ(host->bar.Value, value) << tip;
-    EXPECT_EQ(host->bar.HelpTag.get(), tip);
-    host->bar.SetValue(255);
-    EXPECT_EQ(host->bar.propBaseColor, Color{color});
-    EXPECT_EQ(host->log, "");
-    host->Close();
+    zrColorCHBar& bar = open(channel, Color{color});
+    EXPECT_EQ(bar.Value, value) << tip;
+    EXPECT_EQ(bar.HelpTag.get(), tip);
+    EXPECT_EQ(after([&] { bar.SetValue(255); }), "");
+    EXPECT_EQ(bar.propBaseColor, Color{color});
   }
 }
 
-// A red of every value comes back as it went in: nothing falls short by a rounding.
+// Nothing falls short by a rounding.
 TEST_F(zrColorCHBarTest, EveryByteOfAChannelIsRead) {
   for (const Int32 channel : {0, 1, 2, 5, 6, 7, 8}) {
-    const Ref<Host> host = New<Host>(channel);
+    zrColorCHBar& bar = open(channel, kBlack);
     for (Int32 v = 0; v < 256; ++v) {
-      host->bar.SetBaseColor(RGB(v, v, v));
-      EXPECT_EQ(host->bar.Value, channel < 6 ? v : 255 - v) << channel;
+      bar.SetBaseColor(RGB(v, v, v));
+      EXPECT_EQ(bar.Value, channel < 6 ? v : 255 - v) << channel;
     }
   }
+}
+
+TEST_F(zrColorCHBarTest, APressCountsOnTheIndicatorOnly) {
+  const struct {
+    Int32 x, y;
+    bool taken;
+  } rows[] = {{63, 5, true},  {57, 5, true}, {64, 5, false}, {56, 5, false},
+              {60, 0, false}, {60, 1, true}, {60, 19, true}};
+  for (const auto& [x, y, taken] : rows) {
+    const zrColorCHBar& bar = open(0, Color{0x804020});
+    gesture::press(bar, x, y);
+    gesture::dragTo(bar, 200, 5);
+    gesture::release(bar, 200, 5);
+    EXPECT_EQ(host->log, taken ? "changing-804020 action-FF4020 " : "") << x << ", " << y;
+  }
+}
+
+TEST_F(zrColorCHBarTest, ADragChangesTheValueButTheColourOnlyAtItsEnd) {
+  zrColorCHBar& bar = open(0, Color{0x804020});
+  gesture::press(bar, 60, 5);
+  gesture::dragTo(bar, 6, 5);
+  EXPECT_EQ(bar.HelpTag.get(), "Red 2");
+  gesture::dragTo(bar, 100, -3);
+  EXPECT_EQ(bar.Value, 2) << "above the bar the value stands still";
+  bar.WebSafe = true;
+  gesture::dragTo(bar, 50, 5);
+  gesture::release(bar, 50, 5);
+  EXPECT_EQ(host->log, "changing-804020 changing-804020 action-664020 ") << "down to a multiple of 51";
+}
+
+TEST_F(zrColorCHBarTest, AnyKeyRaisesChangeAndOnlyArrowsStep) {
+  const zrColorCHBar& bar = open(1, Color{0x00FF00});
+  EXPECT_EQ(bar.Lastx, 115);
+  for (const int key : {0x01000014, 0x01000012, 0x41})
+    gesture::key(bar, key);
+  EXPECT_EQ(host->log, "change-00FF00 change-00FE00 change-00FE00 ");
+  EXPECT_EQ(bar.Lastx, 117) << "closer to the end than by the host's hand";
+}
+
+TEST_F(zrColorCHBarTest, ADroppedColourGivesItsChannelOnly) {
+  zrColorCHBar& bar = open(1, Color{0x112233});
+  const Ref<DragItem> item = New<DragItem>();
+  for (const char* text : {"no colour", " #FF8000 "}) {
+    item->SetText(text);
+    bar.Event_DropObject(item, 0);
+  }
+  item->MacData("hcol", "1, 2, 3");
+  bar.Event_DropObject(item, 0);
+  EXPECT_EQ(host->log, "action-118033 action-110233 ") << "private data goes ahead of text";
+  EXPECT_EQ(bar.Lastx, 1);
+}
+
+TEST_F(zrColorCHBarTest, TheStripStepsByTwoAndIsNotScaled) {
+  zrColorCHBar& bar = open(0, kBlack);
+  bar.SetValue(128);
+  const struct {
+    Int32 x, y;
+    Color c;
+    const char* what;
+  } rows[] = {{0, 0, Color{0x949494}, "the frame"},      {5, 5, kBlack, "the first step"},
+              {6, 5, RGB(2, 0, 0), "the second"},        {118, 5, RGB(226, 0, 0), "the last"},
+              {57, 0, Color{0x606060}, "the indicator"}, {58, 1, kWhite, "its inner frame"},
+              {60, 5, RGB(128, 0, 0), "its inside"},     {60, 2, RGB(110, 0, 0), "row 2 keeps the strip"}};
+  for (const auto& [x, y, c, what] : rows)
+    EXPECT_EQ(bar.Graphics().Pixel(x, y), c) << what;
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 // The table's files, byte for byte, with all in which its readers and writers differ.
 
+#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -35,24 +36,22 @@ String triples(Int32 colors) {
 
 class SwatchFilesTest : public RuntimeTest {
  protected:
-  Ref<zrClut> readSwatch(const String& bytes) const {
+  using Reader = bool (zrClut::*)(const Ref<FolderItem>&);
+  using Writer = bool (zrClut::*)(const Ref<FolderItem>&) const;
+
+  Ref<zrClut> read(Reader reader, const String& bytes) const {
     const auto table = New<zrClut>();
-    EXPECT_TRUE(table->ReadSwatch(folder.write("in", bytes)));
+    EXPECT_TRUE(((*table).*reader)(folder.write("in", bytes)));
     return table;
   }
-  Ref<zrClut> readClut(const String& bytes) const {
-    const auto table = New<zrClut>();
-    EXPECT_TRUE(table->ReadClut(folder.write("in", bytes)));
-    return table;
-  }
-  String writtenSwatch(const zrClut& table) const {
-    EXPECT_TRUE(table.writeSwatch(folder.item("out")));
+  Ref<zrClut> readSwatch(const String& bytes) const { return read(&zrClut::ReadSwatch, bytes); }
+  Ref<zrClut> readClut(const String& bytes) const { return read(&zrClut::ReadClut, bytes); }
+  String written(const zrClut& table, Writer writer) const {
+    EXPECT_TRUE((table.*writer)(folder.item("out")));
     return folder.read("out");
   }
-  String writtenClut(const zrClut& table) const {
-    EXPECT_TRUE(table.WriteClut(folder.item("out")));
-    return folder.read("out");
-  }
+  String writtenSwatch(const zrClut& table) const { return written(table, &zrClut::writeSwatch); }
+  String writtenClut(const zrClut& table) const { return written(table, &zrClut::WriteClut); }
   // The table holds so many colours of the file, the last of them with only so many channels, and is otherwise as new.
   static void expectRead(const zrClut& table, Int32 colors, std::size_t channels = 3) {
     for (Int32 i = 0; i <= table.Count; ++i) {
@@ -80,8 +79,7 @@ TEST_F(SwatchFilesTest, TheNumberInTheFileBecomesTheUpperBound) {
   const struct {
     Int32 stated, colors, count, read;
   } rows[] = {
-      {1, 1, 1, 1}, {256, 256, 256, 256}, {300, 10, 300, 10},     {3, 10, 3, 3},
-      {0, 0, 0, 0}, {0, 5, 0, 5},         {0x8000, 5, -32768, 5},
+      {256, 256, 256, 256}, {300, 10, 300, 10}, {3, 10, 3, 3}, {0, 0, 0, 0}, {0, 5, 0, 5}, {0x8000, 5, -32768, 5},
   };
   for (const auto& row : rows) {
     const auto table = readSwatch(swatch(row.stated, row.colors));
@@ -129,28 +127,39 @@ TEST_F(SwatchFilesTest, FilesCutOffAnywhereGiveWhatTheyHave) {
 }
 
 TEST_F(SwatchFilesTest, FailuresAreToldAndLeaveTheTable) {
-  using Operation = bool (*)(zrClut&, const Ref<FolderItem>&);
-  const struct {
-    Operation call;
-    String message;
-  } rows[] = {
-      {[](zrClut& t, const Ref<FolderItem>& f) { return t.ReadSwatch(f); }, "Unable to read color swatch"},
-      {[](zrClut& t, const Ref<FolderItem>& f) { return t.ReadClut(f); }, "Unable to read color clut"},
-      {[](zrClut& t, const Ref<FolderItem>& f) { return t.writeSwatch(f); }, "Unable to save swatch file"},
-      {[](zrClut& t, const Ref<FolderItem>& f) { return t.WriteClut(f); }, "Unable to save clut file"},
-  };
   std::filesystem::create_directory(folder.path("folder"));
   const auto table = readSwatch(swatch(20, 10));
-  EXPECT_FALSE(table->ReadSwatch(folder.item("none")));
-  EXPECT_FALSE(table->ReadClut(folder.item("none")));
-  for (const auto& row : rows) {
-    EXPECT_FALSE(row.call(*table, nullptr));
-    EXPECT_TRUE(fake().messages.empty());
-    EXPECT_FALSE(row.call(*table, folder.item("folder")));
-    EXPECT_EQ(std::exchange(fake().messages, {}), std::vector<std::string>{row.message});
-    EXPECT_EQ(table->Index, 9);
-    expectRead(*table, 10);
+  for (const Reader reader : {&zrClut::ReadSwatch, &zrClut::ReadClut}) {
+    for (const auto& file : {Ref<FolderItem>(), folder.item("none"), folder.item("folder")})
+      EXPECT_FALSE(((*table).*reader)(file));
   }
+  for (const Writer writer : {&zrClut::writeSwatch, &zrClut::WriteClut}) {
+    for (const auto& file : {Ref<FolderItem>(), folder.item("folder")})
+      EXPECT_FALSE(((*table).*writer)(file));
+  }
+  const std::vector<std::string> messages{"Unable to read color swatch", "Unable to read color clut",
+                                          "Unable to save swatch file", "Unable to save clut file"};
+  EXPECT_EQ(fake().messages, messages);
+  EXPECT_EQ(table->Index, 9);
+  expectRead(*table, 10);
+}
+
+// Debian's ruby-color, another implementation of the format, reads what is written, and what it writes is read.
+TEST_F(SwatchFilesTest, AnotherProgramUnderstandsSwatchesTheSame) {
+  const auto table = New<zrClut>();
+  for (Int32 i = 0; i < 256; ++i)
+    table->SetColor(RGB(i, 255 - i, i * 7 % 256), i);
+  EXPECT_EQ(writtenSwatch(*table).size(), 2564u);
+  folder.write("program.rb", R"(require 'color/palette/adobecolor'
+    read = Color::Palette::AdobeColor.from_file('out')
+    abort read[2].html unless read[2].html == '#02fd0e'
+    File.binwrite('in', read.to_aco)
+  )");
+  ASSERT_EQ(std::system(("cd '" + folder.path("").string() + "' && /usr/bin/ruby program.rb").c_str()), 0);
+  const auto back = New<zrClut>();
+  EXPECT_TRUE(back->ReadSwatch(folder.item("in")));
+  for (Int32 i = 0; i < 256; ++i)
+    EXPECT_EQ(back->getColor(i), table->getColor(i)) << i;
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Pixel maps made from pictures, and drawn.
+// Pixel maps made from pictures and drawn, written as text and read.
 
 #include <limits>
 
@@ -13,69 +13,64 @@ using Bits = std::vector<std::uint32_t>;
 
 constexpr std::uint32_t kGround = 0x404040;
 
+// Three pixels by one, of 8 bits: black, magenta, and a colour whose bytes look like a character of three. Magenta is
+// transparent.
+const String kDigits = "H0003010802000000FF00FFE282AC01000102";
+const String kBytes("D\x00\x03\x01\x08\x02\x00\x00\x00\xFF\x00\xFF\xE2\x82\xAC\x01\x00\x01\x02", 19);
+
 Ref<Picture> pictureOf(Int32 width, const Bits& pixels) {
   Ref<Picture> picture = NewPicture(width, static_cast<Int32>(pixels.size()) / width, 32);
-  for (Int32 i = 0; i < static_cast<Int32>(pixels.size()); ++i) {
+  for (Int32 i = 0; i < static_cast<Int32>(pixels.size()); ++i)
     picture->Graphics().Pixel(i % width, i / width, Color{pixels[static_cast<std::size_t>(i)]});
-  }
   return picture;
-}
-
-Ref<Picture> ground(Int32 width, Int32 height) {
-  return pictureOf(width, Bits(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), kGround));
 }
 
 Bits pixelsOf(const Picture& picture) {
   Bits pixels;
-  for (Int32 y = 0; y < picture.Height(); ++y) {
-    for (Int32 x = 0; x < picture.Width(); ++x)
-      pixels.push_back(picture.RGBSurface().Pixel(x, y).bits);
-  }
+  for (Int32 i = 0; i < picture.Width() * picture.Height(); ++i)
+    pixels.push_back(picture.RGBSurface().Pixel(i % picture.Width(), i / picture.Width()).bits);
   return pixels;
 }
 
-Bits tableOf(const zrPixMap& map) {
-  Bits table;
-  for (const Color c : map.colors)
-    table.push_back(c.bits);
-  return table;
-}
+// Lets a test read numbers one by one.
+class Reader : public zrPixMap {
+ public:
+  using zrPixMap::int_pixBuffeLoad;
+  using zrPixMap::int_pixBufferGetColor;
+  using zrPixMap::int_pixBufferGetInteger;
+  using zrPixMap::int_pixBufferGetPixMap;
+};
 
 class zrPixMapTest : public RuntimeTest {
  protected:
   // A map of one row: black, white, red, green and a pixel whose index the table lacks.
   zrPixMapTest() {
+    map->hexadecimal = true;
     map->colors = {kBlack, kWhite, Color{0xFF0000}, Color{0x00FF00}};
     map->colorCount = 3;
     map->width = 5;
     map->height = 1;
     map->depth = 32;
-    map->pixmap = String("\x00\x01\x02\x03\x09", 5);
+    map->pixmap = "0001020309";
+  }
+
+  // What there is on a ground of two or five pixels after this.
+  static Bits drawn(Int32 width, const std::function<void(Graphics&)>& draw) {
+    const Ref<Picture> ground = pictureOf(width, Bits(static_cast<std::size_t>(width), kGround));
+    draw(ground->Graphics());
+    return pixelsOf(*ground);
   }
 
   Ref<zrPixMap> map = New<zrPixMap>();
-  Ref<zrPixMap> fresh = New<zrPixMap>();
+  Ref<Reader> fresh = New<Reader>();
 };
 
 TEST_F(zrPixMapTest, ColoursFollowBlackAndWhiteAsTheyAppear) {
-  const struct {
-    const char* name;
-    Bits pixels;
-    Bits table;
-    String indexes;
-  } rows[] = {
-      {"all black", {0, 0}, {0, 0xFFFFFF}, "0000"},
-      {"others", {0x00FF00, 0xFFFFFF, 1, 0x00FF00, 0, 1}, {0, 0xFFFFFF, 0x00FF00, 1}, "020103020003"},
-  };
-  for (const auto& row : rows) {
-    const Ref<zrPixMap> made = New<zrPixMap>();
-    made->hexadecimal = true;
-    made->CreateFromPicture(pictureOf(2, row.pixels));
-    EXPECT_EQ(tableOf(*made), row.table) << row.name;
-    EXPECT_EQ(made->colorCount, static_cast<Int32>(row.table.size()) - 1) << row.name;
-    EXPECT_EQ(made->pixmap, row.indexes) << row.name;
-    EXPECT_EQ(pixelsOf(*made->GetPicture()), row.pixels) << row.name;
-  }
+  fresh->hexadecimal = true;
+  const Bits pixels{0x00FF00, 0xFFFFFF, 1, 0x00FF00, 0, 1};
+  fresh->CreateFromPicture(pictureOf(2, pixels));
+  EXPECT_EQ(fresh->getPixMapData(), "H0002032003000000FFFFFF00FF0000000100020103020003");
+  EXPECT_EQ(pixelsOf(*fresh->GetPicture()), pixels);
 }
 
 TEST_F(zrPixMapTest, AFullTableGivesTheFirstEntryForFurtherColours) {
@@ -83,11 +78,9 @@ TEST_F(zrPixMapTest, AFullTableGivesTheFirstEntryForFurtherColours) {
   for (std::uint32_t i = 0; i < 300; ++i)
     pixels.push_back(0x100000 + i);
   fresh->CreateFromPicture(pictureOf(20, pixels));
-  EXPECT_EQ(fresh->colorCount, 255);
   EXPECT_EQ(fresh->colors.size(), 256u);
   for (Int32 i = 0; i < 300; ++i)
     EXPECT_EQ(AscB(MidB(fresh->pixmap, i + 1, 1)), i < 254 ? i + 2 : 0) << i;
-  EXPECT_TRUE(fake().messages.empty());
 }
 
 TEST_F(zrPixMapTest, WhatIsTooLargeOrNoPictureIsRefused) {
@@ -108,12 +101,8 @@ TEST_F(zrPixMapTest, WhatIsTooLargeOrNoPictureIsRefused) {
 TEST_F(zrPixMapTest, ANewFillKeepsTheFirstColourAndTheMask) {
   map->colors[0] = Color{0x0000FF};
   map->MaskColorIdx = 2;
-  map->MaskColor = Color{0xFF0000};
   map->CreateFromPicture(pictureOf(3, {0, 0x0000FF, 0xFFFFFF}));
-  EXPECT_EQ(tableOf(*map), Bits({0x0000FF, 0xFFFFFF, 0}));
-  EXPECT_EQ(map->pixmap, String("\x02\x00\x01", 3));
-  EXPECT_EQ(map->MaskColorIdx, 2);
-  EXPECT_EQ(map->MaskColor, Color{0xFF0000});
+  EXPECT_EQ(map->getPixMapData(), "H00030120020000FFFFFFFF00000002020001");
   EXPECT_EQ(pixelsOf(*map->GetPicture()), Bits({0, 0x0000FF, 0xFFFFFF})) << "the mask's index means black by now";
 }
 
@@ -132,15 +121,11 @@ TEST_F(zrPixMapTest, AColourIsBlackOutsideOfTheTable) {
 }
 
 TEST_F(zrPixMapTest, TheTransparentColourIsFoundOrAdded) {
-  const struct {
-    std::uint32_t color;
-    Int32 index, count;
-  } rows[] = {{0xFF00FF, 4, 4}, {0x00FF00, 3, 4}, {0xFF00FF, 4, 4}};
   map->depth = 8;
-  for (const auto& row : rows) {
-    map->setMaskColor(Color{row.color});
-    EXPECT_EQ(map->MaskColorIdx, row.index);
-    EXPECT_EQ(map->colorCount, row.count);
+  for (const auto& [color, index] : {std::pair{0xFF00FFu, 4}, {0x00FF00u, 3}, {0xFF00FFu, 4}}) {
+    map->setMaskColor(Color{color});
+    EXPECT_EQ(map->MaskColorIdx, index);
+    EXPECT_EQ(map->colorCount, 4);
   }
   EXPECT_EQ(map->GetPicture()->Depth(), 32) << "a mask takes all of it";
   for (const auto& [mask, depth] : {std::pair{kWhite, 32}, {kBlack, 8}}) {
@@ -156,27 +141,18 @@ TEST_F(zrPixMapTest, ThePaintersFollowTheIndexOfTheMask) {
   constexpr std::uint32_t off = 0xFFFFFF;
   const struct {
     Int32 index;
-    std::uint32_t maskColor;
-    Bits drawn;
-    Bits mask;
+    Bits drawn, mask;
   } rows[] = {
-      {0, 0, {0, 0xFFFFFF, 0xFF0000, 0x00FF00, 0}, {off, on, on, on, off}},
-      {1, 0xFFFFFF, {0, kGround, 0xFF0000, 0x00FF00, 0}, {on, off, on, on, on}},
-      {2, 0xFF0000, {0, 0xFFFFFF, kGround, 0x00FF00, 0}, {on, on, off, on, on}},
-      {9, 0, {0, 0xFFFFFF, 0xFF0000, 0x00FF00, 0}, {off, on, on, on, off}},
+      {0, {0, 0xFFFFFF, 0xFF0000, 0x00FF00, 0}, {off, on, on, on, off}},
+      {1, {0, kGround, 0xFF0000, 0x00FF00, 0}, {on, off, on, on, on}},
+      {9, {0, 0xFFFFFF, 0xFF0000, 0x00FF00, 0}, {off, on, on, on, off}},
   };
   for (const auto& row : rows) {
     map->MaskColorIdx = row.index;
     map->MaskColor = Color{0x00FF00};
-    const Ref<Picture> drawn = ground(5, 1);
-    map->DrawPixMap(&drawn->Graphics(), 0, 0);
-    EXPECT_EQ(pixelsOf(*drawn), row.drawn) << row.index;
-    EXPECT_EQ(map->MaskColor, Color{row.maskColor}) << row.index;
+    EXPECT_EQ(drawn(5, [&](Graphics& g) { map->DrawPixMap(&g, 0, 0); }), row.drawn) << row.index;
     map->MaskColor = Color{0x00FF00};
-    const Ref<Picture> mask = ground(5, 1);
-    map->DrawPixMapMask(&mask->Graphics(), 0, 0);
-    EXPECT_EQ(pixelsOf(*mask), row.mask) << row.index;
-    EXPECT_EQ(map->MaskColor, Color{row.maskColor}) << row.index;
+    EXPECT_EQ(drawn(5, [&](Graphics& g) { map->DrawPixMapMask(&g, 0, 0); }), row.mask) << row.index;
     EXPECT_EQ(pixelsOf(*map->GetPicture32()->Mask(false)), row.mask) << row.index;
   }
 }
@@ -187,10 +163,78 @@ TEST_F(zrPixMapTest, DrawingIsClippedAnywhere) {
     Int32 x, y;
     Bits drawn;
   } rows[] = {{-2, 0, {0xFF0000, 0x00FF00}}, {1, 0, {kGround, 0}}, {most, most, {kGround, kGround}}};
+  for (const auto& row : rows)
+    EXPECT_EQ(drawn(2, [&](Graphics& g) { map->DrawPixMap(&g, row.x, row.y); }), row.drawn) << row.x;
+}
+
+TEST_F(zrPixMapTest, ATextIsReadAndWrittenAgain) {
+  for (const String& text : {kBytes, kDigits}) {
+    fresh->CreateFromPixMapData(text);
+    EXPECT_EQ(fresh->getPixMapData(), text);
+    const Ref<Picture> picture = fresh->GetPicture32();
+    EXPECT_EQ(picture->RGBSurface().Pixel(2, 0), Color{0xE282AC});
+    EXPECT_EQ(pixelsOf(*picture->Mask(false)), Bits({0, 0xFFFFFF, 0}));
+  }
+  fresh->CreateFromPixMapData(kDigits);
+  fresh->hexadecimal = false;
+  EXPECT_EQ(fresh->getPixMapData(), kBytes.substr(0, 16) + "000102") << "pixels go into a text as they are";
+}
+
+TEST_F(zrPixMapTest, AnotherVersionIsRefusedAndChangesNothing) {
+  fresh->CreateFromPixMapData(kBytes);
+  for (const String& text : {String("D\x01\x09\x09", 4), String("H01090920")})
+    fresh->CreateFromPixMapData(text);
+  EXPECT_EQ(fake().messages, std::vector<std::string>(2, "Incompatible TxPixelMap Version."));
+  EXPECT_TRUE(fresh->hexadecimal) << "but for the form";
+  fresh->hexadecimal = false;
+  EXPECT_EQ(fresh->getPixMapData(), kBytes);
+}
+
+TEST_F(zrPixMapTest, TheFormLetterOnlyEverTurnsDigitsOn) {
+  const struct {
+    String text;
+    bool before, after;
+    Int32 first;
+    Int32 left;  // bytes, behind the first number
+  } rows[] = {
+      {"h1E", false, true, 0x1E, 0}, {"d1E", false, false, '1', 1},       {"D1E", true, true, 0x1E, 0},
+      {"1E", false, false, '1', 1},  {"1EF", true, true, 0x1E, 1},        {"", false, false, 0, 0},
+      {"HH1E", false, true, 0, 1},   {"\xC3\xA4", false, false, 0xC3, 1},
+  };
   for (const auto& row : rows) {
-    const Ref<Picture> drawn = ground(2, 1);
-    map->DrawPixMap(&drawn->Graphics(), row.x, row.y);
-    EXPECT_EQ(pixelsOf(*drawn), row.drawn) << row.x << " " << row.y;
+    fresh->hexadecimal = row.before;
+    fresh->int_pixBuffeLoad(row.text);
+    EXPECT_EQ(fresh->hexadecimal, row.after) << row.text;
+    EXPECT_EQ(fresh->int_pixBufferGetInteger(), row.first) << row.text;
+    EXPECT_EQ(LenB(fresh->int_pixBufferGetPixMap()), row.left) << row.text;
+  }
+}
+
+TEST_F(zrPixMapTest, DigitsThatAreNoneAreLeftToTheReaderOfNumbers) {
+  fresh->int_pixBuffeLoad(String("HfF1GG1 F-1\0", 12) + "1&hA");
+  for (const Int32 number : {255, 1, 0, 0, 0, 0, 0, 10, 0, 0})
+    EXPECT_EQ(fresh->int_pixBufferGetInteger(), number);
+  fresh->int_pixBuffeLoad("HFE01A");
+  EXPECT_EQ(fresh->int_pixBufferGetColor(), Color{0xFE010A});
+  EXPECT_EQ(fresh->int_pixBufferGetColor(), kBlack);
+}
+
+// What a text is too short for counts as 0, as if so many zeros stood there.
+TEST_F(zrPixMapTest, ATextMayEndAnywhere) {
+  for (const String& text : {kDigits, kBytes}) {
+    const bool hexadecimal = text[0] == 'H';
+    for (std::size_t length = 1; length < text.size(); length += hexadecimal ? 2 : 1) {
+      const Ref<zrPixMap> cut = New<zrPixMap>();
+      cut->CreateFromPixMapData(text.substr(0, length));
+      const Ref<zrPixMap> filled = New<zrPixMap>();
+      filled->CreateFromPixMapData(text.substr(0, length) + String(50, hexadecimal ? '0' : '\0'));
+      EXPECT_LE(LenB(cut->pixmap), hexadecimal ? 6 : 3) << length;
+      filled->pixmap = cut->pixmap;
+      EXPECT_EQ(cut->getPixMapData(), filled->getPixMapData()) << length;
+      const Ref<Picture> picture = cut->GetPicture32();
+      EXPECT_EQ(static_cast<bool>(picture), cut->depth != 0) << length;
+      EXPECT_TRUE(!picture || picture->RGBSurface().Pixel(2, 0) == cut->GetColor(0)) << length;
+    }
   }
 }
 
