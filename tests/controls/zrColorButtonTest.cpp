@@ -69,16 +69,20 @@ TEST_F(zrColorButtonTest, ThePointerChangesItsState) {
     Int32 before;
     bool enabled;
     Int32 after;
-    const char* log;
-  } rows[] = {{&zrColorButton::Event_MouseEnter, 0, true, 1, ""},
-              {&zrColorButton::Event_MouseEnter, 0, false, 0, ""},
-              {&zrColorButton::Event_MouseExit, 1, false, 0, ""},
-              {&zrColorButton::Event_MouseExit, 3, true, 0, "button-000000 "}};
+    bool paints;
+    const char* log = "";
+  } rows[] = {{&zrColorButton::Event_MouseEnter, 0, true, 1, true},
+              {&zrColorButton::Event_MouseEnter, 0, false, 0, false},
+              {&zrColorButton::Event_MouseExit, 1, false, 0, true},
+              {&zrColorButton::Event_MouseExit, 0, true, 0, false},
+              {&zrColorButton::Event_MouseExit, 3, true, 0, true, "button-000000 "}};
   for (const auto& row : rows) {
     button.Enabled = row.enabled;
     button.State = row.before;
+    button.Graphics().Pixel(1, 1, kBlack);
     EXPECT_EQ(after([&] { (button.*row.event)(); }), row.log) << "from " << row.before;
     EXPECT_EQ(button.State, row.after) << "from " << row.before;
+    EXPECT_EQ(button.Graphics().Pixel(1, 1) == kWhite, row.paints) << "from " << row.before;
   }
 }
 

@@ -70,8 +70,8 @@ TEST_F(zrColorCHBarTest, ADragChangesTheValueButTheColourOnlyAtItsEnd) {
   gesture::dragTo(bar, 100, -3);
   EXPECT_EQ(bar.Value, 2) << "above the bar the value stands still";
   bar.WebSafe = true;
-  gesture::dragTo(bar, 50, 5);
-  gesture::release(bar, 50, 5);
+  gesture::dragTo(bar, 62, 5);
+  gesture::release(bar, 62, 5);
   EXPECT_EQ(host->log, "changing-804020 changing-804020 action-664020 ") << "down to a multiple of 51";
 }
 

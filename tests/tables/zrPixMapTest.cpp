@@ -171,6 +171,7 @@ TEST_F(zrPixMapTest, ATextIsReadAndWrittenAgain) {
   for (const String& text : {kBytes, kDigits}) {
     fresh->CreateFromPixMapData(text);
     EXPECT_EQ(fresh->getPixMapData(), text);
+    EXPECT_EQ(fresh->MaskColor, Color{0xFF00FF});
     const Ref<Picture> picture = fresh->GetPicture32();
     EXPECT_EQ(picture->RGBSurface().Pixel(2, 0), Color{0xE282AC});
     EXPECT_EQ(pixelsOf(*picture->Mask(false)), Bits({0, 0xFFFFFF, 0}));

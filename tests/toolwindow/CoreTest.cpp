@@ -1,5 +1,6 @@
 // The tool window itself: its selected colour and the controls that show and change it.
 
+#include <algorithm>
 #include <set>
 
 #include "toolwindow/ToolWindowTest.h"
@@ -19,27 +20,23 @@ class CoreTest : public ToolWindowTest {
     for (const zrColorCHBar& bar : window->cmdMixer)
       EXPECT_EQ(bar.propBaseColor, c) << bar.Index;
   }
-
-  bool tipShows() const { return window->rTIP.Visible; }
 };
 
-TEST_F(CoreTest, OpensFoldedAndIdleAtTheStartColour) {
+TEST_F(CoreTest, OpensIdleAtTheStartColour) {
   expectShown(Color{0x70ABFF}, "Color: 112.171.255, #70ABFF", "Color: 112.171.255, 215.56.100, #70ABFF");
-  EXPECT_FALSE(tipShows());
   EXPECT_TRUE(fake().pixelsRead.empty());
   EXPECT_FALSE(fake().nextAlarm());
-  EXPECT_EQ(firstFault(*window, {1, [](Int32, Int32) { return kWhite; }, kBlack, 4}), "");
+  EXPECT_EQ(firstFault({1, [](Int32, Int32) { return kWhite; }, kBlack, 4}), "");
 }
 
 TEST_F(CoreTest, TheTabulatorVisitsWhatTakesKeysAndIsInSight) {
-  constexpr int kTab = 0x01000001;
   auto& bar = window->cmdMixer;
   const auto visits = [this](const std::vector<const RectControl*>& order) {
     window->cmdColor.SetFocus();
     ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(window->cmdColor); }));
     for (const RectControl* next : order) {
       EXPECT_TRUE(gesture::hasKeyboard(*next)) << next->Name() << " " << next->Index;
-      gesture::key(*next, kTab);
+      gesture::key(*next, 0x01000001);
     }
     EXPECT_TRUE(gesture::hasKeyboard(window->cmdColor)) << "from the last to the first";
   };
@@ -56,17 +53,16 @@ TEST_F(CoreTest, TheWebSafePairShowsForAnyOtherColour) {
     bool safe;
     std::uint32_t box;  // what the box shows from here on
   } rows[] = {{0x70ABFF, false, 0x6699FF}, {0xFF9900, true, 0x6699FF}, {0xFF00FE, false, 0xFF00FF}};
-  for (const auto& row : rows) {
-    window->setColor(Color{row.color}, false);
-    EXPECT_EQ(window->imgWebSafe.Visible, !row.safe) << row.color;
-    EXPECT_EQ(window->cmdMakeWebSafe.Visible, !row.safe) << row.color;
-    EXPECT_EQ(window->cmdMakeWebSafe.Value, Color{row.box}) << row.color;
+  for (const auto& [color, safe, box] : rows) {
+    window->setColor(Color{color}, false);
+    EXPECT_EQ(window->imgWebSafe.Visible, !safe) << color;
+    EXPECT_EQ(window->cmdMakeWebSafe.Visible, !safe) << color;
+    EXPECT_EQ(window->cmdMakeWebSafe.Value, Color{box}) << color;
   }
   EXPECT_EQ(window->imgWebSafe.Graphics().Pixel(4, 3), Color{0xE8E8E8}) << "the badge's cube";
   EXPECT_EQ(window->imgWebSafe.Graphics().Pixel(0, 0), window->BackColor.get());
   gesture::click(window->cmdMakeWebSafe, 6, 6);
   expectShown(Color{0xFF00FF}, "Color: 255.0.255, #FF00FF", "Color: 255.0.255, 300.100.100, #FF00FF");
-  EXPECT_FALSE(window->imgWebSafe.Visible || window->cmdMakeWebSafe.Visible);
 }
 
 // A thread that gets a turn meanwhile finds the swatches done, and any number of the bars.
@@ -76,15 +72,12 @@ TEST_F(CoreTest, ANewColourLetsThreadsRunBetweenTheBars) {
     Thread watcher{*this, "watcher"};
   };
   const Ref<Watched> watched = New<Watched>();
-  std::set<int> done;
+  std::set<std::ptrdiff_t> done;
   bool running = true;
   Color now = watched->SelectedColor;
   watched->watcher.RunEvent = [&] {
     while (running) {
-      int bars = 0;
-      for (const zrColorCHBar& bar : watched->cmdMixer)
-        bars += bar.propBaseColor == now ? 1 : 0;
-      done.insert(bars);
+      done.insert(std::ranges::count(watched->cmdMixer, now, &zrColorCHBar::propBaseColor));
       EXPECT_EQ(watched->SelectedColor, now);
       EXPECT_EQ(watched->sm.Value, now);
       EXPECT_EQ(watched->cmdColor.Value, now);
@@ -101,44 +94,31 @@ TEST_F(CoreTest, ANewColourLetsThreadsRunBetweenTheBars) {
   }
   running = false;
   fake().advance(1ms);
-  EXPECT_EQ(done, std::set<int>({1, 2, 3, 4, 5, 6}));
+  EXPECT_EQ(done, std::set<std::ptrdiff_t>({1, 2, 3, 4, 5, 6}));
 }
 
-TEST_F(CoreTest, ABarChangesTheColourWhenTheHandLetsGoOrWithAKey) {
-  constexpr int kKeyRight = 0x01000014;
-  zrColorCHBar& green = window->cmdMixer[1];
-  window->imgScreen.Graphics().Pixel(10, 10, Color{0x010203});
+TEST_F(CoreTest, ABarChangesTheColourWhenTheHandLetsGoAndTheTipGoesASecondAfterTheLastChange) {
+  const zrColorCHBar& green = window->cmdMixer[1];
+  const auto tip = [&] { return window->rTIP.Visible ? window->rLblTip.Text.get() : "none"; };
+  EXPECT_EQ(tip(), "none");
   gesture::press(green, green.Lastx, 10);
-  gesture::dragTo(green, 5, 10);
+  for (const auto& [x, text] : {std::pair{60, "Green 127"}, {5, "Green 0"}}) {
+    fake().advance(600ms);
+    gesture::dragTo(green, x, 10);
+    EXPECT_EQ(tip(), text);
+  }
   EXPECT_EQ(window->SelectedColor, Color{0x70ABFF});
-  EXPECT_EQ(window->rLblTip.Text.get(), "Green 0");
-  EXPECT_TRUE(tipShows());
-  gesture::release(green, 5, 10);
-  expectShown(Color{0x7000FF}, "Color: 112.0.255, #7000FF", "Color: 112.0.255, 266.100.100, #7000FF");
-  EXPECT_FALSE(tipShows());
-  EXPECT_FALSE(fake().nextAlarm());
-  gesture::key(green, kKeyRight);
-  expectShown(Color{0x7001FF}, "Color: 112.1.255, #7001FF", "Color: 112.1.255, 266.99.100, #7001FF");
-  EXPECT_FALSE(tipShows());
-  EXPECT_EQ(window->imgScreen.Graphics().Pixel(10, 10), Color{0x010203});
-  EXPECT_TRUE(fake().pixelsRead.empty());
-}
-
-TEST_F(CoreTest, TheTipGoesASecondAfterTheLastChange) {
-  zrColorCHBar& bar = window->cmdMixer[3];
-  bar.SetValue(128);
-  bar.ValueChanging();
-  EXPECT_TRUE(tipShows());
-  EXPECT_EQ(window->rLblTip.Text.get(), "Hue 050");
-  fake().advance(600ms);
-  bar.SetValue(255);
-  bar.ValueChanging();
-  EXPECT_EQ(window->rLblTip.Text.get(), "Hue 100");
   fake().advance(999ms);
-  EXPECT_TRUE(tipShows());
+  EXPECT_EQ(tip(), "Green 0");
   fake().advance(1ms);
-  EXPECT_FALSE(tipShows());
+  EXPECT_EQ(tip(), "none");
+  gesture::dragTo(green, 115, 10);
+  gesture::release(green, 115, 10);
+  EXPECT_EQ(tip(), "none");
   EXPECT_FALSE(fake().nextAlarm());
+  expectShown(Color{0x70FFFF}, "Color: 112.255.255, #70FFFF", "Color: 112.255.255, 180.56.100, #70FFFF");
+  gesture::key(green, 0x01000012);
+  EXPECT_EQ(window->SelectedColor, Color{0x70FEFF});
 }
 
 }  // namespace

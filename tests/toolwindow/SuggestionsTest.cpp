@@ -37,25 +37,27 @@ TEST(SuggestionsTest, RelatedHuesGoRoundTheCircle) {
 
 TEST(SuggestionsTest, RampsVaryOneChannelEach) {
   const std::vector<Color> list = suggestionsFor(RGB(10, 20, 30));
-  EXPECT_EQ(list[67], RGB(25, 20, 30));
-  EXPECT_EQ(list[75], RGB(225, 20, 30));
-  EXPECT_EQ(list[76], RGB(10, 25, 30));
-  EXPECT_EQ(list[93], RGB(10, 20, 225));
+  for (const auto& [i, c] :
+       {std::pair{67, RGB(25, 20, 30)}, {75, RGB(225, 20, 30)}, {76, RGB(10, 25, 30)}, {93, RGB(10, 20, 225)}})
+    EXPECT_EQ(list.at(static_cast<std::size_t>(i)), c) << i;
 }
 
 TEST(ColourCellsTest, StandInRowsThatEndAheadOfTheRightEdge) {
   const Ref<Picture> canvas = NewPicture(408, 192, 32);
-  Graphics& g = canvas->Graphics();
-  drawCells(g, suggestionsFor(Color{0x123456}));
-  const Color frame = RGB(144, 144, 144), ground{0xA0A0A0};
-  EXPECT_EQ(g.Pixel(13, 10), frame);
-  EXPECT_EQ(g.Pixel(14, 11), kWhite);
-  EXPECT_EQ(g.Pixel(15, 12), suggestionsFor(Color{0x123456})[0]);
-  EXPECT_EQ(g.Pixel(373, 10), frame) << "the sixteenth";
-  EXPECT_EQ(g.Pixel(397, 10), ground);
-  EXPECT_EQ(g.Pixel(325, 135), frame) << "the last of fourteen in the last row";
-  EXPECT_EQ(g.Pixel(349, 135), ground);
-  EXPECT_EQ(g.Pixel(407, 191), kWhite);
+  const std::vector<Color> colours(94, Color{0x123456});
+  drawCells(canvas->Graphics(), colours);
+  const Color frame{0x909090};
+  const Color ground{0xA0A0A0};
+  const struct {
+    Int32 x, y;
+    Color c;
+    const char* what;
+  } rows[] = {{13, 10, frame, "the first"},       {14, 11, kWhite, "its inner frame"},
+              {15, 12, colours[0], "its colour"}, {373, 10, frame, "the sixteenth"},
+              {397, 10, ground, "no more"},       {325, 135, frame, "the last"},
+              {349, 135, ground, "no more"},      {407, 191, kWhite, "the corner"}};
+  for (const auto& [x, y, c, what] : rows)
+    EXPECT_EQ(canvas->Graphics().Pixel(x, y), c) << what;
 
   const Ref<Picture> narrow = NewPicture(42, 192, 32);
   drawCells(narrow->Graphics(), {kBlack});

@@ -1,0 +1,157 @@
+// What the preview shows in place of the screen, and the commands that choose it.
+
+#include <algorithm>
+
+#include "color/zrXYZ.h"
+#include "favourites/frmFav.h"
+#include "toolwindow/DistinctColours.h"
+#include "toolwindow/ToolWindowTest.h"
+
+namespace tavrelkin {
+namespace {
+
+using Colours = std::vector<Color>;
+
+// A picture of these colours, column by column, and of black behind them.
+Ref<Picture> pictureOf(const Colours& colours, Int32 width, Int32 height) {
+  Ref<Picture> picture = NewPicture(width, height, 32);
+  for (Int32 i = 0; i < width * height; ++i) {
+    const auto at = static_cast<std::size_t>(i);
+    picture->Graphics().Pixel(i / height, i % height, at < colours.size() ? colours[at] : kBlack);
+  }
+  return picture;
+}
+
+// More than 256 colours of which no two are alike: each step is 31, at least two steps lie between any two of them, and
+// they are not so light that these 62 would be within the tolerance.
+Colours unlikeColours() {
+  Colours colours;
+  for (Int32 i = 0; i < 9 * 9 * 9; ++i) {
+    const Int32 steps[] = {i / 81, i / 9 % 9, i % 9};
+    const Int32 sum = steps[0] + steps[1] + steps[2];
+    if (sum % 2 == 0 && sum <= 18 && *std::max_element(steps, steps + 3) > 2)
+      colours.push_back(RGB(31 * steps[0], 31 * steps[1], 31 * steps[2]));
+  }
+  return colours;
+}
+
+TEST(DistinctColoursTest, AlikeIsWithinATenthOfTheBrighterChannels) {
+  const struct {
+    Color met, next;
+    bool alike;
+  } rows[] = {
+      {RGB(109, 0, 0), RGB(99, 0, 0), true},      {RGB(109, 0, 0), RGB(98, 0, 0), false},
+      {RGB(200, 100, 0), RGB(185, 116, 0), true}, {RGB(200, 100, 0), RGB(184, 116, 0), false},
+      {RGB(0, 100, 0), RGB(0, 0, 100), false},    {RGB(80, 80, 200), RGB(92, 92, 188), true},
+  };
+  for (const auto& [met, next, alike] : rows) {
+    EXPECT_EQ(distinctColours(*pictureOf({met, next}, 2, 1), 9).size(), alike ? 1u : 2u) << Hex(toInt32(met.bits));
+    EXPECT_EQ(distinctColours(*pictureOf({next, met}, 2, 1), 9).size(), alike ? 1u : 2u) << Hex(toInt32(next.bits));
+  }
+}
+
+TEST(DistinctColoursTest, TheWalkKeepsTheFirstOfAFamilyColumnByColumnAndNoDarkOnes) {
+  const Colours dark{RGB(76, 0, 0), RGB(0, 76, 76), RGB(0, 0, 76), RGB(76, 76, 76)};
+  EXPECT_EQ(distinctColours(*pictureOf(dark, 3, 2), 9), Colours{});
+  const Colours limit{RGB(77, 0, 0), RGB(0, 77, 0), RGB(0, 0, 77)};
+  EXPECT_EQ(distinctColours(*pictureOf(limit, 3, 2), 9), limit);
+  const Color a = RGB(100, 0, 0);
+  const Color likeA = RGB(91, 0, 0);
+  const Color likeThat = RGB(82, 0, 0);
+  EXPECT_EQ(distinctColours(*pictureOf({a, likeA, likeThat, kWhite, likeA, a}, 3, 2), 9),
+            (Colours{a, likeThat, kWhite}));
+}
+
+class ViewsTest : public ToolWindowTest {
+ protected:
+  Color shown(Int32 x, Int32 y) const { return window->imgScreen.Graphics().Pixel(x, y); }
+};
+
+TEST_F(ViewsTest, TheGridAndANewPaletteShowTheColoursUpToTheirLimits) {
+  const Colours all = unlikeColours();
+  const struct {
+    Ref<Picture> picture;
+    Colours cells, entries;
+  } rows[] = {{pictureOf(all, 25, 20), {all.begin(), all.begin() + 112}, {all.begin(), all.begin() + 255}},
+              {pictureOf({all[5], all[9]}, 2, 2), {all[5], all[9]}, {all[5], all[9]}},
+              {pictureOf({}, 20, 20), {}, {}},
+              {window->zoomImage, {kWhite}, {kWhite}}};  // blank, as it is before the first sample
+  choose("mnuShowColors");
+  for (const auto& [picture, cells, entries] : rows) {
+    window->zoomImage = picture;
+    window->imgScreen.Refresh(true);
+    Int32 i = 0;
+    for (const Color c : cells) {
+      ASSERT_EQ(shown(23 + i % 16 * 24, 20 + i / 16 * 25), c) << i;
+      ++i;
+    }
+    EXPECT_EQ(shown(13 + i % 16 * 24, 10 + i / 16 * 25), Color{0xA0A0A0}) << i;
+    window->Show();
+    choose("mnuFavFromColors");
+    auto& palette = dynamic_cast<frmFav&>(*Application::current().frontWindow());
+    Colours wanted = entries;
+    wanted.resize(256, kWhite);
+    EXPECT_EQ(palette.TheClut->aColors, wanted);
+    EXPECT_EQ(palette.imgClut.Graphics().Pixel(1, 1), wanted[0]);
+  }
+}
+
+TEST_F(ViewsTest, NineSwatchesShowTheColourOfTheLastPaintAsDichromatsSeeIt) {
+  choose("mnuColorBlind");
+  window->setColor(Color{0x336699}, false);
+  for (const Color c : {Color{0x70ABFF}, Color{0x336699}}) {
+    zrXYZ model(c);
+    for (Int32 i = 0; i < 9; ++i) {
+      const Int32 left = 100 + 48 * (i % 3);
+      const Int32 top = 12 + 44 * (i / 3);
+      model.gamma = i < 3 ? 1.7 : i < 6 ? 1.8 : 2.2;
+      model.XYZFromRGB(c);
+      EXPECT_EQ(shown(left, top), Color{0x909090});
+      EXPECT_EQ(shown(left + 38, top + 38), kWhite);
+      EXPECT_EQ(shown(left + 2, top + 37), model.getDichromatTranformation(i % 3, c)) << i;
+      EXPECT_EQ(shown(left + 40, top), window->BackColor.get());
+    }
+    window->imgScreen.Refresh(true);  // for which a new colour waits
+  }
+}
+
+TEST_F(ViewsTest, OneAtATimeExceptWhileFollowing) {
+  // S, J and D choose the three views, F follows, G shows the guides, and c clicks in the preview.
+  const struct {
+    const char* commands;
+    const char* marks;
+    bool repaints;  // the last command
+  } rows[] = {
+      {"SS", "", true},
+      {"SJ", "mnuShowColors ", true},
+      {"JJ", "", true},
+      {"JD", "mnuColorBlind ", true},
+      {"DD", "", true},
+      {"DS", "mnuViewSuggestions ", true},
+      {"DJ", "mnuShowColors ", true},
+      {"SF", "mnuFollow ", false},
+      {"DF", "mnuFollow mnuColorBlind ", false},
+      {"FS", "mnuFollow mnuViewSuggestions ", true},
+      {"FSF", "mnuViewSuggestions ", false},
+      {"Sc", "", false},
+      {"Dc", "mnuColorBlind ", false},
+      {"GG", "", true},
+      {"DG", "mnuColorBlind mnuShowGuide ", true},
+  };
+  for (const auto& [commands, marked, repaints] : rows) {
+    startAnew();
+    for (const char command : String(commands)) {
+      window->imgScreen.Graphics().Pixel(10, 10, Color{0x010203});
+      if (command == 'c') {
+        gesture::click(window->imgScreen, 5, 5);
+      } else {
+        gesture::shortcut(*window, String("Cmd+") + command);
+      }
+    }
+    EXPECT_EQ(marks(), marked) << commands;
+    EXPECT_EQ(shown(10, 10) != Color{0x010203}, repaints) << commands;
+  }
+}
+
+}  // namespace
+}  // namespace tavrelkin
