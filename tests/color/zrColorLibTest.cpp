@@ -10,10 +10,7 @@ namespace {
 constexpr Color kOrange = RGB(255, 128, 0);
 
 TEST(ColorTextTest, AllNumbersAreCutDownToWholeOnes) {
-  const struct {
-    Color color;
-    const char* text;
-  } rows[] = {
+  const std::pair<Color, const char*> rows[] = {
       {kOrange, "Color: 255.128.0, 30.100.100, #FF8000"},
       {RGB(10, 11, 12), "Color: 10.11.12, 210.16.4, #0A0B0C"},
       {RGB(255, 0, 1), "Color: 255.0.1, 359.100.100, #FF0001"},  // a hue of 359.76
@@ -24,16 +21,6 @@ TEST(ColorTextTest, AllNumbersAreCutDownToWholeOnes) {
   EXPECT_EQ(getRGBStr(kOrange), "255, 128, 0");
 }
 
-TEST(ColorTextTest, ReadsBackWhatItWrites) {
-  for (Int32 i = 0; i < 256; ++i) {
-    const Color c = RGB(i, 255 - i, i * 7 % 256);
-    Color read;
-    EXPECT_EQ(getColorFromRGB(getRGBStr(c)), c);
-    EXPECT_TRUE(getColorFromString("#" + getHexStr(c), read));
-    EXPECT_EQ(read, c);
-  }
-}
-
 Color pasted(const String& text) {
   Color c = kWhite;
   EXPECT_TRUE(getColorFromString(text, c)) << text;
@@ -41,26 +28,18 @@ Color pasted(const String& text) {
 }
 
 TEST(ColorTextTest, ReadsWhatPeopleWrite) {
-  const struct {
-    Color (*read)(const String&);
-    const char* text;
-    Color color;
-  } rows[] = {
+  const std::tuple<Color (*)(const String&), const char*, Color> rows[] = {
       {getColorFromHex, "ff8000", kOrange},
       {getColorFromHex, "#F80", RGB(15, 8, 0)},
-      {getColorFromHex, "1GGG0G", RGB(1, 0, 0)},
       {getColorFromHex, "# F+1-1", kBlack},
       {getColorFromHex, "##12345", RGB(0, 0x23, 0x45)},
       {getColorFromHex, "#FF80000", kBlack},
       {getColorFromHex, "F0\xC3\xA4", RGB(15, 0, 0)},
-      {getColorFromRGB, "  255 ,\t128x, 0 ", kOrange},
-      {getColorFromRGB, "255.9,128.9,0.9,77", kOrange},
+      {getColorFromRGB, "  255.9 ,\t128x, 0 ,77", kOrange},
       {getColorFromRGB, ",,9", RGB(0, 0, 9)},
       {getColorFromRGB, "999,-5,1e99", RGB(255, 0, 255)},
       {getColorFromRGB, "&hFF,&h80", kOrange},
-      {getColorFromRGB, "", kBlack},
       {pasted, " \n#ff8000\r\n", kOrange},
-      {pasted, "#GGGGGG", kBlack},
       {pasted, "255.128.0", RGB(255, 0, 0)},
       {pasted, "1.5,2.5,3", RGB(1, 2, 3)},
       {pasted, "#12.4.6", kBlack},

@@ -26,10 +26,7 @@ TEST(zrXYZTest, GammaCountsOnlyWhenAColourIsTaken) {
 
 // The two ways back to a colour. A factor that is off by its last digit changes one of the rows with large values.
 TEST(zrXYZTest, ConvertsToAColourAndToWholeParts) {
-  const struct {
-    Double x, y, z;
-    Color color, parts;
-  } rows[] = {
+  const std::tuple<Double, Double, Double, Color, Color> rows[] = {
       {0.3, 0.3, 0.3, RGB(91, 72, 69), kBlack},
       {0.1, 0.5, 0.2, RGB(0, 216, 27), kBlack},                // red is -123.8
       {0.9505, 1.0, 1.089, RGB(255, 254, 255), RGB(0, 1, 0)},  // green is 254.99

@@ -15,22 +15,16 @@ class Host : public Window {
  public:
   explicit Host(Int32 channel = 0) : Window({.title = "Host", .width = 431, .height = 200}) {
     palette.place(20, 7, 391, 105);
-    palette.Open = [this] { note("palette-opens", palette.wBox); };
-    palette.Action = [this](Int32 index, Color c) { note("selects", c, index); };
-    palette.Change = [this](Int32 index, Color c) { note("changes", c, index); };
+    palette.Open = [this] { log += "palette-opens-" + Str(palette.wBox) + " "; };
+    palette.Action = [this](Int32 index, Color c) { note("selects-" + Str(index), c); };
+    palette.Change = [this](Int32 index, Color c) { note("changes-" + Str(index), c); };
     box.place(20, 120, 13, 14);
     box.Action = [this] { note("box", box.Value); };
-    box.ColorDrop = [this](Color c) {
-      note("asks", c);
-      return agrees;
-    };
+    box.ColorDrop = [this](Color c) { return note("asks", c, agrees); };
     box.ColorChanged = [this] { note("changes", box.Value); };
     button.place(60, 120, 106, 20);
-    button.Open = [this] { note("button-opens", button.propColorFormat); };
-    button.BeforeSelectColor = [this] {
-      note("before", button.Value);
-      return skipsDialog;
-    };
+    button.Open = [this] { log += "button-opens-" + Str(button.propColorFormat) + " "; };
+    button.BeforeSelectColor = [this] { return note("before", button.Value, skipsDialog); };
     button.Action = [this] { note("button", button.Value); };
     button.Change = [this] { note("changes", button.Value); };
     bar.place(200, 120, 121, 20);
@@ -39,9 +33,10 @@ class Host : public Window {
     bar.Change = [this] { note("change", bar.propBaseColor); };
     bar.ValueChanging = [this] { note("changing", bar.propBaseColor); };
   }
-  void note(const String& event, Color c, Int32 index) { note(event + "-" + Str(index), c); }
-  void note(const String& event, Color c) { log += event + "-" + getHexStr(c) + " "; }
-  void note(const String& event, Int32 number) { log += event + "-" + Str(number) + " "; }
+  bool note(const String& event, Color c, bool answer = true) {
+    log += event + "-" + getHexStr(c) + " ";
+    return answer;
+  }
 
   zrClutPalette palette{*this, "palette"};
   zrColorBox box{*this, "box"};

@@ -23,35 +23,29 @@ class ReachTest : public ControlsTest {
   String afterKey(const RectControl& control, int key) const {
     return after([&] { gesture::key(control, key); });
   }
-  String after(QAccessibleInterface& part, const QString& action) const {
-    return ControlsTest::after([&] {
-      part.actionInterface()->doAction(action);
+  String afterPress(QAccessibleInterface& part) const {
+    return after([&] {
+      part.actionInterface()->doAction(QAccessibleActionInterface::pressAction());
       processEvents();
     });
   }
-  String afterPress(QAccessibleInterface& part) const { return after(part, QAccessibleActionInterface::pressAction()); }
-  using ControlsTest::after;
   static QAccessibleInterface& shown(const RectControl& control) {
     return *QAccessible::queryAccessibleInterface(&control.native());
   }
 };
 
 TEST_F(ReachTest, TheKeysOfAButtonPressBoxAndButton) {
-  for (const int key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_A, Qt::Key_Escape}) {
-    const bool presses = key != Qt::Key_A && key != Qt::Key_Escape;
-    EXPECT_EQ(afterKey(host->box, key), presses ? "box-000000 " : "") << key;
-    EXPECT_EQ(afterKey(host->button, key), presses ? "before-000000 button-000000 " : "") << key;
+  for (const int key : {Qt::Key_Space, Qt::Key_Return, Qt::Key_Enter, Qt::Key_A}) {
+    EXPECT_EQ(afterKey(host->box, key), key == Qt::Key_A ? "" : "box-000000 ") << key;
+    EXPECT_EQ(afterKey(host->button, key), key == Qt::Key_A ? "" : "before-000000 button-000000 ") << key;
   }
 }
 
 TEST_F(ReachTest, ArrowsSelectTheNeighbourInThePalette) {
-  const struct {
-    Int32 from;
-    int key;
-    Int32 to;
-  } rows[] = {{0, Qt::Key_Right, 1},   {30, Qt::Key_Left, 29}, {5, Qt::Key_Down, 35},   {35, Qt::Key_Up, 5},
-              {0, Qt::Key_Left, 0},    {5, Qt::Key_Up, 5},     {69, Qt::Key_Right, 69}, {45, Qt::Key_Down, 45},
-              {12, Qt::Key_Space, 12}, {-1, Qt::Key_Down, 0},  {-1, Qt::Key_Return, 0}};
+  const std::tuple<Int32, int, Int32> rows[] = {
+      {0, Qt::Key_Right, 1},   {30, Qt::Key_Left, 29}, {5, Qt::Key_Down, 35},   {35, Qt::Key_Up, 5},
+      {0, Qt::Key_Left, 0},    {5, Qt::Key_Up, 5},     {69, Qt::Key_Right, 69}, {45, Qt::Key_Down, 45},
+      {12, Qt::Key_Space, 12}, {-1, Qt::Key_Down, 0},  {-1, Qt::Key_Return, 0}};
   for (const auto& [from, key, to] : rows) {
     host->palette.Selected = from;
     EXPECT_EQ(afterKey(host->palette, key), "selects-" + Str(to) + "-FFFFFF ") << from;
@@ -64,9 +58,8 @@ TEST_F(ReachTest, ArrowsSelectTheNeighbourInThePalette) {
 TEST_F(ReachTest, ABarTakesValuesWithinItsRangeAsFromAKey) {
   QAccessibleInterface& bar = shown(host->bar);
   host->bar.SetBaseColor(Color{0x302010});
-  EXPECT_EQ(bar.role(), QAccessible::Slider);
-  EXPECT_EQ(bar.text(QAccessible::Name), "Red");
-  EXPECT_EQ(after(bar, QAccessibleActionInterface::increaseAction()), "change-312010 ");
+  const auto increase = [&] { bar.actionInterface()->doAction(QAccessibleActionInterface::increaseAction()); };
+  EXPECT_EQ(after(increase), "change-312010 ");
   for (const auto& [wanted, log] :
        {std::pair{7.9, "change-072010 "}, {-3.0, "change-002010 "}, {1e9, "change-FF2010 "}})
     EXPECT_EQ(after([&, value = wanted] { bar.valueInterface()->setCurrentValue(value); }), log) << wanted;

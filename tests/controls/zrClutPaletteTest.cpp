@@ -89,11 +89,9 @@ TEST_F(zrClutPaletteTest, APaintWipesTheMarkAndKeepsTheSelection) {
 }
 
 TEST_F(zrClutPaletteTest, ADragBeginsBeyondSixPixelsAndCarriesTheColourSelectedBeforeThePress) {
-  const struct {
-    Int32 selected, right, down;
-    bool begins;
-  } rows[] = {{42, 7, 0, true},    {42, 0, -7, true},   {42, 6, 6, false},
-              {42, -6, -6, false}, {-1, 50, 50, false}, {kLast + 1, 50, 0, false}};
+  const std::tuple<Int32, Int32, Int32, bool> rows[] = {{42, 7, 0, true},    {42, 0, -7, true},
+                                                        {42, 6, 6, false},   {42, -6, -6, false},
+                                                        {-1, 50, 50, false}, {kLast + 1, 50, 0, false}};
   show(kLast);
   for (const auto& [selected, right, down, begins] : rows) {
     palette.Selected = selected;

@@ -15,12 +15,7 @@ class zrColorCHBarTest : public ControlsTest {
 };
 
 TEST_F(zrColorCHBarTest, ABaseColourGivesTheChannelsValueAndTip) {
-  const struct {
-    Int32 channel;
-    std::uint32_t color;
-    Int32 value;
-    const char* tip;
-  } rows[] = {
+  const std::tuple<Int32, std::uint32_t, Int32, const char*> rows[] = {
       {0, 0x80FF00, 128, "Red 128"},        {1, 0x128034, 128, "Green 128"},    {2, 0x123407, 7, "Blue 7"},
       {3, 0xFF8000, 21, "Hue 008"},         {3, 0x00FFFF, 127, "Hue 050"},      {3, 0xFF0001, 254, "Hue 100"},
       {4, 0xFF8000, 255, "Saturation 100"}, {4, 0x000000, 0, "Saturation 000"}, {4, 0x70ABFF, 143, "Saturation 056"},
@@ -48,11 +43,8 @@ TEST_F(zrColorCHBarTest, EveryByteOfAChannelIsRead) {
 }
 
 TEST_F(zrColorCHBarTest, APressCountsOnTheIndicatorOnly) {
-  const struct {
-    Int32 x, y;
-    bool taken;
-  } rows[] = {{63, 5, true},  {57, 5, true}, {64, 5, false}, {56, 5, false},
-              {60, 0, false}, {60, 1, true}, {60, 19, true}};
+  const std::tuple<Int32, Int32, bool> rows[] = {{63, 5, true},  {57, 5, true}, {64, 5, false}, {56, 5, false},
+                                                 {60, 0, false}, {60, 1, true}, {60, 19, true}};
   for (const auto& [x, y, taken] : rows) {
     const zrColorCHBar& bar = open(0, Color{0x804020});
     gesture::press(bar, x, y);
@@ -85,31 +77,27 @@ TEST_F(zrColorCHBarTest, AnyKeyRaisesChangeAndOnlyArrowsStep) {
 }
 
 TEST_F(zrColorCHBarTest, ADroppedColourGivesItsChannelOnly) {
-  zrColorCHBar& bar = open(1, Color{0x112233});
+  const std::tuple<Int32, const char*, Int32> rows[] = {
+      {1, "action-118033 ", 59}, {3, "action-332211 ", 10}, {4, "action-001A33 ", 118}, {5, "action-55AAFF ", 118}};
   const Ref<DragItem> item = New<DragItem>();
-  for (const char* text : {"no colour", " #FF8000 "}) {
-    item->SetText(text);
+  item->SetText(" #FF8000 ");
+  for (const auto& [channel, log, position] : rows) {
+    zrColorCHBar& bar = open(channel, Color{0x112233});
     bar.Event_DropObject(item, 0);
+    EXPECT_EQ(host->log, log) << channel;
+    EXPECT_EQ(bar.Lastx, position) << channel;
   }
-  item->MacData("hcol", "1, 2, 3");
-  bar.Event_DropObject(item, 0);
-  EXPECT_EQ(host->log, "action-118033 action-110233 ") << "private data goes ahead of text";
-  EXPECT_EQ(bar.Lastx, 1);
 }
 
 TEST_F(zrColorCHBarTest, TheStripStepsByTwoAndIsNotScaled) {
   zrColorCHBar& bar = open(0, kBlack);
   bar.SetValue(128);
-  const struct {
-    Int32 x, y;
-    Color c;
-    const char* what;
-  } rows[] = {{0, 0, Color{0x949494}, "the frame"},      {5, 5, kBlack, "the first step"},
-              {6, 5, RGB(2, 0, 0), "the second"},        {118, 5, RGB(226, 0, 0), "the last"},
-              {57, 0, Color{0x606060}, "the indicator"}, {58, 1, kWhite, "its inner frame"},
-              {60, 5, RGB(128, 0, 0), "its inside"},     {60, 2, RGB(110, 0, 0), "row 2 keeps the strip"}};
-  for (const auto& [x, y, c, what] : rows)
-    EXPECT_EQ(bar.Graphics().Pixel(x, y), c) << what;
+  // The frame, the strip's steps, and the indicator with its two frames. Its row 2 keeps the strip.
+  const std::tuple<Int32, Int32, Color> rows[] = {
+      {0, 0, Color{0x949494}},  {5, 5, kBlack},  {6, 5, RGB(2, 0, 0)},    {118, 5, RGB(226, 0, 0)},
+      {57, 0, Color{0x606060}}, {58, 1, kWhite}, {60, 5, RGB(128, 0, 0)}, {60, 2, RGB(110, 0, 0)}};
+  for (const auto& [x, y, c] : rows)
+    EXPECT_EQ(bar.Graphics().Pixel(x, y), c) << x << ", " << y;
 }
 
 }  // namespace

@@ -60,6 +60,8 @@ TEST_F(frmFavTest, TheSelectedColourIsShownAndCopiedWithAHash) {
   selectNothing();
   choose("mnuEditCopyHex");
   EXPECT_EQ(Clipboard().Text(), "#Color: 255.128.0, 30.100.100, #FF8000");
+  window->DoAddColor(kOrange);
+  EXPECT_EQ(window->TheClut->getColor(0), kWhite);
   EXPECT_EQ(window->lblColor.Text.get(), kOrangeLabel);
 }
 
@@ -79,14 +81,6 @@ TEST_F(frmFavTest, APasteOrDropChangesTheSelectedColourAndLeavesTheDisplays) {
   gesture::drop(window->cRect, *grey);
   EXPECT_EQ(window->cRect.Value, kOrange);
   EXPECT_EQ(window->lblColor.Text.get(), kOrangeLabel);
-}
-
-TEST_F(frmFavTest, WithoutASelectionNothingChanges) {
-  selectNothing();
-  Clipboard().SetText("#FF8000");
-  choose("EditPaste");
-  window->DoAddColor(kOrange);
-  EXPECT_EQ(window->TheClut->aColors, std::vector<Color>(256, kWhite));
 }
 
 TEST_F(frmFavTest, SaveAsksForAFileOnceAndSaveAsEachTime) {
@@ -124,12 +118,10 @@ TEST_F(frmFavTest, TheNameDecidesHowAFileIsReadAndAFailureClosesTheWindow) {
     std::filesystem::copy(folder.path("B.ACO"), folder.path(copy));
   folder.write("D.Act", std::string("\xFF\x80\0", 3));
   std::filesystem::create_directory(folder.path("folder.aco"));
-  const struct {
-    const char* name;
-    Int32 upperBound;  // -1 where the read fails
-    const char* message = "";
-  } rows[] = {{"B.ACO", 1},  {"taco", 1},         {"D.Act", 255},
-              {"e.txt", -1}, {"missing.aco", -1}, {"folder.aco", -1, "Unable to read color swatch"}};
+  // A name, the upper bound (-1 where the read fails) and the message that comes.
+  const std::tuple<const char*, Int32, const char*> rows[] = {
+      {"B.ACO", 1, ""},  {"taco", 1, ""},         {"D.Act", 255, ""},
+      {"e.txt", -1, ""}, {"missing.aco", -1, ""}, {"folder.aco", -1, "Unable to read color swatch"}};
   for (const auto& [name, upperBound, message] : rows) {
     window = open();
     fake().messages = {""};

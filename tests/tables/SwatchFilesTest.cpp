@@ -76,18 +76,15 @@ TEST_F(SwatchFilesTest, ANewTableIsWrittenAs256WhiteColours) {
 }
 
 TEST_F(SwatchFilesTest, TheNumberInTheFileBecomesTheUpperBound) {
-  const struct {
-    Int32 stated, colors, count, read;
-  } rows[] = {
-      {256, 256, 256, 256}, {300, 10, 300, 10}, {3, 10, 3, 3}, {0, 0, 0, 0}, {0, 5, 0, 5}, {0x8000, 5, -32768, 5},
-  };
-  for (const auto& row : rows) {
-    const auto table = readSwatch(swatch(row.stated, row.colors));
-    EXPECT_EQ(table->Count, row.count);
-    EXPECT_EQ(table->Index, row.read - 1) << row.stated;
-    EXPECT_EQ(table->aColors.size(), static_cast<std::size_t>(std::max(row.count, -1) + 1));
-    expectRead(*table, row.read);
-    EXPECT_EQ(writtenSwatch(*table).substr(0, 4), word(1) + word(row.stated + 1));
+  const std::tuple<Int32, Int32, Int32, Int32> rows[] = {
+      {256, 256, 256, 256}, {300, 10, 300, 10}, {3, 10, 3, 3}, {0, 0, 0, 0}, {0, 5, 0, 5}, {0x8000, 5, -32768, 5}};
+  for (const auto& [stated, colors, count, read] : rows) {
+    const auto table = readSwatch(swatch(stated, colors));
+    EXPECT_EQ(table->Count, count);
+    EXPECT_EQ(table->Index, read - 1) << stated;
+    EXPECT_EQ(table->aColors.size(), static_cast<std::size_t>(std::max(count, -1) + 1));
+    expectRead(*table, read);
+    EXPECT_EQ(writtenSwatch(*table).substr(0, 4), word(1) + word(stated + 1));
   }
 }
 
@@ -100,29 +97,27 @@ TEST_F(SwatchFilesTest, OnlyHighBytesAreLookedAt) {
 }
 
 TEST_F(SwatchFilesTest, AColourTableIs256TriplesOfWhichTheLastIsNeverRead) {
-  for (const Int32 colors : {255, 256, 400})
-    EXPECT_EQ(writtenClut(*readClut(triples(colors))), triples(255) + String(3, '\xFF'));
+  EXPECT_EQ(writtenClut(*readClut(triples(400))), triples(255) + String(3, '\xFF'));
   const auto few = readSwatch(swatch(2, 2));
-  EXPECT_EQ(writtenClut(*few), triples(2) + String(3, '\xFF') + String(759, '\0'));
-  EXPECT_TRUE(few->ReadClut(folder.write("in", "")));
-  EXPECT_EQ(writtenClut(*few), triples(2) + String(3, '\xFF') + String(759, '\0')) << "entries are not cleared";
-  EXPECT_EQ(few->Count, 255);
+  for (const Int32 count : {2, 255}) {
+    EXPECT_EQ(few->Count, count);
+    EXPECT_EQ(writtenClut(*few), triples(2) + String(3, '\xFF') + String(759, '\0')) << "entries are not cleared";
+    EXPECT_TRUE(few->ReadClut(folder.write("in", "")));
+  }
 }
 
 // A colour counts once its first byte is there, and what is missing of it is 0.
 TEST_F(SwatchFilesTest, FilesCutOffAnywhereGiveWhatTheyHave) {
-  const String whole = swatch(0x0104, 3);
-  for (std::size_t length = 0; length <= whole.size(); ++length) {
-    const auto table = readSwatch(whole.substr(0, length));
+  for (std::size_t length = 0; length <= 34; ++length) {
+    const auto table = readSwatch(swatch(0x0104, 3).substr(0, length));
     EXPECT_EQ(table->Count, length < 3 ? 0 : length == 3 ? 0x0100 : 0x0104);
     const std::size_t colors = length < 7 ? 0 : (length + 3) / 10;
     const std::size_t last = length + 4 - 10 * colors;
     expectRead(*table, static_cast<Int32>(colors), last > 4 ? 3 : last > 2 ? 2 : 1);
   }
-  const String clut = triples(256);
-  for (std::size_t length = 0; length <= clut.size(); ++length) {
+  for (std::size_t length = 0; length <= 768; ++length) {
     const std::size_t colors = std::min<std::size_t>((length + 2) / 3, 255);
-    expectRead(*readClut(clut.substr(0, length)), static_cast<Int32>(colors), length + 3 - 3 * colors);
+    expectRead(*readClut(triples(256).substr(0, length)), static_cast<Int32>(colors), length + 3 - 3 * colors);
   }
 }
 

@@ -48,11 +48,7 @@ TEST_F(CoreTest, TheTabulatorVisitsWhatTakesKeysAndIsInSight) {
 }
 
 TEST_F(CoreTest, TheWebSafePairShowsForAnyOtherColour) {
-  const struct {
-    std::uint32_t color;
-    bool safe;
-    std::uint32_t box;  // what the box shows from here on
-  } rows[] = {{0x70ABFF, false, 0x6699FF}, {0xFF9900, true, 0x6699FF}, {0xFF00FE, false, 0xFF00FF}};
+  const std::tuple<std::uint32_t, bool, std::uint32_t> rows[] = {{0x70ABFF, false, 0x6699FF}, {0xFF9900, true, 0x6699FF}, {0xFF00FE, false, 0xFF00FF}};
   for (const auto& [color, safe, box] : rows) {
     window->setColor(Color{color}, false);
     EXPECT_EQ(window->imgWebSafe.Visible, !safe) << color;

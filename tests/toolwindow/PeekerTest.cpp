@@ -34,10 +34,7 @@ TEST_F(PeekerTest, ASampleReadsColumnByColumnAndOncePerPixel) {
 }
 
 TEST_F(PeekerTest, ASampleHasAMarkerThatStandsOutAndARepaintOneOfItsOwn) {
-  const struct {
-    std::uint32_t centre, marker;
-    bool guides;
-  } rows[] = {{0x7F7F7F, 0xF97324, true}, {0x0000FF, 0x000000, false}};
+  const std::tuple<std::uint32_t, std::uint32_t, bool> rows[] = {{0x7F7F7F, 0xF97324, true}, {0x0000FF, 0x000000, false}};
   for (const Int32 step : {1, 2, 3}) {
     zoomTo(step);
     for (const auto& [centre, marker, guides] : rows) {
@@ -71,10 +68,7 @@ TEST_F(PeekerTest, AZoomStepShowsTheOldSampleThroughTheNewCells) {
 }
 
 TEST_F(PeekerTest, ADragActsOnlyOutsideThePreview) {
-  const struct {
-    Int32 x, y;
-    bool tracks;
-  } rows[] = {{0, 0, false}, {408, 192, false}, {409, 100, true}, {200, 193, true}, {-1, 100, true}, {200, -1, true}};
+  const std::tuple<Int32, Int32, bool> rows[] = {{0, 0, false}, {408, 192, false}, {409, 100, true}, {200, 193, true}, {-1, 100, true}, {200, -1, true}};
   gesture::press(window->imgScreen, 100, 100);
   fake().pointerAt = {40, 50};
   for (const auto& [x, y, tracks] : rows) {

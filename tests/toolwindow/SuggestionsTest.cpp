@@ -48,11 +48,7 @@ TEST(ColourCellsTest, StandInRowsThatEndAheadOfTheRightEdge) {
   drawCells(canvas->Graphics(), colours);
   const Color frame{0x909090};
   const Color ground{0xA0A0A0};
-  const struct {
-    Int32 x, y;
-    Color c;
-    const char* what;
-  } rows[] = {{13, 10, frame, "the first"},       {14, 11, kWhite, "its inner frame"},
+  const std::tuple<Int32, Int32, Color, const char*> rows[] = {{13, 10, frame, "the first"},       {14, 11, kWhite, "its inner frame"},
               {15, 12, colours[0], "its colour"}, {373, 10, frame, "the sixteenth"},
               {397, 10, ground, "no more"},       {325, 135, frame, "the last"},
               {349, 135, ground, "no more"},      {407, 191, kWhite, "the corner"}};

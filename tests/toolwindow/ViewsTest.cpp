@@ -36,10 +36,7 @@ Colours unlikeColours() {
 }
 
 TEST(DistinctColoursTest, AlikeIsWithinATenthOfTheBrighterChannels) {
-  const struct {
-    Color met, next;
-    bool alike;
-  } rows[] = {
+  const std::tuple<Color, Color, bool> rows[] = {
       {RGB(109, 0, 0), RGB(99, 0, 0), true},      {RGB(109, 0, 0), RGB(98, 0, 0), false},
       {RGB(200, 100, 0), RGB(185, 116, 0), true}, {RGB(200, 100, 0), RGB(184, 116, 0), false},
       {RGB(0, 100, 0), RGB(0, 0, 100), false},    {RGB(80, 80, 200), RGB(92, 92, 188), true},
@@ -69,10 +66,7 @@ class ViewsTest : public ToolWindowTest {
 
 TEST_F(ViewsTest, TheGridAndANewPaletteShowTheColoursUpToTheirLimits) {
   const Colours all = unlikeColours();
-  const struct {
-    Ref<Picture> picture;
-    Colours cells, entries;
-  } rows[] = {{pictureOf(all, 25, 20), {all.begin(), all.begin() + 112}, {all.begin(), all.begin() + 255}},
+  const std::tuple<Ref<Picture>, Colours, Colours> rows[] = {{pictureOf(all, 25, 20), {all.begin(), all.begin() + 112}, {all.begin(), all.begin() + 255}},
               {pictureOf({all[5], all[9]}, 2, 2), {all[5], all[9]}, {all[5], all[9]}},
               {pictureOf({}, 20, 20), {}, {}},
               {window->zoomImage, {kWhite}, {kWhite}}};  // blank, as it is before the first sample
@@ -117,11 +111,7 @@ TEST_F(ViewsTest, NineSwatchesShowTheColourOfTheLastPaintAsDichromatsSeeIt) {
 
 TEST_F(ViewsTest, OneAtATimeExceptWhileFollowing) {
   // S, J and D choose the three views, F follows, G shows the guides, and c clicks in the preview.
-  const struct {
-    const char* commands;
-    const char* marks;
-    bool repaints;  // the last command
-  } rows[] = {
+  const std::tuple<const char*, const char*, bool> rows[] = {
       {"SS", "", true},
       {"SJ", "mnuShowColors ", true},
       {"JJ", "", true},
