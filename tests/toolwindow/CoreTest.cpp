@@ -26,7 +26,7 @@ TEST_F(CoreTest, OpensIdleAtTheStartColour) {
   expectShown(Color{0x70ABFF}, "Color: 112.171.255, #70ABFF", "Color: 112.171.255, 215.56.100, #70ABFF");
   EXPECT_TRUE(fake().pixelsRead.empty());
   EXPECT_FALSE(fake().nextAlarm());
-  EXPECT_EQ(firstFault({1, [](Int32, Int32) { return kWhite; }, kBlack, 4}), "");
+  EXPECT_EQ(firstFault([](Int32, Int32) { return kWhite; }), "");
 }
 
 TEST_F(CoreTest, TheTabulatorVisitsWhatTakesKeysAndIsInSight) {
@@ -48,7 +48,8 @@ TEST_F(CoreTest, TheTabulatorVisitsWhatTakesKeysAndIsInSight) {
 }
 
 TEST_F(CoreTest, TheWebSafePairShowsForAnyOtherColour) {
-  const std::tuple<std::uint32_t, bool, std::uint32_t> rows[] = {{0x70ABFF, false, 0x6699FF}, {0xFF9900, true, 0x6699FF}, {0xFF00FE, false, 0xFF00FF}};
+  const std::tuple<std::uint32_t, bool, std::uint32_t> rows[] = {
+      {0x70ABFF, false, 0x6699FF}, {0xFF9900, true, 0x6699FF}, {0xFF00FE, false, 0xFF00FF}};
   for (const auto& [color, safe, box] : rows) {
     window->setColor(Color{color}, false);
     EXPECT_EQ(window->imgWebSafe.Visible, !safe) << color;

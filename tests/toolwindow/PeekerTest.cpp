@@ -9,7 +9,7 @@ class PeekerTest : public ToolWindowTest {
  protected:
   // A pixel that shows whether the preview has been drawn or painted anew.
   void putSentinel() const { window->imgScreen.Graphics().Pixel(10, 10, Color{0x01FE02}); }
-  bool sentinelStands() const { return window->imgScreen.Graphics().Pixel(10, 10) == Color{0x01FE02}; }
+  bool sentinelStands() const { return shown(10, 10) == Color{0x01FE02}; }
 };
 
 TEST_F(PeekerTest, ASampleReadsColumnByColumnAndOncePerPixel) {
@@ -34,20 +34,23 @@ TEST_F(PeekerTest, ASampleReadsColumnByColumnAndOncePerPixel) {
 }
 
 TEST_F(PeekerTest, ASampleHasAMarkerThatStandsOutAndARepaintOneOfItsOwn) {
-  const std::tuple<std::uint32_t, std::uint32_t, bool> rows[] = {{0x7F7F7F, 0xF97324, true}, {0x0000FF, 0x000000, false}};
+  choose("mnuShowGuide");
   for (const Int32 step : {1, 2, 3}) {
     zoomTo(step);
-    for (const auto& [centre, marker, guides] : rows) {
-      SCOPED_TRACE(testing::Message() << "step " << step << ", guides " << guides);
-      choose("mnuShowGuide");
-      fake().screen = [at = centre](ScreenPoint p) { return p == ScreenPoint{300, 200} ? at : placeAsColor(p); };
+    const Int32 side = 4 * step;
+    const Int32 x = reachX(step) * side;
+    const Int32 y = reachY(step) * side;
+    for (const auto& [centre, marker] : {std::pair{0x7F7F7Fu, Color{0xF97324}}, {0x0000FFu, kBlack}}) {
+      fake().screen = [bits = centre](ScreenPoint) { return bits; };
       window->drawSys(300, 200);
-      const auto cell = [&, step = step, at = Color{centre}](Int32 column, Int32 row) {
-        return column == reachX(step) && row == reachY(step) ? at : sampleOf({300, 200}, step)(column, row);
-      };
-      EXPECT_EQ(firstFault({step, cell, Color{marker}, 4 * step + 1, guides}), "");
-      window->imgScreen.Refresh(true);
-      EXPECT_EQ(firstFault({step, cell, kBlack, 4 * step, guides}), "") << "after a repaint";
+      for (const auto& [end, c] : {std::pair{side, marker}, {side - 1, kBlack}}) {
+        EXPECT_EQ(shown(x, y), c) << step;
+        EXPECT_EQ(shown(x + end, y + end), c) << step;
+        EXPECT_EQ(shown(side, 2), Color{0xCECECE}) << "a guide at step " << step;
+        EXPECT_EQ(shown(407, 191), kWhite) << "the frame";
+        EXPECT_EQ(firstFault([bits = centre](Int32, Int32) { return Color{bits}; }), "") << step;
+        window->imgScreen.Refresh(true);
+      }
     }
   }
 }
@@ -63,12 +66,13 @@ TEST_F(PeekerTest, AZoomStepShowsTheOldSampleThroughTheNewCells) {
     const auto cell = [&](Int32 column, Int32 row) {
       return column < sample->Width() && row < sample->Height() ? sample->Graphics().Pixel(column, row) : kWhite;
     };
-    EXPECT_EQ(firstFault({to, cell, kBlack, 4 * to}), "") << from << " to " << to;
+    EXPECT_EQ(firstFault(cell), "") << from << " to " << to;
   }
 }
 
 TEST_F(PeekerTest, ADragActsOnlyOutsideThePreview) {
-  const std::tuple<Int32, Int32, bool> rows[] = {{0, 0, false}, {408, 192, false}, {409, 100, true}, {200, 193, true}, {-1, 100, true}, {200, -1, true}};
+  const std::tuple<Int32, Int32, bool> rows[] = {{0, 0, false},    {408, 192, false}, {409, 100, true},
+                                                 {200, 193, true}, {-1, 100, true},   {200, -1, true}};
   gesture::press(window->imgScreen, 100, 100);
   fake().pointerAt = {40, 50};
   for (const auto& [x, y, tracks] : rows) {

@@ -4,7 +4,9 @@
 
 #include "color/zrXYZ.h"
 #include "favourites/frmFav.h"
+#include "toolwindow/ColourCells.h"
 #include "toolwindow/DistinctColours.h"
+#include "toolwindow/Suggestions.h"
 #include "toolwindow/ToolWindowTest.h"
 
 namespace tavrelkin {
@@ -59,17 +61,65 @@ TEST(DistinctColoursTest, TheWalkKeepsTheFirstOfAFamilyColumnByColumnAndNoDarkOn
             (Colours{a, likeThat, kWhite}));
 }
 
-class ViewsTest : public ToolWindowTest {
- protected:
-  Color shown(Int32 x, Int32 y) const { return window->imgScreen.Graphics().Pixel(x, y); }
-};
+Color grey(Double value) {
+  return HSV(0, 0, value);
+}
+
+TEST(SuggestionsTest, AGreyGivesSevenTimesTheSameSeven) {
+  const std::pair<Color, Colours> rows[] = {
+      {kBlack, {kBlack, grey(0.5), grey(0.75), kBlack, kBlack, grey(0.25), grey(0.125)}},
+      {kWhite, {kWhite, kWhite, kWhite, grey(2.0 / 3), grey(1.0 / 3), grey(0.75), grey(0.875)}},
+  };
+  for (const auto& [from, group] : rows) {
+    const Colours list = suggestionsFor(from);
+    ASSERT_EQ(list.size(), 94u);
+    for (std::size_t i = 0; i < 49; ++i)
+      EXPECT_EQ(list[i], group[i % 7]) << i;
+  }
+}
+
+TEST(SuggestionsTest, RelatedHuesGoRoundTheCircle) {
+  const Colours list = suggestionsFor(Color{0xFF0000});
+  const Double beyond = readColorHue(HSV(0.583, 1, 1)) + 0.333;
+  const Double hues[] = {0.917, 0.083, 0.5, 0.417, 0.583, beyond, beyond + 0.333 - 1};
+  for (std::size_t i = 0; i < 7; ++i)
+    EXPECT_EQ(list[7 * i], HSV(hues[i], 1, 1)) << i;
+}
+
+TEST(SuggestionsTest, RampsVaryOneChannelEach) {
+  const Colours list = suggestionsFor(RGB(10, 20, 30));
+  for (const auto& [i, c] :
+       {std::pair{67, RGB(25, 20, 30)}, {75, RGB(225, 20, 30)}, {76, RGB(10, 25, 30)}, {93, RGB(10, 20, 225)}})
+    EXPECT_EQ(list.at(static_cast<std::size_t>(i)), c) << i;
+}
+
+TEST(ColourCellsTest, StandInRowsThatEndAheadOfTheRightEdge) {
+  const Color frame{0x909090};
+  const Color ground{0xA0A0A0};
+  const Ref<Picture> canvas = NewPicture(408, 192, 32);
+  drawCells(canvas->Graphics(), Colours(94, kBlack));
+  // The first cell, the sixteenth and the last with the ground beside them, and the corner.
+  const std::tuple<Int32, Int32, Color> rows[] = {{13, 10, frame},    {14, 11, kWhite},  {15, 12, kBlack},
+                                                  {373, 10, frame},   {397, 10, ground}, {335, 135, frame},
+                                                  {349, 135, ground}, {407, 191, kWhite}};
+  for (const auto& [x, y, c] : rows)
+    EXPECT_EQ(canvas->Graphics().Pixel(x, y), c) << x << ", " << y;
+
+  const Ref<Picture> narrow = NewPicture(42, 192, 32);
+  drawCells(narrow->Graphics(), {kBlack});
+  EXPECT_EQ(narrow->Graphics().Pixel(13, 10), ground);
+  EXPECT_EQ(narrow->Graphics().Pixel(13, 35), frame) << "too narrow for even one";
+}
+
+using ViewsTest = ToolWindowTest;
 
 TEST_F(ViewsTest, TheGridAndANewPaletteShowTheColoursUpToTheirLimits) {
   const Colours all = unlikeColours();
-  const std::tuple<Ref<Picture>, Colours, Colours> rows[] = {{pictureOf(all, 25, 20), {all.begin(), all.begin() + 112}, {all.begin(), all.begin() + 255}},
-              {pictureOf({all[5], all[9]}, 2, 2), {all[5], all[9]}, {all[5], all[9]}},
-              {pictureOf({}, 20, 20), {}, {}},
-              {window->zoomImage, {kWhite}, {kWhite}}};  // blank, as it is before the first sample
+  const std::tuple<Ref<Picture>, Colours, Colours> rows[] = {
+      {pictureOf(all, 25, 20), {all.begin(), all.begin() + 112}, {all.begin(), all.begin() + 255}},
+      {pictureOf({all[5], all[9]}, 2, 2), {all[5], all[9]}, {all[5], all[9]}},
+      {pictureOf({}, 20, 20), {}, {}},
+      {window->zoomImage, {kWhite}, {kWhite}}};  // blank, as it is before the first sample
   choose("mnuShowColors");
   for (const auto& [picture, cells, entries] : rows) {
     window->zoomImage = picture;
@@ -110,37 +160,28 @@ TEST_F(ViewsTest, NineSwatchesShowTheColourOfTheLastPaintAsDichromatsSeeIt) {
 }
 
 TEST_F(ViewsTest, OneAtATimeExceptWhileFollowing) {
-  // S, J and D choose the three views, F follows, G shows the guides, and c clicks in the preview.
-  const std::tuple<const char*, const char*, bool> rows[] = {
-      {"SS", "", true},
-      {"SJ", "mnuShowColors ", true},
-      {"JJ", "", true},
-      {"JD", "mnuColorBlind ", true},
-      {"DD", "", true},
-      {"DS", "mnuViewSuggestions ", true},
-      {"DJ", "mnuShowColors ", true},
-      {"SF", "mnuFollow ", false},
-      {"DF", "mnuFollow mnuColorBlind ", false},
-      {"FS", "mnuFollow mnuViewSuggestions ", true},
-      {"FSF", "mnuViewSuggestions ", false},
-      {"Sc", "", false},
-      {"Dc", "mnuColorBlind ", false},
-      {"GG", "", true},
-      {"DG", "mnuColorBlind mnuShowGuide ", true},
-  };
-  for (const auto& [commands, marked, repaints] : rows) {
-    startAnew();
-    for (const char command : String(commands)) {
-      window->imgScreen.Graphics().Pixel(10, 10, Color{0x010203});
-      if (command == 'c') {
-        gesture::click(window->imgScreen, 5, 5);
-      } else {
-        gesture::shortcut(*window, String("Cmd+") + command);
-      }
+  // S, J and D choose the three views, F follows, G shows the guides, and c clicks in the preview. After each command
+  // come the letters of what is marked, with an asterisk where the preview has been painted anew.
+  const std::pair<const char*, const char*> letters[] = {{"mnuFollow", "F"},
+                                                         {"mnuViewSuggestions", "S"},
+                                                         {"mnuShowColors", "J"},
+                                                         {"mnuColorBlind", "D"},
+                                                         {"mnuShowGuide", "G"}};
+  String trace;
+  for (const char command : String("SSJJDDSJDSDJSFSFcDFFcGGJc")) {
+    window->imgScreen.Graphics().Pixel(10, 10, Color{0x010203});
+    if (command == 'c') {
+      gesture::click(window->imgScreen, 5, 5);
+    } else {
+      gesture::shortcut(*window, String("Cmd+") + command);
     }
-    EXPECT_EQ(marks(), marked) << commands;
-    EXPECT_EQ(shown(10, 10) != Color{0x010203}, repaints) << commands;
+    for (const auto& [item, letter] : letters)
+      trace += window->MenuBar->Child(item)->Checked ? letter : "";
+    trace += shown(10, 10) == Color{0x010203} ? " " : "* ";
   }
+  EXPECT_EQ(trace, "S* * J* * D* * S* J* D* S* D* J* S* F FS* S  D* FD D D DG* D* J*  ");
+  for (const auto draw : {&frmVesk::drawScreen, &frmVesk::drawSuggestions, &frmVesk::drawColorsInScreen})
+    ((*window).*draw)(nullptr);
 }
 
 }  // namespace
