@@ -56,26 +56,20 @@ TEST_F(zrColorButtonTest, DisabledItPalesAndStillTakesDrops) {
   EXPECT_EQ(after([&] { button.Event_DropObject(item, 0); }), "changes-FF8001 ");
 }
 
-TEST_F(zrColorButtonTest, ThePointerChangesItsState) {
-  const struct {
-    void (zrColorButton::*event)();
-    Int32 before;
-    bool enabled;
-    Int32 after;
-    bool paints;
-    const char* log = "";
-  } rows[] = {{&zrColorButton::Event_MouseEnter, 0, true, 1, true},
-              {&zrColorButton::Event_MouseEnter, 0, false, 0, false},
-              {&zrColorButton::Event_MouseExit, 1, false, 0, true},
-              {&zrColorButton::Event_MouseExit, 0, true, 0, false},
-              {&zrColorButton::Event_MouseExit, 3, true, 0, true, "button-000000 "}};
-  for (const auto& row : rows) {
-    button.Enabled = row.enabled;
-    button.State = row.before;
+TEST_F(zrColorButtonTest, ThePointerChangesItsStateAndHasItPainted) {
+  const std::tuple<void (zrColorButton::*)(), Int32, bool, Int32, bool, const char*> rows[] = {
+      {&zrColorButton::Event_MouseEnter, 0, true, 1, true, ""},
+      {&zrColorButton::Event_MouseEnter, 0, false, 0, false, ""},
+      {&zrColorButton::Event_MouseExit, 1, false, 0, true, ""},
+      {&zrColorButton::Event_MouseExit, 0, true, 0, false, ""},
+      {&zrColorButton::Event_MouseExit, 3, true, 0, true, "button-000000 "}};
+  for (const auto& [event, before, enabled, state, paints, log] : rows) {
+    button.Enabled = enabled;
+    button.State = before;
     button.Graphics().Pixel(1, 1, kBlack);
-    EXPECT_EQ(after([&] { (button.*row.event)(); }), row.log) << "from " << row.before;
-    EXPECT_EQ(button.State, row.after) << "from " << row.before;
-    EXPECT_EQ(button.Graphics().Pixel(1, 1) == kWhite, row.paints) << "from " << row.before;
+    EXPECT_EQ(after([this, raise = event] { (button.*raise)(); }), log) << "from " << before;
+    EXPECT_EQ(button.State, state) << "from " << before;
+    EXPECT_EQ(button.Graphics().Pixel(1, 1) == kWhite, paints) << "from " << before;
   }
 }
 

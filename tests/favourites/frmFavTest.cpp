@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <filesystem>
 
 #include "app/menubar/MenuBar1.h"
@@ -78,6 +79,9 @@ TEST_F(frmFavTest, APasteOrDropChangesTheSelectedColourAndLeavesTheDisplays) {
   grey->MacData("hcol", "128, 128, 128");
   EXPECT_TRUE(gesture::drop(window->imgClut, *grey));
   EXPECT_EQ(window->TheClut->getColor(12), Color{0x808080});
+  selectNothing();
+  EXPECT_TRUE(gesture::drop(window->imgClut, *grey));
+  EXPECT_EQ(std::ranges::count(window->TheClut->aColors, Color{0x808080}), 1);
   gesture::drop(window->cRect, *grey);
   EXPECT_EQ(window->cRect.Value, kOrange);
   EXPECT_EQ(window->lblColor.Text.get(), kOrangeLabel);

@@ -32,15 +32,6 @@ Bits pixelsOf(const Picture& picture) {
   return pixels;
 }
 
-// Lets a test read numbers one by one.
-class Reader : public zrPixMap {
- public:
-  using zrPixMap::int_pixBuffeLoad;
-  using zrPixMap::int_pixBufferGetColor;
-  using zrPixMap::int_pixBufferGetInteger;
-  using zrPixMap::int_pixBufferGetPixMap;
-};
-
 class zrPixMapTest : public RuntimeTest {
  protected:
   // A map of one row: black, white, red, green and a pixel whose index the table lacks.
@@ -62,7 +53,7 @@ class zrPixMapTest : public RuntimeTest {
   }
 
   Ref<zrPixMap> map = New<zrPixMap>();
-  Ref<Reader> fresh = New<Reader>();
+  Ref<zrPixMap> fresh = New<zrPixMap>();
 };
 
 TEST_F(zrPixMapTest, ColoursFollowBlackAndWhiteAsTheyAppear) {
@@ -160,38 +151,30 @@ TEST_F(zrPixMapTest, ATextIsReadAndWrittenAgain) {
   EXPECT_EQ(fresh->getPixMapData(), kBytes.substr(0, 16) + "000102") << "pixels go into a text as they are";
 }
 
-TEST_F(zrPixMapTest, AnotherVersionIsRefusedAndChangesNothing) {
-  fresh->CreateFromPixMapData(kBytes);
-  for (const String& text : {String("D\x01\x09\x09", 4), String("H01090920")})
-    fresh->CreateFromPixMapData(text);
-  EXPECT_EQ(fake().messages, std::vector<std::string>(2, "Incompatible TxPixelMap Version."));
-  EXPECT_TRUE(fresh->hexadecimal) << "but for the form";
-  fresh->hexadecimal = false;
-  EXPECT_EQ(fresh->getPixMapData(), kBytes);
-}
-
 TEST_F(zrPixMapTest, TheFormLetterOnlyEverTurnsDigitsOn) {
-  // A text, the form before and after it, the first number, and how many bytes are left behind that.
-  const std::tuple<String, bool, bool, Int32, Int32> rows[] = {
-      {"h1E", false, true, 0x1E, 0}, {"d1E", false, false, '1', 1}, {"D1E", true, true, 0x1E, 0},
-      {"1E", false, false, '1', 1},  {"", false, false, 0, 0},      {"\xC3\xA4", false, false, 0xC3, 1},
+  const String digits = kDigits.substr(1);
+  const String bytes = kBytes.substr(1);
+  // The form ahead of a text, the text, and what is written then. Another version is refused, but for its form.
+  const std::tuple<bool, String, String> rows[] = {
+      {false, "h" + digits, kDigits},
+      {true, "D" + digits, kDigits},
+      {true, digits, kDigits},
+      {false, "d" + bytes, kBytes},
+      {false, bytes, kBytes},
+      {false, "D\x01\x09\x09", kBytes},
+      {true, "H01090920",
+       "H00030108020000"
+       "00FF00FFE282AC01" +
+           bytes.substr(15)},
+      // Digits that are none are left to the reader of numbers.
+      {true, "H0G03 1&h1G-1FF+2A", "H000300000100FF000A000000"},
   };
-  for (const auto& [text, before, after, first, left] : rows) {
+  for (const auto& [before, text, after] : rows) {
     fresh->hexadecimal = before;
-    fresh->int_pixBuffeLoad(text);
-    EXPECT_EQ(fresh->hexadecimal, after) << text;
-    EXPECT_EQ(fresh->int_pixBufferGetInteger(), first) << text;
-    EXPECT_EQ(LenB(fresh->int_pixBufferGetPixMap()), left) << text;
+    fresh->CreateFromPixMapData(text);
+    EXPECT_EQ(fresh->getPixMapData(), after) << text;
   }
-}
-
-TEST_F(zrPixMapTest, DigitsThatAreNoneAreLeftToTheReaderOfNumbers) {
-  fresh->int_pixBuffeLoad(String("HfF1GG1 F-1\0", 12) + "1&hA");
-  for (const Int32 number : {255, 1, 0, 0, 0, 0, 0, 10, 0, 0})
-    EXPECT_EQ(fresh->int_pixBufferGetInteger(), number);
-  fresh->int_pixBuffeLoad("HFE01A");
-  EXPECT_EQ(fresh->int_pixBufferGetColor(), Color{0xFE010A});
-  EXPECT_EQ(fresh->int_pixBufferGetColor(), kBlack);
+  EXPECT_EQ(fake().messages, std::vector<std::string>(2, "Incompatible TxPixelMap Version."));
 }
 
 // What a text is too short for counts as 0, as if so many zeros stood there.

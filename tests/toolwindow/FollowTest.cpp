@@ -60,7 +60,11 @@ TEST_F(FollowTest, LocksHoldTheirCoordinate) {
   };
   for (const auto& [commands, last, held, marked] : rows) {
     SCOPED_TRACE(commands);
-    startAnew();
+    window->Close();
+    window = New<frmVesk>();
+    window->Show();
+    for (const char* item : {"mnuLock", "mnuLockX", "mnuLockY"})
+      window->MenuBar->Child(item)->Checked = false;
     fake().pointerAt = {0, 0};
     for (const char command : String(commands)) {
       fake().pointerAt = {fake().pointerAt.x + 1, fake().pointerAt.y + 10};

@@ -37,16 +37,6 @@ class ToolWindowTest : public RuntimeTest {
       found += (item->Checked ? item->Name() + " " : "") + marksOf(item->items());
     return found;
   }
-  // A new window in place of the one there is, with nothing marked.
-  void startAnew() {
-    window->Close();
-    for (const char* item : {"mnuFollow", "mnuViewSuggestions", "mnuShowColors", "mnuColorBlind", "mnuShowGuide",
-                             "mnuLock", "mnuLockX", "mnuLockY"})
-      MenuBar1::Instance()->Child(item)->Checked = false;
-    window = New<frmVesk>();
-    window->Show();
-  }
-
   // The user moves the zoom slider there, with the keyboard.
   void zoomTo(Int32 step) const {
     constexpr int kLeft = 0x01000012;
