@@ -72,10 +72,6 @@ TEST_F(ReachTest, NothingIsDoneThatTheUserCouldNotDo) {
   EXPECT_TRUE(box.state().disabled);
   EXPECT_EQ(afterPress(box), "");
   host->box.Enabled = true;
-  host->Height = 110;
-  EXPECT_TRUE(box.state().offscreen);
-  EXPECT_EQ(afterPress(box), "");
-  host->Height = 200;
   const Ref<Window> modal = New<ModalWindow>();
   modal->Show();
   EXPECT_EQ(afterPress(box), "");

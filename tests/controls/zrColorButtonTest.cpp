@@ -56,23 +56,6 @@ TEST_F(zrColorButtonTest, DisabledItPalesAndStillTakesDrops) {
   EXPECT_EQ(after([&] { button.Event_DropObject(item, 0); }), "changes-FF8001 ");
 }
 
-TEST_F(zrColorButtonTest, ThePointerChangesItsStateAndHasItPainted) {
-  const std::tuple<void (zrColorButton::*)(), Int32, bool, Int32, bool, const char*> rows[] = {
-      {&zrColorButton::Event_MouseEnter, 0, true, 1, true, ""},
-      {&zrColorButton::Event_MouseEnter, 0, false, 0, false, ""},
-      {&zrColorButton::Event_MouseExit, 1, false, 0, true, ""},
-      {&zrColorButton::Event_MouseExit, 0, true, 0, false, ""},
-      {&zrColorButton::Event_MouseExit, 3, true, 0, true, "button-000000 "}};
-  for (const auto& [event, before, enabled, state, paints, log] : rows) {
-    button.Enabled = enabled;
-    button.State = before;
-    button.Graphics().Pixel(1, 1, kBlack);
-    EXPECT_EQ(after([this, raise = event] { (button.*raise)(); }), log) << "from " << before;
-    EXPECT_EQ(button.State, state) << "from " << before;
-    EXPECT_EQ(button.Graphics().Pixel(1, 1) == kWhite, paints) << "from " << before;
-  }
-}
-
 TEST_F(zrColorButtonTest, OnlyAReleaseOnTheSwatchIsAClick) {
   const std::tuple<Int32, Int32, Int32, Int32, bool> rows[] = {
       {106, 20, 2, 2, true},    {106, 20, 17, 16, true},  {106, 20, 1, 10, false}, {106, 20, 10, 1, false},
