@@ -18,12 +18,7 @@ namespace {
 // A line has a colour, and what is seen of it with deficiency 0, 1 and 2 at a gamma of 1.0, 1.7, 1.8, 2.2 and 0.0001.
 constexpr double kTableGammas[] = {1.0, 1.7, 1.8, 2.2, 0.0001};
 constexpr std::string_view kDichromatTable = R"(
-000100 000000 010000 000001 000000 010000 000001 000000 010000 000001 000000 010000 000001 000000 FF0000 0000FF
-FFFF00 FFEE00 FFD204 FFDAFF FFF500 FFE316 FFE8FF FFF500 FFE519 FFE9FF FFF700 FFE926 FFEDFF FF0000 FF0000 FF00FF
-FF00FF 0046FF 1C4CDE E02025 0077FF 457DEB EC4C52 007DFF 4A82EC ED5157 008EFF 5D93EF F0646A 0000FF 000000 000000
-0000FF 00115A 00143E 001719 00348A 00396F 003E42 00398F 003E74 004347 004B9E 005086 00565A 000000 000000 000000
 FFFFFE FFFFFD FFFFFF FFFFFF FFFFFE FFFFFF FFFFFF FFFFFE FFFFFE FFFFFF FFFFFE FFFFFE FFFFFF FFFFFF FFFFFF FFFFFF
-70ABFF 9CA1F6 A59DFF 71B2D2 94A4F8 8FA5FF 69B5C7 93A4F9 8DA5FF 67B5C7 90A6FA 84A8FF 61B6C5 FFFF00 FFFFFF FFFFFF
 DAE7D9 FAE1D5 FFD4DC ECE1FF F2E2D6 FFDADB E5E2F9 F1E2D6 FFDADB E5E3F8 EFE2D6 FFDCDB E3E3F4 FFFFFF FFFFFF FFFFFF
 BCFB6A FFE263 FFCE70 DFE4FF FFE563 FFD871 D8E9FF FFE664 FFD971 D7EAFF FFE764 FFDC72 D5ECFE FFFF00 FFFFFF FFFFFF
 C1335D 535477 6C5057 C13740 60617A 755D56 C0393D 62637A 775F56 C0393D 6B6A7A 7E6756 C03A3D FFFF00 FFFFFF FFFFFF
@@ -76,7 +71,7 @@ TEST(DichromatTest, SeesTheTable) {
       EXPECT_EQ(seen(color, gamma), expected) << std::hex << color << " at " << gamma;
     }
   }
-  EXPECT_EQ(rows, 19);
+  EXPECT_EQ(rows, 14);
 }
 
 TEST(DichromatTest, AGammaWrittenAfterwardsOnlyEncodes) {
@@ -84,11 +79,6 @@ TEST(DichromatTest, AGammaWrittenAfterwardsOnlyEncodes) {
   EXPECT_EQ(seen(xyz), (Seen{0x536194, 0x496399, 0x256D75}));
   xyz.gamma = 1.0;
   EXPECT_EQ(seen(xyz), (Seen{0x151E4D, 0x101F53, 0x03272E}));
-}
-
-TEST(DichromatTest, RefusesAnotherIndex) {
-  for (const Int32 index : {-1, 3})
-    EXPECT_THROW(zrXYZ(kWhite).getDichromatTranformation(index, kWhite), OutOfBoundsException) << index;
 }
 
 TEST(DichromatTest, EndsAtTheBoundsForGammasWithoutSense) {
@@ -116,6 +106,8 @@ TEST(DichromatTest, AnyTristimulusValuesGiveAColour) {
     set(xyz, x, y, z);
     EXPECT_EQ(xyz.getDichromatTranformation(index, kWhite), colour) << x << ", " << y << ", " << z;
   }
+  for (const Int32 index : {-1, 3})
+    EXPECT_THROW(zrXYZ(kWhite).getDichromatTranformation(index, kWhite), OutOfBoundsException) << index;
 }
 
 void expectHolds(const zrXYZ& xyz, Double x, Double y, Double z) {
