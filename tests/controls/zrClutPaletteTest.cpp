@@ -54,12 +54,10 @@ TEST_F(zrClutPaletteTest, PaintsACellForEachEntryButTheLast) {
 TEST_F(zrClutPaletteTest, AClickSelectsByWhereTheButtonGoesUp) {
   // At x = 390 stands no column: that is the next row's first cell. Of the cells from 240 on one row of pixels shows.
   // At 41 the frame is shared with the cell that was marked before.
-  const struct {
-    Int32 x, y, index;
-    Int32 upperBound = kLast;
-  } rows[] = {{0, 0, 0},      {12, 12, 0},     {13, 0, 1},     {0, 13, 30},      {150, 20, 41}, {390, 0, 30},
-              {390, 104, -1}, {187, 104, 254}, {200, 104, -1}, {-12, 5, 0},      {-13, 18, 29}, {-13, 5, -1},
-              {5, -13, -1},   {5, 5, -1, 0},   {5, 5, 0, 50},  {160, 20, -1, 42}};
+  const std::tuple<Int32, Int32, Int32, Int32> rows[] = {
+      {12, 12, 0, kLast},    {13, 0, 1, kLast},      {0, 13, 30, kLast},    {150, 20, 41, kLast}, {390, 0, 30, kLast},
+      {390, 104, -1, kLast}, {187, 104, 254, kLast}, {200, 104, -1, kLast}, {-12, 5, 0, kLast},   {-13, 18, 29, kLast},
+      {-13, 5, -1, kLast},   {5, -13, -1, kLast},    {5, 5, -1, 0},         {5, 5, 0, 50},        {160, 20, -1, 42}};
   for (const auto& [x, y, index, upperBound] : rows) {
     SCOPED_TRACE(testing::Message() << x << ", " << y);
     show(kLast);

@@ -7,6 +7,8 @@
 namespace tavrelkin {
 namespace {
 
+constexpr Color kOrange{0xFF8000};
+
 class zrColorButtonTest : public ControlsTest {
  protected:
   // Whether the button shows nothing but the text and the swatch.
@@ -34,11 +36,11 @@ class zrColorButtonTest : public ControlsTest {
 
 TEST_F(zrColorButtonTest, EachFormHasItsText) {
   EXPECT_EQ(host->log, "palette-opens-12 button-opens-3 ");
-  const std::tuple<Int32, Color, const char*> rows[] = {{0, RGB(255, 128, 0), "255.128.0"},
-                                                        {1, RGB(32, 64, 128), "061.075.050"},
-                                                        {2, RGB(255, 128, 0), "000.050.100"},
-                                                        {3, RGB(10, 128, 0), "#0A8000"},
-                                                        {4, RGB(255, 128, 0), "255.128.0"}};
+  const std::tuple<Int32, Color, const char*> rows[] = {{0, kOrange, "255.128.0"},
+                                                        {1, Color{0x204080}, "061.075.050"},
+                                                        {2, kOrange, "000.050.100"},
+                                                        {3, Color{0x0A8000}, "#0A8000"},
+                                                        {4, kOrange, "255.128.0"}};
   for (const auto& [format, c, text] : rows) {
     EXPECT_EQ(after([&, c = c] { button.SetValue(c); }), "");
     button.setColorFormat(format);

@@ -88,17 +88,12 @@ TEST_F(frmColorBlindTest, AClickShowsAResultAtLarge) {
 
 TEST_F(frmColorBlindTest, TheTabulatorKeyVisitsWhatTakesKeys) {
   auto& box = window->cmdColor;
-  const RectControl* order[] = {&window->cmbGamma, &window->txtGamma, &box[0],           &box[1],
-                                &box[2],           &box[3],           &window->cmdUpdate};
-  window->cmbGamma.SetFocus();
-  for (int round = 0; round < 2; ++round) {
-    for (const RectControl* control : order) {
-      ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(*control); })) << control->Name() << control->Index;
-      gesture::key(*control, kKeyTab);
-    }
+  gesture::click(box[1], 10, 10);  // which takes no keyboard by that
+  for (const RectControl* control : std::initializer_list<const RectControl*>{
+           &box[0], &box[1], &box[2], &box[3], &window->cmdUpdate, &window->cmbGamma, &window->txtGamma, &box[0]}) {
+    ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(*control); })) << control->Name() << control->Index;
+    gesture::key(*control, kKeyTab);
   }
-  gesture::click(box[1], 10, 10);
-  EXPECT_FALSE(gesture::hasKeyboard(box[1]));
 }
 
 }  // namespace

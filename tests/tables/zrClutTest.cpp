@@ -98,22 +98,22 @@ String triples(Int32 colors) {
 
 class SwatchFilesTest : public RuntimeTest {
  protected:
-  using Reader = bool (zrClut::*)(const Ref<FolderItem>&);
-  using Writer = bool (zrClut::*)(const Ref<FolderItem>&) const;
-
-  Ref<zrClut> read(Reader reader, const String& bytes) const {
+  Ref<zrClut> readSwatch(const String& bytes) const {
     const auto table = New<zrClut>();
-    EXPECT_TRUE(((*table).*reader)(folder.write("in", bytes)));
+    EXPECT_TRUE(table->ReadSwatch(folder.write("in", bytes)));
     return table;
   }
-  Ref<zrClut> readSwatch(const String& bytes) const { return read(&zrClut::ReadSwatch, bytes); }
-  Ref<zrClut> readClut(const String& bytes) const { return read(&zrClut::ReadClut, bytes); }
-  String written(const zrClut& table, Writer writer) const {
-    EXPECT_TRUE((table.*writer)(folder.item("out")));
-    return folder.read("out");
+  Ref<zrClut> readClut(const String& bytes) const {
+    const auto table = New<zrClut>();
+    EXPECT_TRUE(table->ReadClut(folder.write("in", bytes)));
+    return table;
   }
-  String writtenSwatch(const zrClut& table) const { return written(table, &zrClut::writeSwatch); }
-  String writtenClut(const zrClut& table) const { return written(table, &zrClut::WriteClut); }
+  String writtenSwatch(const zrClut& table) const {
+    return table.writeSwatch(folder.item("out")) ? folder.read("out") : "";
+  }
+  String writtenClut(const zrClut& table) const {
+    return table.WriteClut(folder.item("out")) ? folder.read("out") : "";
+  }
   // The table holds so many colours of the file, the last of them with only so many channels, and is otherwise as new.
   static void expectRead(const zrClut& table, Int32 colors, std::size_t channels = 3) {
     for (Int32 i = 0; i <= table.Count; ++i) {
@@ -186,13 +186,13 @@ TEST_F(SwatchFilesTest, FilesCutOffAnywhereGiveWhatTheyHave) {
 TEST_F(SwatchFilesTest, FailuresAreToldAndLeaveTheTable) {
   std::filesystem::create_directory(folder.path("folder"));
   const auto table = readSwatch(swatch(20, 10));
-  for (const Reader reader : {&zrClut::ReadSwatch, &zrClut::ReadClut}) {
-    for (const auto& file : {Ref<FolderItem>(), folder.item("none"), folder.item("folder")})
-      EXPECT_FALSE(((*table).*reader)(file));
+  for (const auto& file : {Ref<FolderItem>(), folder.item("none"), folder.item("folder")}) {
+    EXPECT_FALSE(table->ReadSwatch(file));
+    EXPECT_FALSE(table->ReadClut(file));
   }
-  for (const Writer writer : {&zrClut::writeSwatch, &zrClut::WriteClut}) {
-    for (const auto& file : {Ref<FolderItem>(), folder.item("folder")})
-      EXPECT_FALSE(((*table).*writer)(file));
+  for (const auto& file : {Ref<FolderItem>(), folder.item("folder")}) {
+    EXPECT_FALSE(table->writeSwatch(file));
+    EXPECT_FALSE(table->WriteClut(file));
   }
   const std::vector<std::string> messages{"Unable to read color swatch", "Unable to read color clut",
                                           "Unable to save swatch file", "Unable to save clut file"};

@@ -13,7 +13,7 @@ class PeekerTest : public ToolWindowTest {
 };
 
 TEST_F(PeekerTest, ASampleReadsColumnByColumnAndOncePerPixel) {
-  const struct { Int32 step, width, height; } rows[] = {{1, 103, 49}, {2, 52, 25}, {3, 35, 17}};
+  const std::tuple<Int32, Int32, Int32> rows[] = {{1, 103, 49}, {2, 52, 25}, {3, 35, 17}};
   for (const auto& [step, width, height] : rows) {
     zoomTo(step);
     fake().pixelsRead.clear();
