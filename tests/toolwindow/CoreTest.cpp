@@ -53,10 +53,9 @@ TEST_F(CoreTest, TheWebSafePairShowsForAnyOtherColour) {
 TEST_F(CoreTest, ANewColourLetsThreadsRunBetweenTheBars) {
   Thread watcher{*window, "watcher"};
   std::set<std::ptrdiff_t> done;
-  bool running = true;
   Color now = window->SelectedColor;
   watcher.RunEvent = [&] {
-    while (running) {
+    while (now != kBlack) {
       done.insert(std::ranges::count(window->cmdMixer, now, &zrColorCHBar::propBaseColor));
       EXPECT_EQ(window->SelectedColor, now);
       EXPECT_EQ(window->sm.Value, now) << "the last ahead of the bars";
@@ -70,7 +69,7 @@ TEST_F(CoreTest, ANewColourLetsThreadsRunBetweenTheBars) {
     window->setColor(now, false);
     RuntimeBackgroundTask();  // the calls don't fall into step with the looks at the clock
   }
-  running = false;
+  now = kBlack;  // which ends it
   fake().advance(1ms);
   EXPECT_EQ(done, std::set<std::ptrdiff_t>({1, 2, 3, 4, 5, 6}));
 }

