@@ -98,5 +98,18 @@ TEST_F(zrClutPaletteTest, ADragBeginsBeyondSixPixelsWithAColourSelected) {
   }
 }
 
+TEST_F(zrClutPaletteTest, ADropOfPrivateDataGoesToTheSelectedCell) {
+  const Ref<DragItem> item = New<DragItem>();
+  item->SetText("#FF8000");
+  show(kLast);
+  EXPECT_FALSE(gesture::drop(palette, *item));
+  item->MacData("hcol", "255, 128, 0");
+  const auto drop = [&] { gesture::drop(palette, *item); };
+  EXPECT_EQ(after(drop), "changes-0-FF8000 ");
+  EXPECT_TRUE(isMarked(0));
+  palette.Selected = -1;
+  EXPECT_EQ(after(drop), "");
+}
+
 }  // namespace
 }  // namespace tavrelkin

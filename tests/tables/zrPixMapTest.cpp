@@ -90,12 +90,14 @@ TEST_F(zrPixMapTest, WhatIsTooLargeOrNoPictureIsRefused) {
 }
 
 TEST_F(zrPixMapTest, TheTransparentColourIsFoundOrAddedAndTakes32Bits) {
-  const std::tuple<std::uint32_t, Int32, Int32> rows[] = {{0xFF00FF, 4, 32}, {0x00FF00, 3, 32}, {0, 0, 8}};
+  const std::tuple<std::uint32_t, Int32, Int32> rows[] = {{0xFF00FF, 4, 32}, {0xFFFFFF, 1, 32}, {0, 0, 8}};
   for (const auto& [color, index, depth] : rows) {
     map->setMaskColor(Color{color});
     EXPECT_EQ(map->MaskColorIdx, index);
     map->depth = 8;
     EXPECT_EQ(map->GetPicture()->Depth(), depth);
+    map->CreateFromPicture(NewPicture(2, 2, 8));
+    EXPECT_EQ(map->depth, depth);
   }
 }
 
