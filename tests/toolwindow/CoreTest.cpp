@@ -13,6 +13,7 @@ using CoreTest = ToolWindowTest;
 TEST_F(CoreTest, OpensIdleAtTheStartColour) {
   EXPECT_EQ(window->Title.get(), "Color: 112.171.255, #70ABFF");
   EXPECT_EQ(window->view0_lblColor.Text.get(), "Color: 112.171.255, 215.56.100, #70ABFF");
+  EXPECT_FALSE(window->rTIP.Visible);
   EXPECT_TRUE(fake().pixelsRead.empty());
   EXPECT_FALSE(fake().nextAlarm());
   EXPECT_EQ(firstFault([](Int32, Int32) { return kWhite; }), "");

@@ -29,6 +29,7 @@ TEST_F(PeekerTest, ASampleReadsColumnByColumnAndOncePerPixel) {
 }
 
 TEST_F(PeekerTest, ASampleHasAMarkerThatStandsOutAndARepaintOneOfItsOwn) {
+  zoomTo(3);
   choose("mnuShowGuide");
   for (const Int32 step : {1, 2, 3}) {
     zoomTo(step);
@@ -38,7 +39,7 @@ TEST_F(PeekerTest, ASampleHasAMarkerThatStandsOutAndARepaintOneOfItsOwn) {
       window->drawSys(300, 200);
       for (const auto& [end, c] : {std::pair{side, marker}, {side - 1, kBlack}}) {
         EXPECT_EQ(shown(reachX(step) * side + end, reachY(step) * side + end), c) << step;
-        EXPECT_EQ(shown(side, 2), Color{0xCECECE}) << "a guide at step " << step;
+        EXPECT_EQ(shown(408 - side, 2), Color{0xCECECE}) << "the last guide at step " << step;
         EXPECT_EQ(shown(407, 191), kWhite) << "the frame";
         window->imgScreen.Refresh(true);
       }

@@ -96,9 +96,9 @@ TEST(ColourCellsTest, StandInRowsThatEndAheadOfTheRightEdge) {
   const Ref<Picture> canvas = NewPicture(408, 192, 32);
   drawCells(canvas->Graphics(), Colours(94, kBlack));
   // The first cell, the sixteenth and the last with the ground beside them, and the corner.
-  const std::tuple<Int32, Int32, Color> rows[] = {{13, 10, frame},    {14, 11, kWhite},  {15, 12, kBlack},
-                                                  {373, 10, frame},   {397, 10, ground}, {335, 135, frame},
-                                                  {349, 135, ground}, {407, 191, kWhite}};
+  const std::tuple<Int32, Int32, Color> rows[] = {{13, 20, frame},   {14, 11, kWhite},   {31, 28, kWhite},
+                                                  {15, 12, kBlack},  {373, 10, frame},   {397, 10, ground},
+                                                  {335, 135, frame}, {349, 135, ground}, {407, 191, kWhite}};
   for (const auto& [x, y, c] : rows)
     EXPECT_EQ(canvas->Graphics().Pixel(x, y), c) << x << ", " << y;
 }
@@ -139,8 +139,8 @@ TEST_F(ViewsTest, NineSwatchesShowTheColourOfTheLastPaintAsDichromatsSeeIt) {
   for (Int32 i = 0; i < 9; ++i) {
     model.gamma = i < 3 ? 1.7 : i < 6 ? 1.8 : 2.2;
     model.XYZFromRGB(c);
-    EXPECT_EQ(shown(100 + 48 * (i % 3), 12 + 44 * (i / 3)), Color{0x909090}) << i;
-    EXPECT_EQ(shown(102 + 48 * (i % 3), 49 + 44 * (i / 3)), model.getDichromatTranformation(i % 3, c)) << i;
+    EXPECT_EQ(shown(100 + 48 * (i % 3), 32 + 44 * (i / 3)), Color{0x909090}) << i;
+    EXPECT_EQ(shown(102 + 48 * (i % 3), 14 + 44 * (i / 3)), model.getDichromatTranformation(i % 3, c)) << i;
   }
 }
 
