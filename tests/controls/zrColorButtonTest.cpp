@@ -58,6 +58,25 @@ TEST_F(zrColorButtonTest, DisabledItPalesAndStillTakesDrops) {
   EXPECT_EQ(after([&] { button.Event_DropObject(item, 0); }), "changes-FF8001 ");
 }
 
+TEST_F(zrColorButtonTest, ThePointerChangesItsStateAndHasItPainted) {
+  // Whether the button is enabled, whether the pointer enters or leaves, the state before and after, and whether that
+  // paints.
+  const std::tuple<bool, bool, Int32, Int32, bool> rows[] = {{true, true, 0, 1, true},
+                                                             {false, true, 0, 0, false},
+                                                             {true, false, 1, 0, true},
+                                                             {true, false, 0, 0, false},
+                                                             {true, false, 3, 0, true}};
+  for (const auto& [enabled, enters, before, state, paints] : rows) {
+    button.Enabled = enabled;
+    button.State = before;
+    button.Graphics().Pixel(1, 1, kOrange);
+    const auto event = enters ? &zrColorButton::Event_MouseEnter : &zrColorButton::Event_MouseExit;
+    EXPECT_EQ(after([&] { (button.*event)(); }), before == 3 ? "button-000000 " : "");
+    EXPECT_EQ(button.State, state) << before;
+    EXPECT_EQ(button.Graphics().Pixel(1, 1) == kWhite, paints) << before;
+  }
+}
+
 TEST_F(zrColorButtonTest, OnlyAReleaseOnTheSwatchIsAClick) {
   const std::tuple<Int32, Int32, Int32, Int32, bool> rows[] = {
       {106, 20, 2, 2, true},    {106, 20, 17, 16, true},  {106, 20, 1, 10, false}, {106, 20, 10, 1, false},
