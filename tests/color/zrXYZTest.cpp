@@ -1,123 +1,137 @@
+#include <array>
+#include <cstdint>
+#include <ios>
+#include <limits>
+#include <sstream>
+#include <string>
+
 #include <gtest/gtest.h>
 
 #include "color/zrXYZ.h"
+#include "runtime/base/Exceptions.h"
 
 namespace tavrelkin {
 namespace {
 
-struct Triple {
-  Double first, second, third;
-};
+// What dichromats see, as computed once by another program in another language. Every entry stays the same when the
+// powers err by their last bit, and each constant of the model shows to its last digit.
+// A line has a colour, and what is seen of it with deficiency 0, 1 and 2 at a gamma of 1.0, 1.7, 1.8, 2.2 and 0.0001.
+constexpr double kTableGammas[] = {1.0, 1.7, 1.8, 2.2, 0.0001};
+constexpr std::string_view kDichromatTable = R"(
+FFFFFE FFFFFD FFFFFF FFFFFF FFFFFE FFFFFF FFFFFF FFFFFE FFFFFE FFFFFF FFFFFE FFFFFE FFFFFF FFFFFF FFFFFF FFFFFF
+DAE7D9 FAE1D5 FFD4DC ECE1FF F2E2D6 FFDADB E5E2F9 F1E2D6 FFDADB E5E3F8 EFE2D6 FFDCDB E3E3F4 FFFFFF FFFFFF FFFFFF
+BCFB6A FFE263 FFCE70 DFE4FF FFE563 FFD871 D8E9FF FFE664 FFD971 D7EAFF FFE764 FFDC72 D5ECFE FFFF00 FFFFFF FFFFFF
+C1335D 535477 6C5057 C13740 60617A 755D56 C0393D 62637A 775F56 C0393D 6B6A7A 7E6756 C03A3D FFFF00 FFFFFF FFFFFF
+7150FE 3C60FF 3B64F6 616476 0066FF 006EE6 566F7A 0067FF 006FDD 53717B 006DE8 0074C7 487881 FFFF00 FFFFFF FFFFFF
+F7E628 FFDD26 FFC52B FFC9EC FFE127 FFD22E FFD2E7 FFE127 FFD32E FFD3E7 FFE327 FFD731 FFD6E6 FFFF00 FFFFFF FFFFFF
+F39BE2 B2B1F2 D0A9DE F6A1BD ADB4F4 C0B1DD F1A3B3 ACB5F4 BFB2DD F1A3B2 ABB7F5 BCB4DD F0A5B1 FFFF00 FFFFFF FFFFFF
+7751E5 4461FA 4763DF 6B6273 2165FE 1B6CDD 636A75 1366FF 006DDD 626B76 006AE3 0070C4 5C717A FFFF00 FFFFFF FFFFFF
+09CD77 B79B63 D19082 20BEE0 C2AB69 D5A27F 40C1D5 C2AC6A D5A47F 45C1D4 C5B16C D5AA7F 56C2D2 FFFF00 FFFFFF FFFFFF
+5EAD0F C0900C F08113 7D96B0 B3960B CD8C1B 789EAE B2970A CA8D1D 789EAE AF9900 C39125 78A1AD FFFF00 FFFFFF FFFFFF
+128917 856612 A45C1C 28788D 867112 986920 367D8A 867212 976A20 387E8A 867511 946F24 417F89 FFFF00 FFFFFF FFFFFF
+EEDCC1 F9DCC1 FFCEC3 FFD4F9 F0DDC1 FFD4C2 FAD6EB EFDDC1 FFD4C2 F9D6EA EDDEC1 FFD6C2 F7D7E7 FFFFFF FFFFFF FFFFFF
+7BDBCF D7C3C1 F2B8D6 8BD5FB D3C6C3 E0C0D4 89D7ED D2C7C3 DFC1D4 89D7EB D2C8C4 DCC3D4 8AD7E8 FFFF00 FFFFFF FFFFFF
+1B9AB5 827EA0 867ABD 219AB6 8687A7 8485B9 229BAB 8688A7 8486B9 229CAB 888BAA 858AB8 219CA8 FFFF00 FFFFFF FFFFFF
+)";
 
-void expectHolds(const zrXYZ& xyz, const Triple& expected) {
-  EXPECT_DOUBLE_EQ(xyz.x, expected.first);
-  EXPECT_DOUBLE_EQ(xyz.y, expected.second);
-  EXPECT_DOUBLE_EQ(xyz.z, expected.third);
+constexpr Double kInfinity = std::numeric_limits<Double>::infinity();
+constexpr Double kNaN = std::numeric_limits<Double>::quiet_NaN();
+
+void set(zrXYZ& xyz, Double x, Double y, Double z) {
+  xyz.x = x;
+  xyz.y = y;
+  xyz.z = z;
 }
 
-TEST(zrXYZTest, TakesAColour) {
-  struct Row {
-    Color color;
-    Double gamma;
-    Triple expected;
-  };
-  constexpr Triple white{0.9505, 1.0, 1.089};
-  const Row rows[] = {
-      {kBlack, 1.8, {0, 0, 0}},
-      {kBlack, 0, white},  // any channel to the power of 0 is 1
-      {kWhite, -1.8, white},
-      {RGB(255, 0, 0), 1.7, {0.4306, 0.222, 0.0202}},
-      {RGB(0, 255, 0), 1.7, {0.3416, 0.7067, 0.1296}},
-      {RGB(0, 0, 255), 1.7, {0.1783, 0.0713, 0.9392}},
-      {RGB(128, 128, 128), 1.8, {0.2748892407695465, 0.2892048824508643, 0.3149441169889912}},
-      {RGB(51, 0, 0), 1.0, {0.4306 / 5, 0.222 / 5, 0.0202 / 5}},
-  };
-  for (const Row& row : rows) {
-    SCOPED_TRACE(testing::Message() << std::hex << row.color.bits << " at " << row.gamma);
-    zrXYZ xyz(RGB(1, 2, 3));
-    xyz.gamma = row.gamma;
-    xyz.XYZFromRGB(row.color);
-    expectHolds(xyz, row.expected);
+using Seen = std::array<std::uint32_t, 3>;
+
+// What is seen with each deficiency.
+Seen seen(const zrXYZ& xyz) {
+  Seen all{};
+  for (std::size_t i = 0; i < all.size(); ++i)
+    all.at(i) = xyz.getDichromatTranformation(static_cast<Int32>(i), RGB(1, 2, 3)).bits;
+  return all;
+}
+
+Seen seen(std::uint32_t color, Double gamma) {
+  zrXYZ xyz(kBlack);
+  xyz.gamma = gamma;
+  xyz.XYZFromRGB(Color{color});
+  return seen(xyz);
+}
+
+TEST(DichromatTest, SeesTheTable) {
+  std::istringstream table{std::string(kDichromatTable)};
+  int rows = 0;
+  for (std::uint32_t color = 0; table >> std::hex >> color; ++rows) {
+    for (const Double gamma : kTableGammas) {
+      Seen expected{};
+      for (std::uint32_t& each : expected)
+        table >> each;
+      EXPECT_EQ(seen(color, gamma), expected) << std::hex << color << " at " << gamma;
+    }
   }
+  EXPECT_EQ(rows, 14);
 }
 
-TEST(zrXYZTest, GammaCountsOnlyWhenAColourIsTaken) {
-  const Color grey = RGB(128, 128, 128);
-  constexpr Triple atDefault{0.20865349203016192, 0.2195197180748679, 0.23905697298353112};
-  zrXYZ xyz(grey);
-  EXPECT_EQ(xyz.gamma, 2.2);
-  expectHolds(xyz, atDefault);
-  xyz.gamma = 1.8;
-  expectHolds(xyz, atDefault);
-  xyz.XYZFromRGB(grey);
-  EXPECT_GT(xyz.y, 0.28);
-
+TEST(DichromatTest, AGammaWrittenAfterwardsOnlyEncodesUntilAColourIsTaken) {
+  zrXYZ xyz(Color{0x336699});
+  EXPECT_EQ(seen(xyz), (Seen{0x536194, 0x496399, 0x256D75}));
+  xyz.gamma = 1.0;
+  EXPECT_EQ(seen(xyz), (Seen{0x151E4D, 0x101F53, 0x03272E}));
+  xyz.XYZFromRGB(Color{0x336699});
   xyz.initClass();
   EXPECT_EQ(xyz.gamma, 2.2);
-  EXPECT_GT(xyz.y, 0.28);
+  EXPECT_EQ(seen(xyz), (Seen{0x9EA1C5, 0xA09FCC, 0x7BABB8}));
 }
 
-TEST(zrXYZTest, ConvertsToLinearChannels) {
-  struct Row {
-    Triple from, expected;
+TEST(DichromatTest, EndsAtTheBoundsForGammasWithoutSense) {
+  // A colour, a gamma and what is seen with each deficiency.
+  const std::tuple<std::uint32_t, Double, std::uint32_t> rows[] = {
+      {0x000000, 0.0, 0xFFFFFF},   // every channel becomes 1
+      {0x000000, -1.8, 0},         // infinite, and then no number
+      {0x808080, -1.8, 0xFFFFFF},  // above 1 throughout
+      {0x70ABFE, kInfinity, 0},   {0x70ABFF, -kInfinity, 0},
+      {0x70ABFE, kNaN, 0},        {0xFFFFFF, kNaN, 0xFFFFFF},  // 1 to any power is 1
   };
-  const Row rows[] = {
-      {{1, 0, 0}, {3.0632, -0.9692, 0.0679}},
-      {{0, 1, 0}, {-1.3416, 1.876, -0.2289}},
-      {{0, 0, 1}, {-0.4758, 0.046, 1.0693}},
-      {{0.9505, 1.0, 1.089}, {1.0518254, 1.0048694, 1.00010665}},  // white comes back too red
+  for (const auto& [color, gamma, same] : rows)
+    EXPECT_EQ(seen(color, gamma), (Seen{same, same, same})) << std::hex << color << " at " << gamma;
+}
+
+// Each of these divides by zero or starts from what is no number.
+TEST(DichromatTest, AnyTristimulusValuesGiveAColour) {
+  const std::tuple<Double, Double, Double, Int32, Color> rows[] = {
+      {0.5, 0.5, -1, 0, RGB(0, 182, 255)}, {0.5, 0.5, -1, 2, RGB(0, 209, 213)},
+      {kNaN, kNaN, kNaN, 0, kBlack},       {kInfinity, 0.5, -kInfinity, 2, kBlack},
+      {0.5, kInfinity, 0.5, 1, kBlack},    {0.171, 0.5, 0.329, 2, kBlack},  // above the confusion point
   };
-  const zrXYZ xyz(RGB(255, 128, 0));
-  for (const Row& row : rows) {
-    Double r = 9;
-    Double g = 9;
-    Double b = 9;
-    xyz.RGB2FromXYZ(row.from.first, row.from.second, row.from.third, r, g, b);
-    EXPECT_DOUBLE_EQ(r, row.expected.first);
-    EXPECT_DOUBLE_EQ(g, row.expected.second);
-    EXPECT_DOUBLE_EQ(b, row.expected.third);
+  for (const auto& [x, y, z, index, colour] : rows) {
+    zrXYZ xyz(kWhite);
+    set(xyz, x, y, z);
+    EXPECT_EQ(xyz.getDichromatTranformation(index, kWhite), colour) << x << ", " << y << ", " << z;
   }
+  for (const Int32 index : {-1, 3})
+    EXPECT_THROW(zrXYZ(kWhite).getDichromatTranformation(index, kWhite), OutOfBoundsException) << index;
 }
 
-// A factor that is off by its last digit changes the result of one of the rows with large values.
-TEST(zrXYZTest, ConvertsToAColour) {
-  struct Row {
-    Triple from;
-    Color expected;
+// The two ways back to a colour. A factor that is off by its last digit changes one of the rows with large values.
+TEST(zrXYZTest, ConvertsToAColourAndToWholeParts) {
+  const std::tuple<Double, Double, Double, Color, Color> rows[] = {
+      {0.3, 0.3, 0.3, RGB(91, 72, 69), kBlack},
+      {0.1, 0.5, 0.2, RGB(0, 216, 27), kBlack},                // red is -123.8
+      {0.9505, 1.0, 1.089, RGB(255, 254, 255), RGB(0, 1, 0)},  // green is 254.99
+      {26762.671, 52303, 19135, RGB(88, 255, 255), RGB(255, 255, 255)},
+      {28759, 13818.348, 46972, RGB(255, 54, 255), RGB(255, 0, 255)},
+      {40546, 43361, 6706.768, RGB(255, 255, 164), RGB(255, 255, 255)},
+      {64808.865, 166755, 119816, RGB(0, 255, 255), RGB(158, 255, 255)},
+      {109968, 56053.892, 133212, kWhite, RGB(255, 54, 255)},
+      {181281, 160652, 9580.747, RGB(255, 255, 0), RGB(255, 255, 174)},
   };
-  const Row rows[] = {
-      {{0, 0, 0}, kBlack},
-      {{0.3, 0.3, 0.3}, RGB(91, 72, 69)},
-      {{0.1, 0.5, 0.2}, RGB(0, 216, 27)},          // red is -123.8
-      {{0.9505, 1.0, 1.089}, RGB(255, 254, 255)},  // green is 254.99
-      {{26762.671, 52303, 19135}, RGB(88, 255, 255)},
-      {{28759, 13818.348, 46972}, RGB(255, 54, 255)},
-      {{40546, 43361, 6706.768}, RGB(255, 255, 164)},
-  };
-  const zrXYZ xyz(kBlack);
-  for (const Row& row : rows)
-    EXPECT_EQ(xyz.RGBFromXYZ(row.from.first, row.from.second, row.from.third), row.expected) << row.from.first;
-}
-
-TEST(zrXYZTest, GivesWholePartsOfLinearChannels) {
-  struct Row {
-    Triple held;
-    Color expected;
-  };
-  const Row rows[] = {
-      {{0.9505, 1.0, 1.089}, RGB(0, 1, 0)},
-      {{1, 0, 0}, RGB(1, 0, 0)},
-      {{0.2, 0.2, 0.2}, kBlack},
-      {{64808.865, 166755, 119816}, RGB(158, 255, 255)},
-      {{109968, 56053.892, 133212}, RGB(255, 54, 255)},
-      {{181281, 160652, 9580.747}, RGB(255, 255, 174)},
-  };
-  zrXYZ xyz(kBlack);
-  for (const Row& row : rows) {
-    xyz.x = row.held.first;
-    xyz.y = row.held.second;
-    xyz.z = row.held.third;
-    EXPECT_EQ(xyz.getRGBColor(), row.expected) << row.held.first;
+  for (const auto& [x, y, z, color, parts] : rows) {
+    zrXYZ xyz(kBlack);
+    set(xyz, x, y, z);
+    EXPECT_EQ(xyz.RGBFromXYZ(x, y, z), color) << x;
+    EXPECT_EQ(xyz.getRGBColor(), parts) << x;
   }
 }
 

@@ -1,10 +1,6 @@
-#include <algorithm>
-
-#include "controls/zrClutPalette.h"
+#include "controls/ControlsTest.h"
 #include "runtime/base/Exceptions.h"
 #include "support/DragGestures.h"
-#include "support/Gestures.h"
-#include "support/RuntimeTest.h"
 
 namespace tavrelkin {
 namespace {
@@ -12,162 +8,107 @@ namespace {
 constexpr Int32 kColumns = 30;
 constexpr Int32 kPitch = 13;
 constexpr Int32 kLast = 255;
+constexpr Color kMark{0x909090};
 
 Color colorAt(Int32 index) {
   return Color{0x400000u + static_cast<std::uint32_t>(index) * 7};
 }
 
-// A table with this upper bound.
-Ref<zrClut> tableOf(Int32 upperBound) {
-  Ref<zrClut> table = New<zrClut>();
-  table->Count = upperBound;
-  table->aColors.resize(static_cast<std::size_t>(upperBound) + 1);
-  for (Int32 i = 0; i <= upperBound; ++i)
-    table->Add(colorAt(i));
-  return table;
-}
-
-class Host : public Window {
- public:
-  explicit Host(Int32 height) : Window({.title = "Host", .width = 431, .height = 161}) {
-    palette.place(20, 7, 391, height);
-    palette.Open = [this] { log += "open " + Str(palette.Selected) + " " + Str(palette.wBox); };
-    palette.Action = [this](Int32 index, Color c) { log += "action " + Str(index) + " " + Hex(toInt32(c.bits)); };
-    palette.Change = [this](Int32 index, Color c) { log += "change " + Str(index) + " " + Hex(toInt32(c.bits)); };
-  }
-  Color pixel(Int32 x, Int32 y) { return palette.Graphics().Pixel(x, y); }
-  void click(Int32 index) { gesture::click(palette, index % kColumns * kPitch + 5, index / kColumns * kPitch + 5); }
-
-  zrClutPalette palette{*this, "palette"};
-  String log;
-};
-
-class zrClutPaletteTest : public RuntimeTest {
+class zrClutPaletteTest : public ControlsTest {
  protected:
-  Ref<Host> open(const Ref<zrClut>& table, Int32 height = 105) {
-    Ref<Host> host = New<Host>(height);
-    host->Show();
-    if (table) host->palette.SetClut(table);
-    host->log = "";
-    return host;
+  // Shows a table with this upper bound.
+  void show(Int32 upperBound) {
+    const Ref<zrClut> table = New<zrClut>();
+    for (Int32 i = 0; i <= kLast; ++i)
+      table->Add(colorAt(i));
+    table->Count = upperBound;
+    palette.SetClut(table);
   }
+  // A pixel of a cell, counted from its frame's corner.
+  Color pixel(Int32 index, Int32 x, Int32 y) const {
+    return palette.Graphics().Pixel(index % kColumns * kPitch + x, index / kColumns * kPitch + y);
+  }
+  void click(Int32 index) const {
+    gesture::click(palette, index % kColumns * kPitch + 5, index / kColumns * kPitch + 5);
+  }
+  bool isMarked(Int32 index) const { return pixel(index, 0, 0) == kMark && pixel(index, 13, 0) == kMark; }
+
+  zrClutPalette& palette = host->palette;
 };
-
-// What a paint leaves at a pixel of a palette without a mark.
-Color paintedAt(Int32 x, Int32 y, Int32 cells) {
-  const auto isCell = [cells](Int32 column, Int32 row) {
-    return 0 <= column && column < kColumns && 0 <= row && row * kColumns + column < cells;
-  };
-  const Int32 column = x / kPitch, row = y / kPitch;
-  const Int32 left = x % kPitch == 0 ? column - 1 : column, above = y % kPitch == 0 ? row - 1 : row;
-  if (left == column && above == row) return isCell(column, row) ? colorAt(row * kColumns + column) : kWhite;
-  const bool framed = isCell(column, row) || isCell(left, row) || isCell(column, above) || isCell(left, above);
-  return framed ? kBlack : kWhite;
-}
-
-bool isMarked(Host& host, Int32 index) {
-  const Int32 left = index % kColumns * kPitch, top = index / kColumns * kPitch;
-  for (Int32 y = 0; y < 14 && top + y < host.palette.Height; ++y) {
-    for (Int32 x = 0; x < 14; ++x) {
-      const Int32 depth = std::min({x, y, 13 - x, 13 - y});
-      const Color wanted = depth == 0 ? Color{0x909090} : depth == 1 ? kWhite : host.palette.TheClut->getColor(index);
-      if (host.pixel(left + x, top + y) != wanted) return false;
-    }
-  }
-  return true;
-}
 
 TEST_F(zrClutPaletteTest, PaintsACellForEachEntryButTheLast) {
-  for (const Int32 upperBound : {kLast, 31, 1, 0, -1}) {
-    const Ref<Host> host = open(tableOf(upperBound), 130);
-    for (Int32 y = 0; y < 130; ++y) {
-      for (Int32 x = 0; x < 391; ++x)
-        ASSERT_EQ(host->pixel(x, y), paintedAt(x, y, upperBound)) << upperBound << ": " << x << ", " << y;
+  palette.place(20, 7, 391, 143);
+  EXPECT_EQ(pixel(0, 5, 5), host->BackColor.get()) << "nothing is painted without a table";
+  EXPECT_THROW(palette.Event_MouseUp(5, 5), NilObjectException);
+  for (const Int32 upperBound : {kLast, 31, 0, -1}) {
+    show(upperBound);
+    for (Int32 i = 0; i < 10 * kColumns; ++i) {
+      const bool isCell = i < upperBound;
+      for (const auto& [x, y] : {std::pair{1, 1}, {12, 1}, {1, 12}, {12, 12}})
+        ASSERT_EQ(pixel(i, x, y), isCell ? colorAt(i) : kWhite) << upperBound << ": " << i;
+      ASSERT_EQ(pixel(i, 13, 13), isCell ? kBlack : kWhite) << upperBound << ": " << i;
     }
   }
-  const Ref<Host> empty = open(nullptr);
-  EXPECT_EQ(empty->pixel(5, 5), empty->BackColor.get()) << "nothing is painted without a table";
-  EXPECT_EQ(New<Host>(105)->log, "open 0 12");
 }
 
 TEST_F(zrClutPaletteTest, AClickSelectsByWhereTheButtonGoesUp) {
   // At x = 390 stands no column: that is the next row's first cell. Of the cells from 240 on one row of pixels shows.
   // At 41 the frame is shared with the cell that was marked before.
-  const struct {
-    Int32 x, y, index;
-    Int32 upperBound = kLast;
-  } rows[] = {{0, 0, 0},      {12, 12, 0},     {13, 0, 1},     {0, 13, 30},      {150, 20, 41}, {390, 0, 30},
-              {390, 104, -1}, {187, 104, 254}, {200, 104, -1}, {-12, 5, 0},      {-13, 18, 29}, {-13, 5, -1},
-              {5, -13, -1},   {5, 5, -1, 0},   {5, 5, 0, 50},  {160, 20, -1, 42}};
+  const std::tuple<Int32, Int32, Int32, Int32> rows[] = {
+      {12, 12, 0, kLast},    {13, 0, 1, kLast},      {0, 13, 30, kLast},    {150, 20, 41, kLast}, {390, 0, 30, kLast},
+      {390, 104, -1, kLast}, {187, 104, 254, kLast}, {200, 104, -1, kLast}, {-12, 5, 0, kLast},   {-13, 18, 29, kLast},
+      {-13, 5, -1, kLast},   {5, -13, -1, kLast},    {5, 5, -1, 0},         {5, 5, 0, 50},        {160, 20, -1, 42}};
   for (const auto& [x, y, index, upperBound] : rows) {
-    const Ref<Host> host = open(tableOf(kLast));
-    host->click(42);
-    ASSERT_TRUE(isMarked(*host, 42));
-    host->palette.TheClut->Count = upperBound;
+    SCOPED_TRACE(testing::Message() << x << ", " << y);
+    show(kLast);
+    click(42);
+    palette.TheClut->Count = upperBound;
     host->log = "";
-    gesture::press(host->palette, 100, 100);
-    gesture::release(host->palette, x, y);
-    EXPECT_EQ(host->palette.Selected, index) << x << ", " << y;
-    EXPECT_EQ(host->palette.LastSelection, 42);
-    EXPECT_EQ(host->log, index < 0 ? "" : "action " + Str(index) + " " + Hex(toInt32(colorAt(index).bits)));
-    EXPECT_TRUE(index < 0 || isMarked(*host, index)) << index;
-    EXPECT_EQ(host->pixel(12 * kPitch + 13, 20), kBlack) << "the old mark is gone";
-    EXPECT_EQ(host->pixel(12 * kPitch + 12, 20), upperBound < 42 ? kBlack : colorAt(42));
+    gesture::press(palette, 100, 100);
+    gesture::release(palette, x, y);
+    EXPECT_EQ(palette.Selected, index);
+    EXPECT_EQ(palette.LastSelection, 42);
+    EXPECT_EQ(host->log, index < 0 ? "" : "selects-" + Str(index) + "-" + getHexStr(colorAt(index)) + " ");
+    EXPECT_TRUE(index < 0 || isMarked(index));
+    EXPECT_EQ(pixel(42, 13, 7), kBlack) << "the old mark is gone";
+    EXPECT_EQ(pixel(42, 12, 7), upperBound < 42 ? kBlack : colorAt(42));
   }
-  const Ref<Host> empty = open(nullptr);
-  EXPECT_THROW(empty->palette.Event_MouseUp(5, 5), NilObjectException);
 }
 
 TEST_F(zrClutPaletteTest, APaintWipesTheMarkAndKeepsTheSelection) {
-  const Ref<Host> host = open(tableOf(kLast));
-  EXPECT_FALSE(isMarked(*host, 0)) << "selected but not marked at first";
-  host->click(42);
-  host->palette.SetClut(host->palette.TheClut);
-  EXPECT_FALSE(isMarked(*host, 42));
-  EXPECT_EQ(host->palette.Selected, 42);
+  show(kLast);
+  EXPECT_FALSE(isMarked(0)) << "selected but not marked at first";
+  click(42);
+  for (const auto& [x, c] : {std::pair{0, kMark}, {1, kWhite}, {2, colorAt(42)}, {11, colorAt(42)}, {12, kWhite}})
+    EXPECT_EQ(pixel(42, x, 7), c) << x;
+  palette.SetClut(palette.TheClut);
+  EXPECT_FALSE(isMarked(42));
+  EXPECT_EQ(palette.Selected, 42);
 }
 
-TEST_F(zrClutPaletteTest, ADragBeginsBeyondSixPixelsAndCarriesTheColourSelectedBeforeThePress) {
-  const struct {
-    Int32 selected, right, down;
-    bool begins;
-  } rows[] = {{42, 7, 0, true},    {42, 0, -7, true},   {42, 6, 6, false},
-              {42, -6, -6, false}, {-1, 50, 50, false}, {kLast + 1, 50, 0, false}};
-  const Ref<Host> host = open(tableOf(kLast));
+TEST_F(zrClutPaletteTest, ADragBeginsBeyondSixPixelsWithAColourSelected) {
+  const std::tuple<Int32, Int32, Int32, bool> rows[] = {{42, 7, 0, true},    {42, 0, -7, true},   {42, 6, 6, false},
+                                                        {42, -6, -6, false}, {-1, 50, 50, false}, {256, 50, 0, false}};
+  show(kLast);
   for (const auto& [selected, right, down, begins] : rows) {
-    host->palette.Selected = selected;
-    const Ref<DragItem> item = gesture::pull(host->palette, 100, 50, 100 + right, 50 + down);
-    ASSERT_EQ(static_cast<bool>(item), begins) << selected << ": " << right << ", " << down;
-    if (begins) {
-      const Color c = colorAt(selected);
-      EXPECT_EQ(item->MacData("hcol"), Str(c.red()) + ", " + Str(c.green()) + ", " + Str(c.blue()));
-      EXPECT_EQ(item->Text(), "#" + Hex(toInt32(c.bits)));
-    }
-    if (!begins) gesture::release(host->palette, 100, 50);
+    palette.Selected = selected;
+    const Ref<DragItem> item = gesture::pull(palette, 100, 50, 100 + right, 50 + down);
+    EXPECT_EQ(item ? item->MacData("hcol") : "none", begins ? getRGBStr(colorAt(42)) : "none") << right << ", " << down;
+    if (!item) gesture::release(palette, 100, 50);
   }
 }
 
-TEST_F(zrClutPaletteTest, ADropGoesToTheSelectedCellWhereverItFalls) {
-  const Ref<DragItem> orange = New<DragItem>(), text = New<DragItem>();
-  orange->MacData("hcol", "255, 128, 0");
-  text->SetText("#FF8000");
-  const Ref<Host> host = open(tableOf(kLast));
-  EXPECT_FALSE(gesture::drop(host->palette, *text));
-  host->palette.Event_DropObject(text, 0);
-  host->click(3);
-  host->palette.SetClut(host->palette.TheClut);
-  host->log = "";
-  EXPECT_TRUE(gesture::drop(host->palette, *orange));
-  EXPECT_EQ(host->palette.TheClut->getColor(3), Color{0xFF8000});
-  EXPECT_TRUE(isMarked(*host, 3));
-  EXPECT_EQ(host->log, "change 3 FF8000");
-
-  host->palette.Selected = -1;
-  host->log = "";
-  const std::vector<Color> before = host->palette.TheClut->aColors;
-  EXPECT_TRUE(gesture::drop(host->palette, *orange));
-  EXPECT_EQ(host->palette.TheClut->aColors, before);
-  EXPECT_EQ(host->log, "");
+TEST_F(zrClutPaletteTest, ADropOfPrivateDataGoesToTheSelectedCell) {
+  const Ref<DragItem> item = New<DragItem>();
+  item->SetText("#FF8000");
+  show(kLast);
+  EXPECT_FALSE(gesture::drop(palette, *item));
+  item->MacData("hcol", "255, 128, 0");
+  const auto drop = [&] { gesture::drop(palette, *item); };
+  EXPECT_EQ(after(drop), "changes-0-FF8000 ");
+  EXPECT_TRUE(isMarked(0));
+  palette.Selected = -1;
+  EXPECT_EQ(after(drop), "");
 }
 
 }  // namespace

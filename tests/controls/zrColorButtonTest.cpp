@@ -1,179 +1,109 @@
 #include <optional>
-#include <string>
-#include <vector>
 
-#include "color/zrColorLib.h"
-#include "controls/zrColorButton.h"
+#include "controls/ControlsTest.h"
 #include "runtime/drawing/Picture.h"
 #include "runtime/gui/ThemeColors.h"
-#include "support/Gestures.h"
-#include "support/RuntimeTest.h"
 
 namespace tavrelkin {
 namespace {
 
 constexpr Color kOrange{0xFF8000};
-constexpr Color kMark{0x123456};
 
-class Host : public Window {
- public:
-  Host() : Window({.title = "Host", .width = 240, .height = 80}) {
-    button.place(10, 10, 106, 20);
-    button.propColorBoxWidth = 0;  // opening puts it right
-    button.BeforeSelectColor = [this] {
-      log += "before ";
-      return skipsDialog;
-    };
-    button.Action = [this] { note(button.Graphics().Pixel(1, 1) == kMark ? "action-unpainted" : "action"); };
-    button.Change = [this] { note("change"); };
-    button.Open = [this] { log += button.propColorFormat == 3 ? "open " : "open-early "; };
-  }
-  void note(const std::string& what) { log += what + "-" + getHexStr(button.Value) + " "; }
-
-  zrColorButton button{*this, "button"};
-  bool skipsDialog = false;
-  std::string log;
-};
-
-void fill(Graphics& g, Color c, Int32 left, Int32 top, Int32 width, Int32 height) {
-  g.ForeColor = c;
-  g.FillRect(left, top, width, height);
-}
-
-testing::AssertionResult shows(zrColorButton& button, const String& text, Color swatch, Color ink) {
-  const Ref<Picture> face = NewPicture(106, 20, 32);
-  Graphics& g = face->Graphics();
-  fill(g, Color{0x909090}, 0, 0, 106, 20);
-  fill(g, kWhite, 1, 1, 104, 18);
-  fill(g, Color{0x909090}, 2, 2, 15, 16);
-  fill(g, swatch, 3, 3, 13, 14);
-  g.ForeColor = ink;
-  g.DrawString(text, 23, 2 + g.TextAscent());
-  for (Int32 y = 0; y < 20; ++y) {
-    for (Int32 x = 0; x < 106; ++x) {
-      const Color drawn = button.Graphics().Pixel(x, y);
-      if (drawn != g.Pixel(x, y)) return testing::AssertionFailure() << x << ", " << y << " is " << getHexStr(drawn);
-    }
-  }
-  return testing::AssertionSuccess();
-}
-
-testing::AssertionResult shows(zrColorButton& button, const String& text) {
-  return shows(button, text, button.Value, TextColor());
-}
-
-Color halfWayToGround(Color c) {
-  const Color ground = FillColor();
-  return RGB((c.red() + ground.red()) / 2, (c.green() + ground.green()) / 2, (c.blue() + ground.blue()) / 2);
-}
-
-class zrColorButtonTest : public RuntimeTest {
+class zrColorButtonTest : public ControlsTest {
  protected:
-  zrColorButtonTest() {
-    host->Show();
-    EXPECT_EQ(host->log, "open ");
-    host->log.clear();
+  // Whether the button shows nothing but the text and the swatch.
+  testing::AssertionResult shows(const String& text, Color swatch, Color ink) {
+    const Ref<Picture> face = NewPicture(106, 20, 32);
+    Graphics& g = face->Graphics();
+    g.ForeColor = Color{0x909090};
+    g.DrawRect(0, 0, 106, 20);
+    g.ForeColor = swatch;
+    g.FillRect(2, 2, 15, 16);
+    g.ForeColor = Color{0x909090};
+    g.DrawRect(2, 2, 15, 16);
+    g.ForeColor = ink;
+    g.DrawString(text, 23, 2 + g.TextAscent());
+    for (Int32 y = 0; y < 20; ++y) {
+      for (Int32 x = 0; x < 106; ++x) {
+        if (button.Graphics().Pixel(x, y) != g.Pixel(x, y)) return testing::AssertionFailure() << x << ", " << y;
+      }
+    }
+    return testing::AssertionSuccess();
   }
-  const Ref<Host> host = New<Host>();
+
   zrColorButton& button = host->button;
-  std::string& log = host->log;
 };
 
 TEST_F(zrColorButtonTest, EachFormHasItsText) {
-  const struct {
-    Int32 format;
-    Color c;
-    const char* text;
-  } rows[] = {
-      {0, kOrange, "255.128.0"},   {1, RGB(32, 64, 128), "061.075.050"},
-      {2, kOrange, "000.050.100"}, {3, kOrange, "#FF8000"},
-      {4, kOrange, "255.128.0"},
-  };
+  EXPECT_EQ(host->log, "palette-opens-12 button-opens-3 ");
+  const std::tuple<Int32, Color, const char*> rows[] = {{0, kOrange, "255.128.0"},
+                                                        {1, Color{0x204080}, "061.075.050"},
+                                                        {2, kOrange, "000.050.100"},
+                                                        {3, Color{0x0A8000}, "#0A8000"},
+                                                        {4, kOrange, "255.128.0"}};
   for (const auto& [format, c, text] : rows) {
-    button.SetValue(c);
+    EXPECT_EQ(after([&, c = c] { button.SetValue(c); }), "");
     button.setColorFormat(format);
-    EXPECT_TRUE(shows(button, text)) << text << " in form " << format;
+    EXPECT_TRUE(shows(text, c, TextColor())) << text << " in form " << format;
   }
-  EXPECT_EQ(log, "");
 }
 
 TEST_F(zrColorButtonTest, DisabledItPalesAndStillTakesDrops) {
   button.Enabled = false;
   button.Refresh(true);
-  EXPECT_TRUE(shows(button, "#000000", halfWayToGround(kBlack), DarkBevelColor()));
+  const Color ground = FillColor();
+  EXPECT_TRUE(shows("#000000", RGB(ground.red() / 2, ground.green() / 2, ground.blue() / 2), DarkBevelColor()));
   const Ref<DragItem> item = New<DragItem>();
   item->MacData("hcol", "255, 128, 1");
-  button.Event_DropObject(item, 0);
-  EXPECT_EQ(log, "change-FF8001 ");
-  EXPECT_TRUE(shows(button, "#FF8001", halfWayToGround(Color{0xFF8001}), DarkBevelColor()));
+  EXPECT_EQ(after([&] { button.Event_DropObject(item, 0); }), "changes-FF8001 ");
 }
 
 TEST_F(zrColorButtonTest, ThePointerChangesItsStateAndHasItPainted) {
-  const struct {
-    const char* name;
-    void (zrColorButton::*event)();
-    Int32 before;
-    bool enabled;
-    Int32 after;
-    bool paints;
-    const char* raised;
-  } rows[] = {
-      {"enter", &zrColorButton::Event_MouseEnter, 0, true, 1, true, ""},
-      {"enter disabled", &zrColorButton::Event_MouseEnter, 0, false, 0, false, ""},
-      {"exit", &zrColorButton::Event_MouseExit, 1, true, 0, true, ""},
-      {"exit disabled", &zrColorButton::Event_MouseExit, 1, false, 0, true, ""},
-      {"exit in 3", &zrColorButton::Event_MouseExit, 3, true, 0, true, "action-000000 "},
-      {"exit in 0", &zrColorButton::Event_MouseExit, 0, true, 0, false, ""},
-  };
-  for (const auto& row : rows) {
-    button.Enabled = row.enabled;
-    button.State = row.before;
-    button.Graphics().Pixel(1, 1, kMark);
-    log.clear();
-    (button.*row.event)();
-    EXPECT_EQ(button.State, row.after) << row.name;
-    EXPECT_EQ(button.Graphics().Pixel(1, 1), row.paints ? kWhite : kMark) << row.name;
-    EXPECT_EQ(log, row.raised) << row.name;
+  // Whether the button is enabled, whether the pointer enters or leaves, the state before and after, and whether that
+  // paints.
+  const std::tuple<bool, bool, Int32, Int32, bool> rows[] = {{true, true, 0, 1, true},
+                                                             {false, true, 0, 0, false},
+                                                             {true, false, 1, 0, true},
+                                                             {true, false, 0, 0, false},
+                                                             {true, false, 3, 0, true}};
+  for (const auto& [enabled, enters, before, state, paints] : rows) {
+    button.Enabled = enabled;
+    button.State = before;
+    button.Graphics().Pixel(1, 1, kOrange);
+    const auto event = enters ? &zrColorButton::Event_MouseEnter : &zrColorButton::Event_MouseExit;
+    EXPECT_EQ(after([&] { (button.*event)(); }), before == 3 ? "button-000000 " : "");
+    EXPECT_EQ(button.State, state) << before;
+    EXPECT_EQ(button.Graphics().Pixel(1, 1) == kWhite, paints) << before;
   }
 }
 
 TEST_F(zrColorButtonTest, OnlyAReleaseOnTheSwatchIsAClick) {
-  const struct {
-    Int32 width, height, x, y;
-    bool counts;
-  } rows[] = {{106, 20, 2, 2, true},    {106, 20, 17, 16, true},  {106, 20, 1, 10, false}, {106, 20, 10, 1, false},
-              {106, 20, 18, 10, false}, {106, 20, 10, 17, false}, {200, 30, 32, 26, true}, {200, 30, 33, 10, false}};
+  const std::tuple<Int32, Int32, Int32, Int32, bool> rows[] = {
+      {106, 20, 2, 2, true},    {106, 20, 17, 16, true},  {106, 20, 1, 10, false}, {106, 20, 10, 1, false},
+      {106, 20, 18, 10, false}, {106, 20, 10, 17, false}, {200, 30, 32, 26, true}, {200, 30, 33, 10, false}};
   for (const auto& [width, height, x, y, counts] : rows) {
     button.place(10, 10, width, height);
-    log.clear();
+    host->log = "";
     gesture::press(button, 60, 10);
     gesture::release(button, x, y);
-    EXPECT_EQ(log, counts ? "before action-000000 " : "") << x << ", " << y << " of " << width;
+    EXPECT_EQ(host->log, counts ? "before-000000 button-000000 " : "") << x << ", " << y << " of " << width;
   }
   EXPECT_EQ(fake().colourPrompts, std::vector<std::string>(3, "Select Color"));
 }
 
 TEST_F(zrColorButtonTest, TheEndOfTheDialogIsAnActionWhetherChosenOrCancelled) {
-  button.SetValue(Color{0x112233});
-  const struct {
-    std::optional<std::uint32_t> choice;
-    bool skipsDialog;
-    const char* log;
-    const char* text;
-  } rows[] = {{std::nullopt, false, "before dialog-112233 action-112233 ", "#112233"},
-              {0xFF8000, false, "before dialog-112233 action-FF8000 ", "#FF8000"},
-              {0x445566, true, "before action-FF8000 ", "#FF8000"}};
-  for (const auto& row : rows) {
-    fake().colourChoice = [&](std::uint32_t initial) {
-      log += "dialog-" + getHexStr(Color{initial}) + " ";
-      return row.choice;
-    };
-    host->skipsDialog = row.skipsDialog;
-    log.clear();
-    gesture::click(button, 5, 5);
-    EXPECT_EQ(log, row.log);
-    EXPECT_TRUE(shows(button, row.text));
-  }
+  std::optional<std::uint32_t> choice;
+  fake().colourChoice = [&](std::uint32_t initial) {
+    host->note("dialog", Color{initial});
+    return choice;
+  };
+  const auto click = [&] { gesture::click(button, 5, 5); };
+  EXPECT_EQ(after(click), "before-000000 dialog-000000 button-000000 ");
+  choice = 0xFF8000;
+  EXPECT_EQ(after(click), "before-000000 dialog-000000 button-FF8000 ");
+  EXPECT_TRUE(shows("#FF8000", Color{0xFF8000}, TextColor()));
+  host->skipsDialog = true;
+  EXPECT_EQ(after(click), "before-FF8000 button-FF8000 ");
 }
 
 }  // namespace

@@ -1,6 +1,12 @@
-#include <gtest/gtest.h>
+// The table, and its files byte for byte, with all in which its readers and writers differ.
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
 
 #include "runtime/base/Exceptions.h"
+#include "support/RuntimeTest.h"
+#include "support/TemporaryFolder.h"
 #include "tables/zrClut.h"
 
 namespace tavrelkin {
@@ -20,40 +26,26 @@ void shorten(zrClut& table, Int32 upperBound) {
   table.aColors.resize(static_cast<std::size_t>(upperBound) + 1);
 }
 
-TEST(zrClutTest, BeginsWhiteAndIsBlackOutside) {
-  const zrClut table;
-  expectNew(table);
-  for (const auto& [i, c] : {std::pair{-1, kBlack}, {255, kWhite}, {256, kBlack}})
-    EXPECT_EQ(table.getColor(i), c) << i;
-}
-
 TEST(zrClutTest, AFullTableTakesNoMoreUntilTheCursorIsBack) {
   zrClut table;
   for (std::uint32_t i = 0; i < 300; ++i)
     table.Add(Color{i});
   EXPECT_EQ(table.Index, 299);
-  EXPECT_EQ(table.Count, 255);
-  for (Int32 i = 0; i < 256; ++i)
-    ASSERT_EQ(table.getColor(i), RGB(0, 0, i));
+  for (const auto& [i, c] : {std::pair{-1, kBlack}, {1, Color{1}}, {255, Color{255}}, {256, kBlack}})
+    EXPECT_EQ(table.getColor(i), c) << i;
   table.Remove(3);
   table.Add(kColor);
   EXPECT_EQ(table.getColor(3), kWhite) << "a free entry is not used again";
   table.Reset();
+  EXPECT_EQ(table.NextColor(), kBlack);
   table.Add(kColor);
-  EXPECT_EQ(table.getColor(0), kColor);
-  table.Clear();
-  expectNew(table);
-}
-
-TEST(zrClutTest, NextColorSharesTheCursor) {
-  zrClut table;
-  table.NextColor();
-  table.Add(kColor);
-  EXPECT_EQ(table.getColor(1), kColor);
-  for (Int32 i = 2; i < 256; ++i)
-    ASSERT_EQ(table.NextColor(), kWhite) << i;
+  EXPECT_EQ(table.getColor(1), kColor) << "both move the cursor";
+  table.Index = 254;
+  EXPECT_EQ(table.NextColor(), Color{255});
   EXPECT_EQ(table.NextColor(), kBlack);
   EXPECT_EQ(table.Index, 255);
+  table.Clear();
+  expectNew(table);
 }
 
 // The bounds are 0 and 255 whatever the table's own are, which a shorter table finds out the hard way.
@@ -64,25 +56,167 @@ TEST(zrClutTest, EntriesAreSetWithinFixedBounds) {
     table.Remove(i);
   }
   expectNew(table);
-  table.SetColor(kColor, 255);
-  EXPECT_EQ(table.getColor(255), kColor);
-  EXPECT_EQ(table.Index, -1);
-
   shorten(table, 400);
-  table.SetColor(kColor, 256);
+  for (const Int32 i : {255, 256})
+    table.SetColor(kColor, i);
+  EXPECT_EQ(table.getColor(255), kColor);
   EXPECT_EQ(table.getColor(256), kBlack);
 
   shorten(table, 2);
+  table.Index = 2;
   EXPECT_THROW(table.SetColor(kColor, 3), OutOfBoundsException);
   EXPECT_THROW(table.Remove(255), OutOfBoundsException);
-  for (int i = 0; i < 3; ++i)
-    table.NextColor();
   EXPECT_THROW(table.NextColor(), OutOfBoundsException);
-
   shorten(table, -1);
   table.SetColor(kColor, 0);
   table.Remove(0);
   EXPECT_EQ(table.getColor(0), kBlack);
+}
+
+// Neighbours differ in all channels, and no channel is 0 or 255.
+Color colorAt(Int32 i) {
+  return RGB(i % 199 + 1, 200 - i % 197, i % 7 + 9);
+}
+String word(Int32 value) {
+  return ChrB(value >> 8) + ChrB(value);
+}
+String swatchEntry(Color c) {
+  return word(0) + word(c.red() * 257) + word(c.green() * 257) + word(c.blue() * 257) + word(0);
+}
+String swatch(Int32 stated, Int32 colors) {
+  String bytes = word(1) + word(stated);
+  for (Int32 i = 0; i < colors; ++i)
+    bytes += swatchEntry(colorAt(i));
+  return bytes;
+}
+String triples(Int32 colors) {
+  String bytes;
+  for (Int32 i = 0; i < colors; ++i)
+    bytes += ChrB(colorAt(i).red()) + ChrB(colorAt(i).green()) + ChrB(colorAt(i).blue());
+  return bytes;
+}
+
+class SwatchFilesTest : public RuntimeTest {
+ protected:
+  Ref<zrClut> readSwatch(const String& bytes) const {
+    const auto table = New<zrClut>();
+    EXPECT_TRUE(table->ReadSwatch(folder.write("in", bytes)));
+    return table;
+  }
+  Ref<zrClut> readClut(const String& bytes) const {
+    const auto table = New<zrClut>();
+    EXPECT_TRUE(table->ReadClut(folder.write("in", bytes)));
+    return table;
+  }
+  String writtenSwatch(const zrClut& table) const {
+    return table.writeSwatch(folder.item("out")) ? folder.read("out") : "";
+  }
+  String writtenClut(const zrClut& table) const {
+    return table.WriteClut(folder.item("out")) ? folder.read("out") : "";
+  }
+  // The table holds so many colours of the file, the last of them with only so many channels, and is otherwise as new.
+  static void expectRead(const zrClut& table, Int32 colors, std::size_t channels = 3) {
+    for (Int32 i = 0; i <= table.Count; ++i) {
+      const Color c = colorAt(i);
+      Color expected = i < colors ? c : i <= 255 ? kWhite : kBlack;
+      if (i + 1 == colors) expected = RGB(c.red(), channels > 1 ? c.green() : 0, channels > 2 ? c.blue() : 0);
+      ASSERT_EQ(table.getColor(i), expected) << i << " of " << colors;
+    }
+  }
+  const TemporaryFolder folder;
+};
+
+TEST_F(SwatchFilesTest, ANewTableIsWrittenAs256WhiteColours) {
+  const auto table = New<zrClut>();
+  String expected = word(1) + word(256);
+  for (int i = 0; i < 256; ++i)
+    expected += swatchEntry(kWhite);
+  EXPECT_EQ(writtenSwatch(*table), expected);
+  EXPECT_EQ(writtenClut(*table), String(768, '\xFF'));
+  table->SetColor(RGB(18, 52, 86), 255);
+  EXPECT_EQ(writtenSwatch(*table).substr(2554), String("\0\0\x12\x12\x34\x34\x56\x56\0\0", 10));
+}
+
+TEST_F(SwatchFilesTest, TheNumberInTheFileBecomesTheUpperBound) {
+  const std::tuple<Int32, Int32, Int32, Int32> rows[] = {
+      {256, 256, 256, 256}, {300, 10, 300, 10}, {3, 10, 3, 3}, {0, 0, 0, 0}, {0, 5, 0, 5}, {0x8000, 5, -32768, 5}};
+  for (const auto& [stated, colors, count, read] : rows) {
+    const auto table = readSwatch(swatch(stated, colors));
+    EXPECT_EQ(table->Count, count);
+    EXPECT_EQ(table->Index, read - 1) << stated;
+    EXPECT_EQ(table->aColors.size(), static_cast<std::size_t>(std::max(count, -1) + 1));
+    expectRead(*table, read);
+    EXPECT_EQ(writtenSwatch(*table).substr(0, 4), word(1) + word(stated + 1));
+  }
+}
+
+// Another version and colour space, low bytes, and the names of a version 2 section behind the colours.
+TEST_F(SwatchFilesTest, OnlyHighBytesAreLookedAt) {
+  const String cmyk = word(2) + word(0x12FF) + word(0x34FE) + word(0x5600) + word(0xFFFF);
+  const auto table = readSwatch(word(7) + word(1) + cmyk + word(2) + String(40, 'x'));
+  EXPECT_EQ(table->getColor(0), RGB(0x12, 0x34, 0x56));
+  EXPECT_EQ(table->getColor(1), kWhite);
+}
+
+TEST_F(SwatchFilesTest, AColourTableIs256TriplesOfWhichTheLastIsNeverRead) {
+  EXPECT_EQ(writtenClut(*readClut(triples(400))), triples(255) + String(3, '\xFF'));
+  const auto few = readSwatch(swatch(2, 2));
+  for (const Int32 count : {2, 255}) {
+    EXPECT_EQ(few->Count, count);
+    EXPECT_EQ(writtenClut(*few), triples(2) + String(3, '\xFF') + String(759, '\0')) << "entries are not cleared";
+    EXPECT_TRUE(few->ReadClut(folder.write("in", "")));
+  }
+}
+
+// A colour counts once its first byte is there, and what is missing of it is 0.
+TEST_F(SwatchFilesTest, FilesCutOffAnywhereGiveWhatTheyHave) {
+  for (std::size_t length = 0; length <= 34; ++length) {
+    const auto table = readSwatch(swatch(0x0104, 3).substr(0, length));
+    EXPECT_EQ(table->Count, length < 3 ? 0 : length == 3 ? 0x0100 : 0x0104);
+    const std::size_t colors = length < 7 ? 0 : (length + 3) / 10;
+    const std::size_t last = length + 4 - 10 * colors;
+    expectRead(*table, static_cast<Int32>(colors), last > 4 ? 3 : last > 2 ? 2 : 1);
+  }
+  for (std::size_t length = 0; length <= 768; ++length) {
+    const std::size_t colors = std::min<std::size_t>((length + 2) / 3, 255);
+    expectRead(*readClut(triples(256).substr(0, length)), static_cast<Int32>(colors), length + 3 - 3 * colors);
+  }
+}
+
+TEST_F(SwatchFilesTest, FailuresAreToldAndLeaveTheTable) {
+  std::filesystem::create_directory(folder.path("folder"));
+  const auto table = readSwatch(swatch(20, 10));
+  for (const auto& file : {Ref<FolderItem>(), folder.item("none"), folder.item("folder")}) {
+    EXPECT_FALSE(table->ReadSwatch(file));
+    EXPECT_FALSE(table->ReadClut(file));
+  }
+  for (const auto& file : {Ref<FolderItem>(), folder.item("folder")}) {
+    EXPECT_FALSE(table->writeSwatch(file));
+    EXPECT_FALSE(table->WriteClut(file));
+  }
+  const std::vector<std::string> messages{"Unable to read color swatch", "Unable to read color clut",
+                                          "Unable to save swatch file", "Unable to save clut file"};
+  EXPECT_EQ(fake().messages, messages);
+  EXPECT_EQ(table->Index, 9);
+  expectRead(*table, 10);
+}
+
+// Debian's ruby-color, another implementation of the format, reads what is written, and what it writes is read.
+TEST_F(SwatchFilesTest, AnotherProgramUnderstandsSwatchesTheSame) {
+  const auto table = New<zrClut>();
+  for (Int32 i = 0; i < 256; ++i)
+    table->SetColor(RGB(i, 255 - i, i * 7 % 256), i);
+  EXPECT_EQ(writtenSwatch(*table).size(), 2564u);
+  folder.write("program.rb", R"(require 'color/palette/adobecolor'
+    read = Color::Palette::AdobeColor.from_file('out')
+    abort read[2].html unless read[2].html == '#02fd0e'
+    File.binwrite('in', read.to_aco)
+  )");
+  ASSERT_EQ(std::system(("cd '" + folder.path("").string() + "' && /usr/bin/ruby program.rb").c_str()), 0);
+  const auto back = New<zrClut>();
+  EXPECT_TRUE(back->ReadSwatch(folder.item("in")));
+  for (Int32 i = 0; i < 256; ++i)
+    EXPECT_EQ(back->getColor(i), table->getColor(i)) << i;
 }
 
 }  // namespace

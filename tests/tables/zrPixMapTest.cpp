@@ -1,4 +1,4 @@
-// Pixel maps made from pictures, and drawn.
+// Pixel maps made from pictures and drawn, written as text and read.
 
 #include <limits>
 
@@ -13,44 +13,35 @@ using Bits = std::vector<std::uint32_t>;
 
 constexpr std::uint32_t kGround = 0x404040;
 
+// Three pixels by one, of 8 bits: black, magenta, and a colour whose bytes look like a character of three. Magenta is
+// transparent.
+const String kDigits = "H0003010802000000FF00FFE282AC01000102";
+const String kBytes("D\x00\x03\x01\x08\x02\x00\x00\x00\xFF\x00\xFF\xE2\x82\xAC\x01\x00\x01\x02", 19);
+
 Ref<Picture> pictureOf(Int32 width, const Bits& pixels) {
   Ref<Picture> picture = NewPicture(width, static_cast<Int32>(pixels.size()) / width, 32);
-  for (Int32 i = 0; i < static_cast<Int32>(pixels.size()); ++i) {
+  for (Int32 i = 0; i < static_cast<Int32>(pixels.size()); ++i)
     picture->Graphics().Pixel(i % width, i / width, Color{pixels[static_cast<std::size_t>(i)]});
-  }
   return picture;
-}
-
-Ref<Picture> ground(Int32 width, Int32 height) {
-  return pictureOf(width, Bits(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), kGround));
 }
 
 Bits pixelsOf(const Picture& picture) {
   Bits pixels;
-  for (Int32 y = 0; y < picture.Height(); ++y) {
-    for (Int32 x = 0; x < picture.Width(); ++x)
-      pixels.push_back(picture.RGBSurface().Pixel(x, y).bits);
-  }
+  for (Int32 i = 0; i < picture.Width() * picture.Height(); ++i)
+    pixels.push_back(picture.RGBSurface().Pixel(i % picture.Width(), i / picture.Width()).bits);
   return pixels;
-}
-
-Bits tableOf(const zrPixMap& map) {
-  Bits table;
-  for (const Color c : map.colors)
-    table.push_back(c.bits);
-  return table;
 }
 
 class zrPixMapTest : public RuntimeTest {
  protected:
   // A map of one row: black, white, red, green and a pixel whose index the table lacks.
-  zrPixMapTest() {
-    map->colors = {kBlack, kWhite, Color{0xFF0000}, Color{0x00FF00}};
-    map->colorCount = 3;
-    map->width = 5;
-    map->height = 1;
-    map->depth = 32;
-    map->pixmap = String("\x00\x01\x02\x03\x09", 5);
+  zrPixMapTest() { map->CreateFromPixMapData("H0005012003000000FFFFFFFF000000FF00000001020309"); }
+
+  // What there is on a ground of two or five pixels after this.
+  static Bits drawn(Int32 width, const std::function<void(Graphics&)>& draw) {
+    const Ref<Picture> ground = pictureOf(width, Bits(static_cast<std::size_t>(width), kGround));
+    draw(ground->Graphics());
+    return pixelsOf(*ground);
   }
 
   Ref<zrPixMap> map = New<zrPixMap>();
@@ -58,36 +49,29 @@ class zrPixMapTest : public RuntimeTest {
 };
 
 TEST_F(zrPixMapTest, ColoursFollowBlackAndWhiteAsTheyAppear) {
-  const struct {
-    const char* name;
-    Bits pixels;
-    Bits table;
-    String indexes;
-  } rows[] = {
-      {"all black", {0, 0}, {0, 0xFFFFFF}, "0000"},
-      {"others", {0x00FF00, 0xFFFFFF, 1, 0x00FF00, 0, 1}, {0, 0xFFFFFF, 0x00FF00, 1}, "020103020003"},
-  };
-  for (const auto& row : rows) {
-    const Ref<zrPixMap> made = New<zrPixMap>();
-    made->hexadecimal = true;
-    made->CreateFromPicture(pictureOf(2, row.pixels));
-    EXPECT_EQ(tableOf(*made), row.table) << row.name;
-    EXPECT_EQ(made->colorCount, static_cast<Int32>(row.table.size()) - 1) << row.name;
-    EXPECT_EQ(made->pixmap, row.indexes) << row.name;
-    EXPECT_EQ(pixelsOf(*made->GetPicture()), row.pixels) << row.name;
-  }
+  fresh->hexadecimal = true;
+  const Bits pixels{0x00FF00, 0xFFFFFF, 1, 0x00FF00, 0, 1};
+  fresh->CreateFromPicture(pictureOf(2, pixels));
+  EXPECT_EQ(fresh->getPixMapData(), "H0002032003000000FFFFFF00FF0000000100020103020003");
+  EXPECT_EQ(pixelsOf(*fresh->GetPicture()), pixels);
+
+  const Ref<Picture> stamp = pictureOf(3, {0, 0x0000FF, 0xFF0000});
+  stamp->Mask(true)->Graphics().Pixel(2, 0, kBlack);
+  map->colors[0] = Color{0x0000FF};
+  map->MaskColorIdx = 2;
+  map->CreateFromPicture(stamp);
+  EXPECT_EQ(map->getPixMapData(), "H00030120020000FFFFFFFFFF000002010102") << "first colour and mask stay";
 }
 
 TEST_F(zrPixMapTest, AFullTableGivesTheFirstEntryForFurtherColours) {
   Bits pixels;
-  for (std::uint32_t i = 0; i < 300; ++i)
-    pixels.push_back(0x100000 + i);
-  fresh->CreateFromPicture(pictureOf(20, pixels));
-  EXPECT_EQ(fresh->colorCount, 255);
-  EXPECT_EQ(fresh->colors.size(), 256u);
-  for (Int32 i = 0; i < 300; ++i)
-    EXPECT_EQ(AscB(MidB(fresh->pixmap, i + 1, 1)), i < 254 ? i + 2 : 0) << i;
-  EXPECT_TRUE(fake().messages.empty());
+  String indexes;
+  for (Int32 i = 0; i < 255; ++i) {
+    pixels.push_back(0x100000 + static_cast<std::uint32_t>(i));
+    indexes += ChrB(i < 254 ? i + 2 : 0);
+  }
+  fresh->CreateFromPicture(pictureOf(255, pixels));
+  EXPECT_EQ(fresh->pixmap, indexes);
 }
 
 TEST_F(zrPixMapTest, WhatIsTooLargeOrNoPictureIsRefused) {
@@ -101,50 +85,17 @@ TEST_F(zrPixMapTest, WhatIsTooLargeOrNoPictureIsRefused) {
                                           "Unable to create pixmap image is to large", "Unable to create pixmap",
                                           "Unable to draw pixmap", "Unable to create picture from Pixmap"};
   EXPECT_EQ(fake().messages, expected);
-  fresh->CreateFromPicture(NewPicture(255, 255, 8));
-  EXPECT_EQ(LenB(fresh->pixmap), 255 * 255);
-}
-
-TEST_F(zrPixMapTest, ANewFillKeepsTheFirstColourAndTheMask) {
-  map->colors[0] = Color{0x0000FF};
-  map->MaskColorIdx = 2;
-  map->MaskColor = Color{0xFF0000};
-  map->CreateFromPicture(pictureOf(3, {0, 0x0000FF, 0xFFFFFF}));
-  EXPECT_EQ(tableOf(*map), Bits({0x0000FF, 0xFFFFFF, 0}));
-  EXPECT_EQ(map->pixmap, String("\x02\x00\x01", 3));
-  EXPECT_EQ(map->MaskColorIdx, 2);
-  EXPECT_EQ(map->MaskColor, Color{0xFF0000});
-  EXPECT_EQ(pixelsOf(*map->GetPicture()), Bits({0, 0x0000FF, 0xFFFFFF})) << "the mask's index means black by now";
-}
-
-TEST_F(zrPixMapTest, AMaskedPictureIsTakenAsItLooksOnWhite) {
-  const Ref<Picture> stamp = pictureOf(2, {0xFF0000, 0xFF0000});
-  stamp->Mask(true)->Graphics().Pixel(1, 0, kBlack);
-  fresh->CreateFromPicture(stamp);
-  EXPECT_EQ(pixelsOf(*fresh->GetPicture()), Bits({0xFFFFFF, 0xFF0000}));
-}
-
-TEST_F(zrPixMapTest, AColourIsBlackOutsideOfTheTable) {
-  for (const auto& [index, bits] : {std::pair{-1, 0u}, {2, 0xFF0000u}, {3, 0x00FF00u}, {4, 0u}})
-    EXPECT_EQ(map->GetColor(index), Color{bits}) << index;
   map->colorCount = 4;
   EXPECT_THROW(map->GetColor(4), OutOfBoundsException);
 }
 
-TEST_F(zrPixMapTest, TheTransparentColourIsFoundOrAdded) {
-  const struct {
-    std::uint32_t color;
-    Int32 index, count;
-  } rows[] = {{0xFF00FF, 4, 4}, {0x00FF00, 3, 4}, {0xFF00FF, 4, 4}};
-  map->depth = 8;
-  for (const auto& row : rows) {
-    map->setMaskColor(Color{row.color});
-    EXPECT_EQ(map->MaskColorIdx, row.index);
-    EXPECT_EQ(map->colorCount, row.count);
-  }
-  EXPECT_EQ(map->GetPicture()->Depth(), 32) << "a mask takes all of it";
-  for (const auto& [mask, depth] : {std::pair{kWhite, 32}, {kBlack, 8}}) {
-    map->setMaskColor(mask);
+TEST_F(zrPixMapTest, TheTransparentColourIsFoundOrAddedAndTakes32Bits) {
+  const std::tuple<std::uint32_t, Int32, Int32> rows[] = {{0xFF00FF, 4, 32}, {0xFFFFFF, 1, 32}, {0, 0, 8}};
+  for (const auto& [color, index, depth] : rows) {
+    map->setMaskColor(Color{color});
+    EXPECT_EQ(map->MaskColorIdx, index);
+    map->depth = 8;
+    EXPECT_EQ(map->GetPicture()->Depth(), depth);
     map->CreateFromPicture(NewPicture(2, 2, 8));
     EXPECT_EQ(map->depth, depth);
   }
@@ -154,43 +105,84 @@ TEST_F(zrPixMapTest, TheTransparentColourIsFoundOrAdded) {
 TEST_F(zrPixMapTest, ThePaintersFollowTheIndexOfTheMask) {
   constexpr std::uint32_t on = 0;
   constexpr std::uint32_t off = 0xFFFFFF;
-  const struct {
-    Int32 index;
-    std::uint32_t maskColor;
-    Bits drawn;
-    Bits mask;
-  } rows[] = {
-      {0, 0, {0, 0xFFFFFF, 0xFF0000, 0x00FF00, 0}, {off, on, on, on, off}},
-      {1, 0xFFFFFF, {0, kGround, 0xFF0000, 0x00FF00, 0}, {on, off, on, on, on}},
-      {2, 0xFF0000, {0, 0xFFFFFF, kGround, 0x00FF00, 0}, {on, on, off, on, on}},
-      {9, 0, {0, 0xFFFFFF, 0xFF0000, 0x00FF00, 0}, {off, on, on, on, off}},
+  const std::tuple<Int32, Bits, Bits> rows[] = {
+      {0, {0, 0xFFFFFF, 0xFF0000, 0x00FF00, 0}, {off, on, on, on, off}},
+      {1, {0, kGround, 0xFF0000, 0x00FF00, 0}, {on, off, on, on, on}},
+      {9, {0, 0xFFFFFF, 0xFF0000, 0x00FF00, 0}, {off, on, on, on, off}},
   };
-  for (const auto& row : rows) {
-    map->MaskColorIdx = row.index;
+  for (const auto& [index, image, mask] : rows) {
+    map->MaskColorIdx = index;
     map->MaskColor = Color{0x00FF00};
-    const Ref<Picture> drawn = ground(5, 1);
-    map->DrawPixMap(&drawn->Graphics(), 0, 0);
-    EXPECT_EQ(pixelsOf(*drawn), row.drawn) << row.index;
-    EXPECT_EQ(map->MaskColor, Color{row.maskColor}) << row.index;
+    EXPECT_EQ(drawn(5, [&](Graphics& g) { map->DrawPixMap(&g, 0, 0); }), image) << index;
     map->MaskColor = Color{0x00FF00};
-    const Ref<Picture> mask = ground(5, 1);
-    map->DrawPixMapMask(&mask->Graphics(), 0, 0);
-    EXPECT_EQ(pixelsOf(*mask), row.mask) << row.index;
-    EXPECT_EQ(map->MaskColor, Color{row.maskColor}) << row.index;
-    EXPECT_EQ(pixelsOf(*map->GetPicture32()->Mask(false)), row.mask) << row.index;
+    EXPECT_EQ(drawn(5, [&](Graphics& g) { map->DrawPixMapMask(&g, 0, 0); }), mask) << index;
+    EXPECT_EQ(pixelsOf(*map->GetPicture32()->Mask(false)), mask) << index;
   }
 }
 
 TEST_F(zrPixMapTest, DrawingIsClippedAnywhere) {
   constexpr Int32 most = std::numeric_limits<Int32>::max();
-  const struct {
-    Int32 x, y;
-    Bits drawn;
-  } rows[] = {{-2, 0, {0xFF0000, 0x00FF00}}, {1, 0, {kGround, 0}}, {most, most, {kGround, kGround}}};
-  for (const auto& row : rows) {
-    const Ref<Picture> drawn = ground(2, 1);
-    map->DrawPixMap(&drawn->Graphics(), row.x, row.y);
-    EXPECT_EQ(pixelsOf(*drawn), row.drawn) << row.x << " " << row.y;
+  const std::pair<Int32, Bits> rows[] = {{-2, {0xFF0000, 0x00FF00}}, {1, {kGround, 0}}, {most, {kGround, kGround}}};
+  for (const auto& row : rows)
+    EXPECT_EQ(drawn(2, [&](Graphics& g) { map->DrawPixMap(&g, row.first, 0); }), row.second) << row.first;
+}
+
+TEST_F(zrPixMapTest, ATextIsReadAndWrittenAgain) {
+  for (const String& text : {kBytes, kDigits}) {
+    fresh->CreateFromPixMapData(text);
+    EXPECT_EQ(fresh->getPixMapData(), text);
+    EXPECT_EQ(fresh->MaskColor, Color{0xFF00FF});
+    const Ref<Picture> picture = fresh->GetPicture32();
+    EXPECT_EQ(picture->RGBSurface().Pixel(2, 0), Color{0xE282AC});
+    EXPECT_EQ(pixelsOf(*picture->Mask(false)), Bits({0, 0xFFFFFF, 0}));
+  }
+  fresh->CreateFromPixMapData(kDigits);
+  fresh->hexadecimal = false;
+  EXPECT_EQ(fresh->getPixMapData(), kBytes.substr(0, 16) + "000102") << "pixels go into a text as they are";
+}
+
+TEST_F(zrPixMapTest, TheFormLetterOnlyEverTurnsDigitsOn) {
+  const String digits = kDigits.substr(1);
+  const String bytes = kBytes.substr(1);
+  // The form ahead of a text, the text, and what is written then. Another version is refused, but for its form.
+  const std::tuple<bool, String, String> rows[] = {
+      {false, "h" + digits, kDigits},
+      {true, "D" + digits, kDigits},
+      {true, digits, kDigits},
+      {false, "d" + bytes, kBytes},
+      {false, bytes, kBytes},
+      {false, "D\x01\x09\x09", kBytes},
+      {true, "H01090920",
+       "H00030108020000"
+       "00FF00FFE282AC01" +
+           bytes.substr(15)},
+      // Digits that are none are left to the reader of numbers.
+      {true, "H0G03 1&h1G-1FF+2A", "H000300000100FF000A000000"},
+  };
+  for (const auto& [before, text, after] : rows) {
+    fresh->hexadecimal = before;
+    fresh->CreateFromPixMapData(text);
+    EXPECT_EQ(fresh->getPixMapData(), after) << text;
+  }
+  EXPECT_EQ(fake().messages, std::vector<std::string>(2, "Incompatible TxPixelMap Version."));
+}
+
+// What a text is too short for counts as 0, as if so many zeros stood there.
+TEST_F(zrPixMapTest, ATextMayEndAnywhere) {
+  for (const String& text : {kDigits, kBytes}) {
+    const bool hexadecimal = text[0] == 'H';
+    for (std::size_t length = 1; length < text.size(); length += hexadecimal ? 2 : 1) {
+      const Ref<zrPixMap> cut = New<zrPixMap>();
+      cut->CreateFromPixMapData(text.substr(0, length));
+      const Ref<zrPixMap> filled = New<zrPixMap>();
+      filled->CreateFromPixMapData(text.substr(0, length) + String(50, hexadecimal ? '0' : '\0'));
+      EXPECT_LE(LenB(cut->pixmap), hexadecimal ? 6 : 3) << length;
+      filled->pixmap = cut->pixmap;
+      EXPECT_EQ(cut->getPixMapData(), filled->getPixMapData()) << length;
+      const Ref<Picture> picture = cut->GetPicture32();
+      EXPECT_EQ(static_cast<bool>(picture), cut->depth != 0) << length;
+      EXPECT_TRUE(!picture || picture->RGBSurface().Pixel(2, 0) == cut->GetColor(0)) << length;
+    }
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/menubar/MenuBar1.h"
 #include "support/Gestures.h"
 #include "support/RuntimeTest.h"
 #include "toolwindow/frmVesk.h"
@@ -8,56 +9,70 @@ namespace tavrelkin {
 
 using namespace std::chrono_literals;
 
-// What the preview should show.
-struct Preview {
-  Int32 step = 1;
-  std::function<Color(Int32 column, Int32 row)> cell;
-  Color marker;
-  Int32 markerSize = 0;
-  bool guides = false;
-};
-
-// How far a sample reaches around its centre, by zoom step.
-struct Reach {
-  Int32 x;
-  Int32 y;
-};
-Reach reachOf(Int32 step);
-
 // A tool window in front of a screen whose every pixel tells where it lies.
 class ToolWindowTest : public RuntimeTest {
  protected:
-  ToolWindowTest();
+  ToolWindowTest() {
+    fake().screen = placeAsColor;
+    Application::current().MenuBar = MenuBar1::Instance();
+    window = frmVesk::Default();
+  }
 
-  static std::uint32_t placeAsColor(ScreenPoint at);
+  static std::uint32_t placeAsColor(ScreenPoint at) {
+    return static_cast<std::uint32_t>((at.x + 1000) % 4096 * 4096 + (at.y + 1000) % 4096);
+  }
   static Color colorAt(Int32 x, Int32 y) { return Color{placeAsColor({x, y})}; }
+  // How far a sample reaches around its centre.
+  static Int32 reachX(Int32 step) { return 51 / step; }
+  static Int32 reachY(Int32 step) { return 24 / step; }
 
   // A menu command reaches the front window.
-  static void choose(const String& item);
-  // The marked items of the menu bar, in the order of the menus, each with a blank behind it.
-  static String marks();
+  static void choose(const String& item) { EXPECT_TRUE(Application::current().dispatch(item)) << item; }
 
-  // The user moves the zoom slider there, with the keyboard.
-  void zoomTo(Int32 step) const;
+  // The marked items of the menu bar, in the order of the menus, each with a blank behind it.
+  static String marks() { return marksOf(Application::current().MenuBar->menus()); }
+  static String marksOf(const std::vector<Ref<MenuItem>>& items) {
+    String found;
+    for (const Ref<MenuItem>& item : items)
+      found += (item->Checked ? item->Name() + " " : "") + marksOf(item->items());
+    return found;
+  }
+  void zoomTo(Int32 step) const {
+    window->slZoom.Value = step;
+    window->slZoom_ValueChanged();
+  }
 
   // Lets the window's thread work for at most one turn that ends in the middle of a sample.
-  void stopInMidSample();
+  void stopInMidSample() {
+    fake().pixelsRead.clear();
+    fake().costOfLook = 5ms;
+    fake().advance(20ms);
+    fake().costOfLook = 0ms;
+    EXPECT_EQ(fake().pixelsRead.size() / 100, 0u);
+    EXPECT_GT(fake().pixelsRead.size(), 2u);
+  }
 
   // What a sample of the screen shows at a step.
-  static std::function<Color(Int32, Int32)> sampleOf(ScreenPoint centre, Int32 step);
-  // The first pixel of the preview that is not as it should be, or nothing.
-  static String firstFault(frmVesk& shown, const Preview& wanted);
-  // The same for a window that has just drawn a sample of light or dark pixels.
-  static String firstFaultOfSample(frmVesk& shown, ScreenPoint centre);
+  using Cells = std::function<Color(Int32 column, Int32 row)>;
+  static Cells sampleOf(ScreenPoint centre, Int32 step) {
+    return [=](Int32 column, Int32 row) {
+      return colorAt(centre.x - reachX(step) + column, centre.y - reachY(step) + row);
+    };
+  }
+  Color shown(Int32 x, Int32 y) const { return window->imgScreen.Graphics().Pixel(x, y); }
+  // The first cell of the preview that is not as it should be, inside of all lines; or nothing.
+  String firstFault(const Cells& wanted) const {
+    const Int32 side = 4 * window->ScreenZoomValue;
+    for (Int32 column = 0; column < 408 / side; ++column) {
+      for (Int32 row = 0; row < 192 / side; ++row) {
+        if (shown(column * side + 2, row * side + 2) != wanted(column, row)) return Str(column) + ", " + Str(row);
+      }
+    }
+    return "";
+  }
+  String firstFaultOfSample(ScreenPoint centre) const { return firstFault(sampleOf(centre, window->ScreenZoomValue)); }
 
   Ref<frmVesk> window;
-};
-
-// A tool window whose end can be seen.
-class MortalVesk : public frmVesk {
- public:
-  static inline int ended = 0;
-  ~MortalVesk() override { ++ended; }
 };
 
 }  // namespace tavrelkin
