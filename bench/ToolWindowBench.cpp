@@ -158,7 +158,7 @@ int main(int argc, char** argv) {
   setenv("DISPLAY", server.display().c_str(), 1);
   setenv("QT_QPA_PLATFORM", "xcb", 1);
   unsetenv("WAYLAND_DISPLAY");
-  X11Client client;
+  X11Client client(server.display());
   const ForeignWindow foreign(client, {700, 500, 240, 140});
   client.movePointer(tavrelkin::bench::kPointer.x, tavrelkin::bench::kPointer.y);
   return tavrelkin::bench::run(client);

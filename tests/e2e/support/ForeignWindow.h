@@ -2,8 +2,7 @@
 
 #include <cstdint>
 
-#include "e2e/support/Preview.h"
-#include "e2e/support/Session.h"
+#include "e2e/support/ToolWindow.h"
 
 namespace tavrelkin::test {
 
@@ -21,21 +20,21 @@ class ForeignWindow {
   // Shows other pixels for each number.
   void paint(std::uint32_t number) {
     number_ = number;
-    client_.paint(window_, area_, [number](int x, int y) { return color(number, x, y); });
+    client_.paint(window_, area_, [this](int x, int y) { return color(x, y); });
   }
 
   // What it shows at a place on the screen.
-  std::uint32_t shown(ScreenPoint at) const { return client_.shown(color(number_, at.x, at.y)); }
+  std::uint32_t shown(ScreenPoint at) const { return client_.shown(color(at.x, at.y)); }
 
   // The preview of a place that is far enough from its edges.
-  Preview previewAt(ScreenPoint centre) const {
-    return {.screen = [this](int x, int y) { return shown({x, y}); }, .centre = centre};
+  Preview previewAt(ScreenPoint centre, int zoom = 1) const {
+    return {.screen = [this](int x, int y) { return shown({x, y}); }, .centre = centre, .zoom = zoom};
   }
 
  private:
-  static std::uint32_t color(std::uint32_t number, int x, int y) {
+  std::uint32_t color(int x, int y) const {
     const std::uint32_t place = static_cast<std::uint32_t>(x) * 4096 + static_cast<std::uint32_t>(y);
-    return ((place ^ number * 0x5BD1E995U) * 2654435761U) >> 8;
+    return ((place ^ number_ * 0x5BD1E995U) * 2654435761U) >> 8;
   }
 
   X11Client& client_;

@@ -2,21 +2,35 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "e2e/X11Client.h"
 #include "e2e/support/Hand.h"
-#include "e2e/support/Home.h"
-#include "e2e/support/MessageBus.h"
-#include "e2e/support/OutsideClipboard.h"
 #include "e2e/support/Process.h"
-#include "e2e/support/WindowManager.h"
-#include "e2e/support/Windows.h"
 #include "e2e/support/XServer.h"
 
 namespace tavrelkin::test {
+
+// The clipboard, as another program uses it.
+class OutsideClipboard {
+ public:
+  OutsideClipboard(const XServer& server, X11Client& client) : server_(server), client_(client) {}
+
+  // The text is on offer until something else is copied or the object goes.
+  void copy(const std::string& text);
+  // The text that is on offer now; empty if there is none.
+  std::string paste() const;
+
+ private:
+  xcb_window_t owner() const;
+
+  const XServer& server_;
+  X11Client& client_;
+  std::unique_ptr<Process> offer_;
+};
 
 // A desktop session of its own, and the program in it, which has just been started.
 struct Session {
@@ -34,22 +48,24 @@ struct Session {
   Session() : Session(Options()) {}
   explicit Session(const Options& options);
 
-  // The first window with such a title, as soon as there is one.
-  xcb_window_t waitForWindow(const std::string& titleBeginning);
   // The newest window with such a title, as soon as there are so many of them.
-  xcb_window_t waitForWindow(const std::string& titleBeginning, std::size_t count);
+  xcb_window_t waitForWindow(const std::string& titleBeginning, std::size_t count = 1);
   // Returns when the window has the keyboard.
   void bringToFront(xcb_window_t window);
 
   Home home;  // the program's
   XServer server;
-  std::optional<MessageBus> bus;
   X11Client client;
-  Windows windows;
-  Hand hand;
+  Windows windows{client};
+  Hand hand{client};
+  OutsideClipboard clipboard{server, client};
+  std::optional<Process> bus;
+  std::vector<std::string> environment;  // the program's
   WindowManager manager;
-  OutsideClipboard clipboard;
   Process program;
+
+ private:
+  std::vector<std::string> prepared(const Options& options);
 };
 
 }  // namespace tavrelkin::test

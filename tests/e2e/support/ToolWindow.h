@@ -1,13 +1,74 @@
 #pragma once
 
+#include <cstdint>
+#include <functional>
 #include <string>
+#include <vector>
 
 #include <gtest/gtest.h>
 
-#include "e2e/support/Preview.h"
-#include "e2e/support/ProgramWindow.h"
+#include "e2e/support/Session.h"
 
 namespace tavrelkin::test {
+
+// One of the program's windows. Places in it count from the top left corner of its content, below the menu bar, in
+// pixels at a scale of 100 %.
+class ProgramWindow {
+ public:
+  // `contentHeight` is in pixels at a scale of 100 %.
+  ProgramWindow(Session& session, xcb_window_t window, int contentHeight)
+      : session_(session), contentHeight_(contentHeight), window_(window) {}
+
+  xcb_window_t window() const { return window_; }
+  std::string title() const { return session_.windows.title(window_); }
+  ScreenPoint onScreen(int x, int y) const;
+  // What one pixel of its content shows.
+  std::uint32_t shows(int x, int y) const;
+
+  // Moves it there; returns when it is there.
+  void moveTo(std::int16_t x, std::int16_t y);
+  // Brings it to the front first.
+  void keys(const std::string& chord);
+  void click(int x, int y) { session_.hand.click(onScreen(x, y)); }
+  // Opens the menu whose title lies at `x` in the menu bar, and goes from there with a key: "Down" to its first item,
+  // "Up" to its last, which is chosen.
+  void choose(int x, const std::string& key);
+  // Another program copies a text, and the window pastes it.
+  void paste(const std::string& text);
+
+  // Whether title, or a pixel of the content, become so before long.
+  testing::AssertionResult getsTitle(const std::string& expected) const;
+  testing::AssertionResult gets(std::uint32_t rgb, int x, int y) const;
+
+ protected:
+  // Where something begins that has so many pixels before it.
+  int scaled(int pixels) const;
+
+  Session& session_;
+  int contentHeight_;
+  double scale_ = 1;
+
+ private:
+  xcb_window_t window_;
+};
+
+using Pixels = std::vector<std::uint32_t>;  // 0xRRGGBB, row by row
+
+// What the preview should look like.
+struct Preview {
+  static constexpr int kWidth = 408;
+  static constexpr int kHeight = 192;
+
+  std::function<std::uint32_t(int x, int y)> screen;  // 0xRRGGBB, as shown
+  ScreenPoint centre;
+  int zoom = 1;  // step of the slider, 1 to 3
+
+  int cell() const { return 4 * zoom; }
+  // The pixel of the screen that a pixel of the preview enlarges.
+  ScreenPoint enlarged(int x, int y) const;
+  // Of one of its pixels: cells, marker and frame.
+  std::uint32_t color(int x, int y) const;
+};
 
 // One of the program's tool windows.
 class ToolWindow : public ProgramWindow {
@@ -28,7 +89,7 @@ class ToolWindow : public ProgramWindow {
   ScreenPoint onBar(int bar, int column) const;
   ScreenPoint onSwatch() const { return onScreen(75, 296); }
 
-  // Where a pixel of the preview begins on the screen, and what the whole preview shows there, row by row.
+  // Where a pixel of the preview begins on the screen, and what the whole preview shows there.
   ScreenPoint onPreview(int x, int y) const;
   Pixels preview() const;
 
@@ -37,21 +98,21 @@ class ToolWindow : public ProgramWindow {
   testing::AssertionResult getsScale(double scale);
   bool hasItsSize() const;
 
-  // Whether title, or preview, become so before long. Each channel of the preview may differ by `tolerance`.
+  // Whether title, or preview, become so before long.
   testing::AssertionResult getsTitleOf(std::uint32_t rgb) const;
-  testing::AssertionResult getsPreview(const Preview& expected, int tolerance = 0) const;
+  testing::AssertionResult getsPreview(const Preview& expected) const;
 
  private:
-  Pixels enlarged(const Pixels& preview) const;
+  Pixels enlarged(const Preview& preview) const;
 };
 
-// A session with its tool window unfolded.
-class UnfoldedToolWindowTest : public testing::Test {
- protected:
-  void SetUp() override { tool_.unfold(); }
-
+// A session with its tool window, folded as it comes up or unfolded.
+struct ToolWindowTest : testing::Test {
   Session session_;
   ToolWindow tool_{session_};
+};
+struct UnfoldedToolWindowTest : ToolWindowTest {
+  void SetUp() override { tool_.unfold(); }
 };
 
 // The window's title for a colour.

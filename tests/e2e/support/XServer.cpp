@@ -1,7 +1,10 @@
 #include "e2e/support/XServer.h"
 
+#include <algorithm>
+#include <chrono>
 #include <stdexcept>
 
+#include "e2e/support/Hand.h"
 #include "e2e/support/WaitUntil.h"
 
 namespace tavrelkin::test {
@@ -15,25 +18,28 @@ std::vector<std::string> command(const XServer::Options& options) {
   return result;
 }
 
+// Whether a window that is shown now gets managed. The manager announces itself before it is able to do so, and forgets
+// what is shown in between.
+bool managesNewWindow(X11Client& client, const Windows& windows) {
+  const xcb_window_t window = client.open({0, 0, 1, 1}, false);
+  const auto isManaged = [&] { return std::ranges::count(windows.all(), window) > 0; };
+  const bool result = waitUntil(isManaged, std::chrono::milliseconds(100));
+  client.close(window);
+  return result;
+}
+
 }  // namespace
 
-XServer::XServer(const Options& options) : process_(command(options), home_.environment({})) {
-  const auto hasNumber = [this] { return process_.output().ends_with('\n'); };
-  waitUntil([&] { return hasNumber() || !process_.isRunning(); });
-  if (!hasNumber()) throw std::runtime_error("The X server did not start: " + process_.errors());
-  const std::string number = process_.output();
-  display_ = ":" + number.substr(0, number.find('\n'));
-}
+XServer::XServer(const Options& options)
+    : process_(command(options), home_.environment({})), display_(":" + process_.firstLine()) {}
 
-// In order, so that it removes its socket and its lock.
-XServer::~XServer() {
-  process_.terminate();
-  process_.waitForExit();
-}
-
-void XServer::kill() {
-  process_.kill();
-  process_.waitForExit();
+WindowManager::WindowManager(const XServer& server)
+    : process_({"openbox", "--sm-disable", "--config-file", TAVRELKIN_OPENBOX}, server.environment()) {
+  X11Client client(server.display());
+  const Windows windows(client);
+  if (!waitUntil([&] { return managesNewWindow(client, windows); }) ||
+      !waitUntil([&] { return windows.all().empty(); }))
+    throw std::runtime_error("The window manager did not start: " + process_.errors());
 }
 
 }  // namespace tavrelkin::test

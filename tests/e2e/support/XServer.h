@@ -3,7 +3,6 @@
 #include <string>
 #include <vector>
 
-#include "e2e/support/Home.h"
 #include "e2e/support/Process.h"
 
 namespace tavrelkin::test {
@@ -19,18 +18,31 @@ class XServer {
   // Throws if the server doesn't start, as when it doesn't know the depth.
   XServer() : XServer(Options()) {}
   explicit XServer(const Options& options);
-  ~XServer();
+  // In order, so that it removes its socket and its lock.
+  ~XServer() { process_.end(SIGTERM); }
 
   // As in DISPLAY.
   const std::string& display() const { return display_; }
+  // For programs on it that may share a home.
+  std::vector<std::string> environment() const { return home_.environment(display_); }
 
   // Ends it at once, as in a crash.
-  void kill();
+  void kill() { process_.end(SIGKILL); }
 
  private:
   Home home_;
   Process process_;
   std::string display_;
+};
+
+// A window manager that leaves all keys and all clicks inside of windows to the programs.
+class WindowManager {
+ public:
+  // Returns when the windows are managed.
+  explicit WindowManager(const XServer& server);
+
+ private:
+  Process process_;
 };
 
 }  // namespace tavrelkin::test
