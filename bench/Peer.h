@@ -8,7 +8,7 @@
 #include "e2e/X11Client.h"
 #include "e2e/support/Hand.h"
 #include "e2e/support/Process.h"
-#include "e2e/support/XServer.h"
+#include "e2e/support/Session.h"
 
 namespace tavrelkin::bench {
 

@@ -17,8 +17,7 @@
 #include "bench/support/ProcessUsage.h"
 #include "e2e/X11Client.h"
 #include "e2e/support/Process.h"
-#include "e2e/support/WaitUntil.h"
-#include "e2e/support/XServer.h"
+#include "e2e/support/Session.h"
 
 namespace tavrelkin::bench {
 

@@ -6,9 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include "e2e/support/ForeignWindow.h"
 #include "e2e/support/ToolWindow.h"
-#include "e2e/support/WaitUntil.h"
 
 namespace tavrelkin::test {
 namespace {
@@ -73,7 +71,6 @@ const Display kDisplays[] = {
     {"Depth16", {.server = {"2400x1000x16"}}},
     {"Depth30", {.server = {"2400x1000x30"}}},
     {"Quarter", {.server = kServer, .environment = {"QT_SCALE_FACTOR=1.25"}}, 1.25},
-    {"Half", {.server = kServer, .environment = {"QT_SCALE_FACTOR=1.5"}}, 1.5},
     {"UnevenByTheDesktop", {.server = kServer, .dotsPerInch = 108}, 1.125},
     {"DoubleByTheDesktop", {.server = kServer, .dotsPerInch = 192}, 2},
     {"Monitors", {.server = kServer, .leftMonitor = kLeftMonitor}},

@@ -9,7 +9,6 @@
 #include <sys/stat.h>
 
 #include "e2e/support/ToolWindow.h"
-#include "e2e/support/WaitUntil.h"
 
 namespace tavrelkin::test {
 namespace {
@@ -77,7 +76,7 @@ TEST(NoDisplayTest, IsToldInsteadOfACrash) {
   for (const char* more : {"QT_QPA_PLATFORM=xcb", "QT_QPA_PLATFORM=none-such", "WAYLAND_DISPLAY=none-such"}) {
     auto environment = home.environment(":4000");
     environment.emplace_back(more);
-    Process program(Session::command(), environment);
+    Process program({TAVRELKIN_PROGRAM}, environment);
     EXPECT_EQ(program.waitForExit(), 1) << more;
     EXPECT_NE(program.errors().find("Tavrelkin: no display"), std::string::npos) << program.errors();
   }

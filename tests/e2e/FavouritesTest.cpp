@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include "e2e/support/ToolWindow.h"
-#include "e2e/support/WaitUntil.h"
 
 namespace tavrelkin::test {
 namespace {

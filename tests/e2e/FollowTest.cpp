@@ -4,9 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "e2e/support/ForeignWindow.h"
 #include "e2e/support/ToolWindow.h"
-#include "e2e/support/WaitUntil.h"
 
 namespace tavrelkin::test {
 namespace {
@@ -44,7 +42,6 @@ TEST_F(FollowTest, GoesOnWhenTheScreenChangesItsSize) {
   tool_.keys("Ctrl+F");
   for (const auto& [width, height] : {std::pair{1280, 800}, {640, 480}, {1280, 800}}) {
     session_.client.resizeScreen(width, height);
-    session_.hand.moveTo({at.x - 1, at.y});
     session_.hand.moveTo(at);
     auto expected = near.previewAt(at);
     expected.screen = [&, end = height](int x, int y) { return y < end ? near.shown({x, y}) : 0; };

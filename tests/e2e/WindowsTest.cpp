@@ -2,9 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "e2e/support/ForeignWindow.h"
 #include "e2e/support/ToolWindow.h"
-#include "e2e/support/WaitUntil.h"
 
 namespace tavrelkin::test {
 namespace {
@@ -16,11 +14,6 @@ class WindowsTest : public ToolWindowTest {
     const auto before = session_.windows.titled("Color: ").size();
     front.keys("Ctrl+N");
     return {session_, session_.waitForWindow("Color: ", before + 1)};
-  }
-
-  void expectOrderlyExit() {
-    EXPECT_EQ(session_.program.waitForExit(), 0);
-    EXPECT_EQ(session_.program.errors(), "");
   }
 };
 
@@ -46,7 +39,8 @@ TEST_F(WindowsTest, OpenFoldedInTheFirstOnesColourAndEndTheProgramWithTheLastOne
   second.keys("Ctrl+F");
   ASSERT_TRUE(second.paste(0x123457)) << "goes on";
   second.keys("Ctrl+W");
-  expectOrderlyExit();
+  EXPECT_EQ(session_.program.waitForExit(), 0);
+  EXPECT_EQ(session_.program.errors(), "");
 }
 
 TEST_F(WindowsTest, TenFollowAndQuit) {
@@ -61,7 +55,8 @@ TEST_F(WindowsTest, TenFollowAndQuit) {
   }
   EXPECT_TRUE(windows.back().getsPreview(foreign.previewAt(at)));
   windows.back().keys("Ctrl+Q");
-  expectOrderlyExit();
+  EXPECT_EQ(session_.program.waitForExit(), 0);
+  EXPECT_EQ(session_.program.errors(), "");
 }
 
 }  // namespace

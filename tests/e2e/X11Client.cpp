@@ -63,21 +63,20 @@ void X11Client::close(xcb_window_t window) {
 
 void X11Client::paint(xcb_window_t window, const Area& window_area, const Pattern& pattern) {
   for (std::int16_t y = 0; y < window_area.height; ++y)
-    for (std::int16_t x = 0; x < window_area.width; ++x) {
-      const std::uint32_t color = stored(pattern(window_area.x + x, window_area.y + y));
-      const xcb_rectangle_t pixel{x, y, 1, 1};
-      xcb_change_gc(connection(), gc_, XCB_GC_FOREGROUND, &color);
-      xcb_poly_fill_rectangle(connection(), window, gc_, 1, &pixel);
-    }
+    for (std::int16_t x = 0; x < window_area.width; ++x)
+      draw(window, {x, y, 1, 1}, pattern(window_area.x + x, window_area.y + y));
   sync();
 }
 
 void X11Client::fill(xcb_window_t window, std::uint32_t rgb) {
-  const std::uint32_t color = stored(rgb);
-  const xcb_rectangle_t everything{0, 0, 0x7FFF, 0x7FFF};
-  xcb_change_gc(connection(), gc_, XCB_GC_FOREGROUND, &color);
-  xcb_poly_fill_rectangle(connection(), window, gc_, 1, &everything);
+  draw(window, {0, 0, 0x7FFF, 0x7FFF}, rgb);
   sync();
+}
+
+void X11Client::draw(xcb_window_t window, const xcb_rectangle_t& rectangle, std::uint32_t rgb) {
+  const std::uint32_t color = stored(rgb);
+  xcb_change_gc(connection(), gc_, XCB_GC_FOREGROUND, &color);
+  xcb_poly_fill_rectangle(connection(), window, gc_, 1, &rectangle);
 }
 
 std::uint32_t X11Client::stored(std::uint32_t rgb) const {

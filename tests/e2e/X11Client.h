@@ -62,6 +62,7 @@ class X11Client {
   void splitScreen(int width);
 
  private:
+  void draw(xcb_window_t window, const xcb_rectangle_t& rectangle, std::uint32_t rgb);
   std::uint32_t stored(std::uint32_t rgb) const;
   std::uint32_t fromStored(std::uint32_t pixel) const;
   void arrange(std::vector<std::string> changes) const;

@@ -4,8 +4,6 @@
 #include <chrono>
 #include <string>
 
-#include "e2e/support/WaitUntil.h"
-
 namespace tavrelkin::test {
 
 namespace {
@@ -30,8 +28,7 @@ bool isDialog(const std::string& title) {
 // Below the menu bar, where a second press might take the item that ends the program.
 ScreenPoint RandomUser::placeOn(xcb_window_t window) {
   const Area area = session_.windows.area(window);
-  return {area.x + number(std::max<int>(1, area.width)),
-          area.y + kMenuBar + number(std::max<int>(1, area.height - kMenuBar))};
+  return {area.x + number(area.width), area.y + kMenuBar + number(area.height - kMenuBar)};
 }
 
 ScreenPoint RandomUser::anywhere() {

@@ -20,7 +20,8 @@ class RandomUser {
   bool tidyUp();
 
  private:
-  int number(int below) { return static_cast<int>(random_() % static_cast<std::uint32_t>(below)); }
+  // From 0 on.
+  int number(int below) { return below > 0 ? static_cast<int>(random_() % static_cast<std::uint32_t>(below)) : 0; }
   template <class T>
   T oneOf(const std::vector<T>& all) {
     return all[random_() % all.size()];

@@ -16,7 +16,6 @@
 #include <xcb/res.h>
 
 #include "e2e/soak/RandomUser.h"
-#include "e2e/support/WaitUntil.h"
 
 namespace tavrelkin::test {
 namespace {
@@ -122,13 +121,11 @@ class Soak {
 }  // namespace tavrelkin::test
 
 int main(int argc, char** argv) {
-  if (argc < 2) {
-    std::cerr << "soak SECONDS [SEED]" << std::endl;
-    return EXIT_FAILURE;
-  }
-  const auto seed = argc > 2 ? static_cast<std::uint32_t>(std::stoul(argv[2])) : std::random_device{}();
+  const std::vector<std::string> arguments(argv + 1, argv + argc);
+  const auto seed =
+      arguments.size() > 1 ? static_cast<std::uint32_t>(std::stoul(arguments[1])) : std::random_device{}();
   std::cout << "Seed " << seed << std::endl;
-  tavrelkin::test::Soak soak(std::chrono::seconds(std::stol(argv[1])), seed);
+  tavrelkin::test::Soak soak(std::chrono::seconds(std::stol(arguments.at(0))), seed);
   std::string result = "OK";
   try {
     soak.run();

@@ -99,7 +99,7 @@ void Hand::click(ScreenPoint at) {
 }
 
 // A hand takes its time, and a drag needs it: programs talk to each other at each place.
-void Hand::pull(ScreenPoint from, ScreenPoint to) {
+void Hand::drag(ScreenPoint from, ScreenPoint to, const std::function<void()>& before) {
   constexpr int kSteps = 8;
   moveTo(from);
   pressButton();
@@ -108,28 +108,15 @@ void Hand::pull(ScreenPoint from, ScreenPoint to) {
     moveTo({from.x + (to.x - from.x) * step / kSteps, from.y + (to.y - from.y) * step / kSteps});
   }
   rest();
-}
-
-void Hand::drag(ScreenPoint from, ScreenPoint to) {
-  pull(from, to);
+  if (before) before();
   releaseButton();
   rest();
 }
 
-void Hand::altDrag(ScreenPoint from, ScreenPoint to) {
-  beginAltDrag(from, to);
-  endAltDrag();
-}
-
-void Hand::beginAltDrag(ScreenPoint from, ScreenPoint to) {
+void Hand::altDrag(ScreenPoint from, ScreenPoint to, const std::function<void()>& before) {
   press("Alt");
-  pull(from, to);
-}
-
-void Hand::endAltDrag() {
-  releaseButton();
+  drag(from, to, before);
   release("Alt");
-  rest();
 }
 
 void Hand::keys(const std::string& chord) {

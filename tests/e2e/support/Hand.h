@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -47,13 +48,10 @@ class Hand {
   void pressButton() { client_.fake(XCB_BUTTON_PRESS, 1); }
   void releaseButton() { client_.fake(XCB_BUTTON_RELEASE, 1); }
   void click(ScreenPoint at);
-  // Presses at one place and lets go at another, by way of a few places between; what an Alt-drag starts with is its
-  // own.
-  void drag(ScreenPoint from, ScreenPoint to);
-  void altDrag(ScreenPoint from, ScreenPoint to);
-  // Only up to the place: the button, and Alt, stay down.
-  void beginAltDrag(ScreenPoint from, ScreenPoint to);
-  void endAltDrag();
+  // Presses at one place and lets go at another, by way of a few places between; does what is given before it lets go.
+  void drag(ScreenPoint from, ScreenPoint to, const std::function<void()>& before = {});
+  // With the key that a drag of a colour starts with.
+  void altDrag(ScreenPoint from, ScreenPoint to, const std::function<void()>& before = {});
 
   // As long as a person takes at least between two strokes; a menu that was opened is there afterwards.
   void rest() const;
@@ -64,7 +62,6 @@ class Hand {
   void release(const std::string& key) { client_.fake(XCB_KEY_RELEASE, keyCode(key)); }
 
  private:
-  void pull(ScreenPoint from, ScreenPoint to);
   std::uint8_t keyCode(const std::string& name) const;
 
   X11Client& client_;

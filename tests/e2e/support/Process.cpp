@@ -12,8 +12,6 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
-#include "e2e/support/WaitUntil.h"
-
 namespace tavrelkin::test {
 
 namespace {
@@ -102,13 +100,9 @@ pid_t Process::start(std::vector<std::string> command, std::vector<std::string> 
 }
 
 std::string Process::firstLine() {
-  std::string said;
-  const auto hasLine = [&] {
-    said = output();
-    return said.find('\n') != std::string::npos;
-  };
-  if (!waitUntil([&] { return hasLine() || !isRunning(); }) || !hasLine())
-    throw std::runtime_error("A program did not start. " + errors());
+  waitUntil([this] { return output().find('\n') != std::string::npos || !isRunning(); });
+  const std::string said = output();
+  if (said.find('\n') == std::string::npos) throw std::runtime_error("A program did not start. " + errors());
   return said.substr(0, said.find('\n'));
 }
 

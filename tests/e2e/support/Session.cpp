@@ -1,10 +1,42 @@
 #include "e2e/support/Session.h"
 
+#include <algorithm>
 #include <stdexcept>
 
-#include "e2e/support/WaitUntil.h"
-
 namespace tavrelkin::test {
+
+namespace {
+
+std::vector<std::string> command(const XServer::Options& options) {
+  std::vector<std::string> result{"Xvfb",         "-displayfd", "1",        "-screen",   "0",
+                                  options.screen, "-ac",        "-noreset", "-nolisten", "tcp"};
+  result.insert(result.end(), options.arguments.begin(), options.arguments.end());
+  return result;
+}
+
+// Whether a window that is shown now gets managed. The manager announces itself before it is able to do so, and forgets
+// what is shown in between.
+bool managesNewWindow(X11Client& client, const Windows& windows) {
+  const xcb_window_t window = client.open({0, 0, 1, 1}, false);
+  const auto isManaged = [&] { return std::ranges::count(windows.all(), window) > 0; };
+  const bool result = waitUntil(isManaged, std::chrono::milliseconds(100));
+  client.close(window);
+  return result;
+}
+
+}  // namespace
+
+XServer::XServer(const Options& options)
+    : process_(command(options), home_.environment({})), display_(":" + process_.firstLine()) {}
+
+WindowManager::WindowManager(const XServer& server)
+    : process_({"openbox", "--sm-disable", "--config-file", TAVRELKIN_OPENBOX}, server.environment()) {
+  X11Client client(server.display());
+  const Windows windows(client);
+  if (!waitUntil([&] { return managesNewWindow(client, windows); }) ||
+      !waitUntil([&] { return windows.all().empty(); }))
+    throw std::runtime_error("The window manager did not start: " + process_.errors());
+}
 
 xcb_window_t OutsideClipboard::owner() const {
   auto* const c = client_.connection();
@@ -27,16 +59,12 @@ std::string OutsideClipboard::paste() const {
   return reader.output();
 }
 
-std::vector<std::string> Session::command() {
-  return {TAVRELKIN_PROGRAM};
-}
-
 Session::Session(const Options& options)
     : server(options.server),
       client(server.display()),
       environment(prepared(options)),
       manager(server),
-      program(command(), environment) {}
+      program({TAVRELKIN_PROGRAM}, environment) {}
 
 // The screen and the bus as they are before any program starts; gives the program's environment.
 std::vector<std::string> Session::prepared(const Options& options) {

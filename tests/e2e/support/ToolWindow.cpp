@@ -6,8 +6,6 @@
 #include <cstdlib>
 #include <stdexcept>
 
-#include "e2e/support/WaitUntil.h"
-
 namespace tavrelkin::test {
 
 namespace {
@@ -175,10 +173,6 @@ testing::AssertionResult ToolWindow::getsScale(double scale) {
 
 bool ToolWindow::hasItsSize() const {
   return session_.windows.area(window()).width == scaled(kWidth);
-}
-
-testing::AssertionResult ToolWindow::getsTitleOf(std::uint32_t rgb) const {
-  return getsTitle(titleOf(rgb));
 }
 
 testing::AssertionResult ToolWindow::getsPreview(const Preview& expected) const {

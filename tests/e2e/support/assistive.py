@@ -55,8 +55,7 @@ def line(part):
 
 
 def tree(title):
-    shown = await_result(lambda: [window for window in windows() if window.get_name().startswith(title)])
-    for window in shown:
+    for window in await_result(lambda: [each for each in windows() if each.get_name().startswith(title)]):
         for part in below(window):
             print(line(part))
 
