@@ -7,7 +7,6 @@
 namespace tavrelkin::test {
 namespace {
 
-constexpr std::uint32_t kTip = 0xFFF8CE;
 constexpr std::uint32_t kGround = 0xCCCCCC;
 
 using BarsTest = UnfoldedToolWindowTest;
@@ -16,7 +15,7 @@ TEST_F(BarsTest, ADragShowsTheTipAndGivesTheColourAtItsEnd) {
   session_.hand.moveTo(tool_.onBar(0, 53));
   session_.hand.pressButton();
   session_.hand.moveTo(tool_.onBar(0, 60));
-  EXPECT_TRUE(tool_.gets(kTip, 420, 345));
+  EXPECT_TRUE(tool_.gets(0xFFF8CE, 420, 345)) << "the tip";
   EXPECT_TRUE(tool_.gets(0x7FABFF, 158 + 60, 277)) << "the indicator shows what would be";
   EXPECT_EQ(tool_.title(), titleOf(0x70ABFF));
   session_.hand.releaseButton();
@@ -43,6 +42,10 @@ TEST_F(BarsTest, APressBringsTheKeyboardTheTabulatorMovesItOnAndShortcutsStillWo
   EXPECT_TRUE(tool_.getsTitleOf(0x71ABFE)) << "blue";
   session_.hand.keys("Ctrl+C");
   EXPECT_TRUE(waitUntil([&] { return session_.clipboard.paste() == "#71ABFE"; }));
+  session_.hand.keys("Left");
+  EXPECT_TRUE(tool_.getsTitleOf(0x71ABFD));
+  session_.hand.keys("Ctrl+V");
+  EXPECT_TRUE(tool_.getsTitleOf(0x71ABFE)) << "its own clipboard";
 }
 
 TEST_F(BarsTest, AColourPickedInTheDialogGoesToTheButtonAlone) {

@@ -17,8 +17,7 @@ using namespace std::chrono_literals;
 //
 // It says "ready" when it can be used, then "over" for each drag of its own that has ended, whatever became of it, and
 // each colour that the button takes, as four hexadecimal digits a channel.
-class ForeignColours {
- public:
+struct ForeignColours {
   static constexpr ScreenPoint kButton{930, 630};  // #12ABF0
   static constexpr ScreenPoint kShortColour{990, 630};
   static constexpr ScreenPoint kLongColourAndText{1050, 630};  // the text is #00C0FF
@@ -28,14 +27,13 @@ class ForeignColours {
   static constexpr ScreenPoint kSilence{1050, 690};            // a colour and a text that don't come for a minute
 
   explicit ForeignColours(const XServer& server)
-      : process_({"/usr/bin/python3", TAVRELKIN_FOREIGN_COLOURS}, server.environment()) {
-    process_.firstLine();
+      : process({"/usr/bin/python3", TAVRELKIN_FOREIGN_COLOURS}, server.environment()) {
+    process.firstLine();
   }
 
-  std::string said() const { return process_.output(); }
+  std::string said() const { return process.output(); }
 
- private:
-  Process process_;
+  Process process;
 };
 
 class ExchangeTest : public UnfoldedToolWindowTest {

@@ -21,8 +21,7 @@ std::string bytesOf(const fs::path& file) {
 // Comes up by the keys, or by a menu, before.
 class Palette : public ProgramWindow {
  public:
-  Palette(Session& session, const std::string& title, std::size_t count = 1)
-      : ProgramWindow(session, session.waitForWindow(title, count), 161) {
+  Palette(Session& session, const std::string& title) : ProgramWindow(session, session.waitForWindow(title), 161) {
     session.bringToFront(window());
   }
 
@@ -32,6 +31,7 @@ class Palette : public ProgramWindow {
     return gets(rgb, cell(index).x, cell(index).y);
   }
   testing::AssertionResult put(const std::string& text, std::uint32_t rgb, int index) {
+    session_.bringToFront(window());
     session_.hand.click(onCell(index));
     paste(text);
     return getsCell(rgb, index);
@@ -84,7 +84,7 @@ TEST_F(FavouritesTest, ANewPaletteIsSavedUnderANameOfTheUsersAndColoursAreDragge
   session_.bringToFront(session_.waitForWindow("Save As"));
   for (const char* keys : {"Ctrl+A", "Ctrl+V", "Return"})
     session_.hand.keys(keys);
-  EXPECT_TRUE(palette.getsTitle("mine.act"));
+  ASSERT_TRUE(palette.getsTitle("mine.act"));
   EXPECT_EQ(bytesOf(target).substr(0, 14), std::string("\0\1\1\0\0\0\x12\x12\x34\x34\x56\x56\0\0", 14));
   ASSERT_TRUE(palette.put("#FEDCBA", 0xFEDCBA, 1));
   palette.keys("Ctrl+S");

@@ -18,7 +18,6 @@ using Clock = std::chrono::steady_clock;
 TEST(NativeDesktop, RingsAlarmsOnceAndTellsTheLengthOfAFrame) {
   const auto desktop = makeNativeDesktop();
   EXPECT_GE(desktop->frameInterval(), 1ms);
-  EXPECT_LE(desktop->frameInterval(), 1s);
 
   std::string rung;
   const auto early = desktop->newAlarm([&] { rung += 'e'; });

@@ -18,13 +18,12 @@ class WindowsTest : public ToolWindowTest {
 };
 
 TEST_F(WindowsTest, OpenFoldedInTheFirstOnesColourAndEndTheProgramWithTheLastOne) {
-  const auto& windows = session_.windows;
   EXPECT_TRUE(tool_.getsTitleOf(0x70ABFF));
-  EXPECT_EQ(windows.property(tool_.window(), "WM_CLASS"), std::string("tavrelkin\0tavrelkin\0", 20));
-  const auto icon = windows.numbers(tool_.window(), "_NET_WM_ICON");
+  EXPECT_EQ(session_.windows.property(tool_.window(), "WM_CLASS"), std::string("tavrelkin\0tavrelkin\0", 20));
+  const auto icon = session_.windows.numbers(tool_.window(), "_NET_WM_ICON");
   ASSERT_FALSE(icon.empty());
   EXPECT_EQ(icon[0], 128U) << "the window manager's stand-in has 48";
-  const Area area = windows.area(tool_.window());
+  const Area area = session_.windows.area(tool_.window());
   EXPECT_EQ(area.width, 448);
   EXPECT_GT(area.height, 262) << "content and menu bar";
   EXPECT_LT(area.height, 300);

@@ -61,7 +61,8 @@ void X11Client::close(xcb_window_t window) {
   sync();
 }
 
-void X11Client::paint(xcb_window_t window, const Area& window_area, const Pattern& pattern) {
+void X11Client::paint(xcb_window_t window, const Area& window_area,
+                      const std::function<std::uint32_t(int x, int y)>& pattern) {
   for (std::int16_t y = 0; y < window_area.height; ++y)
     for (std::int16_t x = 0; x < window_area.width; ++x)
       draw(window, {x, y, 1, 1}, pattern(window_area.x + x, window_area.y + y));

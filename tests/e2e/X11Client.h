@@ -18,8 +18,6 @@ struct Area {
 // changes the size of the screen. Each operation returns when the server has done it.
 class X11Client {
  public:
-  using Pattern = std::function<std::uint32_t(int x, int y)>;  // 0xRRGGBB at a place on the screen
-
   // `display` as in DISPLAY.
   explicit X11Client(const std::string& display);
 
@@ -33,8 +31,8 @@ class X11Client {
   xcb_window_t open(const Area& area, bool isAboveAll = true);
   void close(xcb_window_t window);
 
-  // Paints an area of a window that open() gave for `window`, each pixel by itself.
-  void paint(xcb_window_t window, const Area& window_area, const Pattern& pattern);
+  // Paints an area of a window that open() gave for `window`, each pixel by itself: 0xRRGGBB at a place on the screen.
+  void paint(xcb_window_t window, const Area& window_area, const std::function<std::uint32_t(int x, int y)>& pattern);
   void fill(xcb_window_t window, std::uint32_t rgb);
 
   // What the screen is able to show for 0xRRGGBB.

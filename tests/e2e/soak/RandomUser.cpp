@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <chrono>
-#include <string>
 
 namespace tavrelkin::test {
 
@@ -12,16 +11,6 @@ using namespace std::chrono_literals;
 
 constexpr std::size_t kMostWindows = 8;
 constexpr int kMenuBar = 24;
-
-bool isTool(const std::string& title) {
-  return title.starts_with("Color: ");
-}
-bool isPalette(const std::string& title) {
-  return title.starts_with("Untitled Colors") || title.ends_with(".aco");
-}
-bool isDialog(const std::string& title) {
-  return !isTool(title) && !isPalette(title) && !title.starts_with("Color Blind");
-}
 
 }  // namespace
 

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <random>
+#include <string>
 #include <vector>
 
 #include "e2e/support/Session.h"
@@ -22,6 +23,11 @@ class RandomUser {
  private:
   // From 0 on.
   int number(int below) { return below > 0 ? static_cast<int>(random_() % static_cast<std::uint32_t>(below)) : 0; }
+  static bool isTool(const std::string& title) { return title.starts_with("Color: "); }
+  static bool isPalette(const std::string& title) { return title.starts_with("Untitled") || title.ends_with(".aco"); }
+  static bool isDialog(const std::string& title) {
+    return !isTool(title) && !isPalette(title) && !title.starts_with("Color Blind");
+  }
   template <class T>
   T oneOf(const std::vector<T>& all) {
     return all[random_() % all.size()];
