@@ -21,9 +21,8 @@
 #include "bench/support/Circles.h"
 #include "bench/support/Figures.h"
 #include "bench/support/ProcessUsage.h"
-#include "e2e/support/ForeignWindow.h"
+#include "e2e/support/Process.h"
 #include "e2e/support/ToolWindow.h"
-#include "e2e/support/WaitUntil.h"
 
 namespace tavrelkin::bench {
 

@@ -7,7 +7,7 @@
 
 #include <QStandardPaths>
 
-#include "e2e/support/WaitUntil.h"
+#include "e2e/support/Process.h"
 
 namespace tavrelkin::bench {
 

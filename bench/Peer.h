@@ -7,11 +7,8 @@
 #include "bench/support/ProcessUsage.h"
 #include "e2e/X11Client.h"
 #include "e2e/support/Hand.h"
-#include "e2e/support/Home.h"
 #include "e2e/support/Process.h"
-#include "e2e/support/WindowManager.h"
-#include "e2e/support/Windows.h"
-#include "e2e/support/XServer.h"
+#include "e2e/support/Session.h"
 
 namespace tavrelkin::bench {
 
@@ -26,7 +23,7 @@ struct Program {
 // A desktop with a window manager and nothing on it but a few windows of test colours.
 struct PeerDesktop {
   test::XServer server{{.screen = "1280x1000x24", .arguments = {}}};
-  test::X11Client client{server.display().c_str()};
+  test::X11Client client{server.display()};
   test::Windows windows{client};
   test::Hand hand{client};
   test::WindowManager manager{server};

@@ -15,7 +15,7 @@
 #include "Peer.h"
 #include "bench/support/Circles.h"
 #include "bench/support/Figures.h"
-#include "e2e/support/ForeignWindow.h"
+#include "e2e/support/ToolWindow.h"
 
 namespace tavrelkin::bench {
 

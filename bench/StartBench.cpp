@@ -16,11 +16,8 @@
 #include "bench/support/Figures.h"
 #include "bench/support/ProcessUsage.h"
 #include "e2e/X11Client.h"
-#include "e2e/support/Home.h"
 #include "e2e/support/Process.h"
-#include "e2e/support/WaitUntil.h"
-#include "e2e/support/WindowManager.h"
-#include "e2e/support/XServer.h"
+#include "e2e/support/Session.h"
 
 namespace tavrelkin::bench {
 
@@ -71,7 +68,7 @@ void printAgainst(const std::string& what, const std::string& wanted, double pro
 }
 
 void benchOn(const test::XServer& server, const std::string& where, const test::Area& content) {
-  const test::X11Client client(server.display().c_str());
+  const test::X11Client client(server.display());
   Candidate program{.path = TAVRELKIN_PROGRAM, .name = "tavrelkin"};
   Candidate bare{.path = BARE_WINDOW, .name = "bare_window"};
   for (int i = 0; i < kRuns; ++i) {

@@ -18,8 +18,8 @@
 #include "bench/ControlsBench.h"
 #include "bench/support/Figures.h"
 #include "bench/support/Medians.h"
-#include "e2e/support/ForeignWindow.h"
-#include "e2e/support/WaitUntil.h"
+#include "e2e/support/Process.h"
+#include "e2e/support/ToolWindow.h"
 #include "runtime/desktop/Desktop.h"
 #include "runtime/gui/Runtime.h"
 #include "runtime/qt/Delivery.h"
@@ -158,7 +158,7 @@ int main(int argc, char** argv) {
   setenv("DISPLAY", server.display().c_str(), 1);
   setenv("QT_QPA_PLATFORM", "xcb", 1);
   unsetenv("WAYLAND_DISPLAY");
-  X11Client client;
+  X11Client client(server.display());
   const ForeignWindow foreign(client, {700, 500, 240, 140});
   client.movePointer(tavrelkin::bench::kPointer.x, tavrelkin::bench::kPointer.y);
   return tavrelkin::bench::run(client);

@@ -1,64 +1,99 @@
-// Displays of all kinds: depths, extensions, monitors, and a session whose screen can't be read.
+// Displays of all kinds: depths, extensions, monitors, more pixels to the inch, and a session whose screen can't be
+// read. Whatever the program's scale is, each pixel of the screen is hit, and each pixel of the preview is a hard-edged
+// block.
 
 #include <algorithm>
 
 #include <gtest/gtest.h>
 
-#include "e2e/support/ForeignWindow.h"
 #include "e2e/support/ToolWindow.h"
-#include "e2e/support/WaitUntil.h"
 
 namespace tavrelkin::test {
 namespace {
 
+constexpr std::uint16_t kLeftMonitor = 1200;
+const XServer::Options kServer{.screen = "2400x1000x24"};
+
+// Sample, marker, poke, click, a drag out of the preview, and follow.
+void expectExact(Session& session, ToolWindow& tool) {
+  const ForeignWindow foreign(session.client, {1080, 720, 240, 140});  // where no tool window is
+  const ScreenPoint at{1201, 793};
+  session.hand.moveTo(at);
+  tool.keys("Ctrl+Alt+P");
+  EXPECT_TRUE(tool.getsTitleOf(foreign.shown(at)));
+  const Preview preview = foreign.previewAt(at);
+  ASSERT_TRUE(tool.getsPreview(preview));
+  for (const int x : {101, 104}) {
+    session.hand.click(tool.onPreview(x, 50));
+    EXPECT_TRUE(tool.getsTitleOf(foreign.shown(preview.enlarged(x, 50)))) << x;
+  }
+
+  const ScreenPoint end{1187, 781};
+  session.hand.moveTo(tool.onPreview(100, 100));
+  session.hand.pressButton();
+  session.hand.moveTo(end);
+  EXPECT_TRUE(tool.getsPreview(foreign.previewAt(end)));
+  session.hand.releaseButton();
+  EXPECT_TRUE(tool.getsTitleOf(foreign.shown(end)));
+  tool.keys("Ctrl+F");
+  session.hand.moveTo(at);
+  EXPECT_TRUE(tool.getsPreview(preview)) << "following";
+  tool.keys("Ctrl+F");
+}
+
 struct Display {
   const char* name;
-  XServer::Options server;
-  int tolerance;  // of a channel, where the screen has fewer colours
+  Session::Options session;
+  double scale = 1;
+  double rightScale = 1;  // of the other monitor, where there are two
 };
 
 class DisplaysTest : public testing::TestWithParam<Display> {};
 
-TEST_P(DisplaysTest, AreFollowedAndPoked) {
-  Session session({.server = GetParam().server});
+TEST_P(DisplaysTest, EveryPixelIsHit) {
+  Session session(GetParam().session);
   ToolWindow tool(session);
-  const ForeignWindow foreign(session.client, {700, 500, 240, 140});
-  const ScreenPoint at{820, 570};
-  session.hand.moveTo(at);
-  tool.keys("Ctrl+F");
-  EXPECT_TRUE(tool.getsPreview(foreign.previewAt(at), GetParam().tolerance));
-  tool.keys("Ctrl+Alt+P");
-  EXPECT_TRUE(tool.getsTitleOf(foreign.shown(at)));
+  ASSERT_TRUE(tool.getsScale(GetParam().scale));
+  expectExact(session, tool);
+  if (GetParam().session.leftMonitor == 0) return;
+  tool.moveTo(1350, 60);
+  ASSERT_TRUE(tool.getsScale(GetParam().rightScale));
+  expectExact(session, tool);
+}
+
+Session::Options monitors(const std::string& factors) {
+  return {.server = kServer, .environment = {"QT_SCREEN_SCALE_FACTORS=" + factors}, .leftMonitor = kLeftMonitor};
 }
 
 const Display kDisplays[] = {
-    {"WithoutSharedMemory", {.arguments = {"-extension", "MIT-SHM"}}, 0},
-    {"WithoutPointerEvents", {.arguments = {"-extension", "XInputExtension"}}, 0},
-    {"Depth16", {.screen = "1280x800x16"}, 8},
-    {"Depth30", {.screen = "1280x800x30"}, 0},
+    {"WithoutSharedMemory", {.server = {kServer.screen, {"-extension", "MIT-SHM"}}}},
+    {"WithoutPointerEvents", {.server = {kServer.screen, {"-extension", "XInputExtension"}}}},
+    {"Depth16", {.server = {"2400x1000x16"}}},
+    {"Depth30", {.server = {"2400x1000x30"}}},
+    {"Quarter", {.server = kServer, .environment = {"QT_SCALE_FACTOR=1.25"}}, 1.25},
+    {"UnevenByTheDesktop", {.server = kServer, .dotsPerInch = 108}, 1.125},
+    {"DoubleByTheDesktop", {.server = kServer, .dotsPerInch = 192}, 2},
+    {"Monitors", {.server = kServer, .leftMonitor = kLeftMonitor}},
+    {"Finer", monitors("left=1;right=2"), 1, 2},
+    {"Coarser", monitors("left=2;right=1.25"), 2, 1.25},
+    {"Uneven", monitors("left=1.5;right=1"), 1.5, 1},
 };
 
 INSTANTIATE_TEST_SUITE_P(Of, DisplaysTest, testing::ValuesIn(kDisplays),
                          [](const auto& display) { return std::string(display.param.name); });
 
-TEST(MonitorsTest, AreFollowedAndPokedOnEither) {
-  Session session({.server = {.screen = "2000x800x24"}, .leftMonitor = 1000});
+// Where it gets so large that its middle would lie on the monitor it came from, it must not go back and forth.
+TEST(MonitorEdgeTest, AWindowThatGrowsStaysOnItsMonitor) {
+  Session session(monitors("left=2;right=1"));
   ToolWindow tool(session);
-  tool.keys("Ctrl+F");
-  for (const std::int16_t left : {std::int16_t{1500}, std::int16_t{900}, std::int16_t{600}}) {
-    const ForeignWindow foreign(session.client, {left, 500, 200, 140});
-    const ScreenPoint at{left + 100, 570};
-    session.hand.moveTo(at);
-    EXPECT_TRUE(tool.getsPreview(foreign.previewAt(at))) << left;
-    tool.keys("Ctrl+Alt+P");
-    EXPECT_TRUE(tool.getsTitleOf(foreign.shown(at))) << left;
+  tool.moveTo(1500, 60);
+  ASSERT_TRUE(tool.getsScale(1));
+  session.windows.moveTo(tool.window(), 950, 60);
+  ASSERT_TRUE(tool.getsScale(2));
+  for (int i = 0; i < 5; ++i) {
+    session.hand.rest();
+    EXPECT_TRUE(tool.hasItsSize()) << i;
   }
-
-  session.windows.moveTo(tool.window(), 1200, 50);
-  ASSERT_TRUE(waitUntil([&] { return session.windows.area(tool.window()).x >= 1200; }));
-  const ForeignWindow foreign(session.client, {300, 500, 200, 140});
-  session.hand.moveTo({400, 570});
-  EXPECT_TRUE(tool.getsPreview(foreign.previewAt({400, 570}))) << "with the window on the other one";
 }
 
 // An X11 display beside Wayland shows nothing of the screen.
@@ -68,8 +103,7 @@ TEST(WaylandTest, TheUserIsToldOnceThatTheScreenCantBeRead) {
   const ForeignWindow foreign(session.client, {700, 500, 240, 140});
   session.hand.moveTo({820, 570});
   tool.keys("Ctrl+F");
-  const auto message = session.waitForWindow("Tavrelkin");
-  session.bringToFront(message);
+  session.bringToFront(session.waitForWindow("Tavrelkin"));
   session.hand.keys("Return");
   ASSERT_TRUE(waitUntil([&] { return session.windows.all().size() == 1; }));
 

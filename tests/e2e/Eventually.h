@@ -1,21 +1,19 @@
 #pragma once
 
-#include <chrono>
-#include <functional>
-
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
+
+#include "e2e/support/Process.h"
 
 namespace tavrelkin::test {
 
 // Whether `condition` comes true within a generous time; the event loop runs meanwhile.
-inline bool eventually(const std::function<bool()>& condition) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(5);
-  while (!condition()) {
-    if (std::chrono::steady_clock::now() > end) return false;
+template <class Condition>
+bool eventually(const Condition& condition) {
+  return waitUntil([&] {
     QCoreApplication::processEvents();
-  }
-  return true;
+    return condition();
+  });
 }
 
 // Whether the event loop has nothing to do. What it finds to do is done.

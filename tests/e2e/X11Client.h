@@ -2,12 +2,10 @@
 
 #include <cstdint>
 #include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
-#include <xcb/randr.h>
-#include <xcb/xcb.h>
+#include "runtime/desktop/x11/Xcb.h"
 
 namespace tavrelkin::test {
 
@@ -20,10 +18,8 @@ struct Area {
 // changes the size of the screen. Each operation returns when the server has done it.
 class X11Client {
  public:
-  using Pattern = std::function<std::uint32_t(int x, int y)>;  // 0xRRGGBB at a place on the screen
-
-  // `display` as in DISPLAY; without it, the display that DISPLAY names.
-  explicit X11Client(const char* display = nullptr);
+  // `display` as in DISPLAY.
+  explicit X11Client(const std::string& display);
 
   xcb_connection_t* connection() const { return connection_.get(); }
   xcb_window_t root() const { return screen_->root; }
@@ -31,47 +27,46 @@ class X11Client {
   int screenWidth() const { return screen_->width_in_pixels; }
   int screenHeight() const { return screen_->height_in_pixels; }
 
-  // Shows a window above all others, without a frame, until close().
-  xcb_window_t open(const Area& area);
+  // Shows a window until close(): above all others and without a frame, unless it is left to the window manager.
+  xcb_window_t open(const Area& area, bool isAboveAll = true);
   void close(xcb_window_t window);
 
-  // Paints an area of a window that open() gave for `window`, each pixel by itself.
-  void paint(xcb_window_t window, const Area& window_area, const Pattern& pattern);
+  // Paints an area of a window that open() gave for `window`, each pixel by itself: 0xRRGGBB at a place on the screen.
+  void paint(xcb_window_t window, const Area& window_area, const std::function<std::uint32_t(int x, int y)>& pattern);
   void fill(xcb_window_t window, std::uint32_t rgb);
 
   // What the screen is able to show for 0xRRGGBB.
-  std::uint32_t shown(std::uint32_t rgb) const;
+  std::uint32_t shown(std::uint32_t rgb) const { return fromStored(stored(rgb)); }
 
   // What an area of the screen shows, row by row.
   std::vector<std::uint32_t> read(const Area& area) const;
 
-  void movePointer(int x, int y);
-  void pressAlt();
-  void releaseAlt();
-
+  void movePointer(int x, int y) { fake(XCB_MOTION_NOTIFY, 0, x, y); }
   // An event of a device, as the core protocol has them: its type, its button or key code, and where a motion goes.
   void fake(std::uint8_t type, std::uint8_t detail, int x = 0, int y = 0);
+  // Sends a message about a window to one that listens for `events`, or to the owner of that where there are none.
+  void tell(xcb_window_t receiver, std::uint32_t events, xcb_window_t window, const std::string& what,
+            std::uint32_t first, std::uint32_t second);
   void sync() const;
+
+  xcb_atom_t atom(const std::string& name) const;
 
   // The settings that programs find on the screen, as "Xft.dpi:\t96\n".
   void setResources(const std::string& lines);
 
-  // False where the server can't.
-  bool resizeScreen(std::uint16_t width, std::uint16_t height);
+  // These throw where the server can't.
+  void resizeScreen(int width, int height);
   // Makes the screen two monitors side by side: the main one on the right, and a lower one of this width on the left.
-  bool splitScreen(std::uint16_t width);
+  void splitScreen(int width);
 
  private:
-  struct Disconnect {
-    void operator()(xcb_connection_t* connection) const { xcb_disconnect(connection); }
-  };
-
+  void draw(xcb_window_t window, const xcb_rectangle_t& rectangle, std::uint32_t rgb);
   std::uint32_t stored(std::uint32_t rgb) const;
   std::uint32_t fromStored(std::uint32_t pixel) const;
-  void fakeAlt(std::uint8_t type);
-  bool setMonitor(const std::string& name, const Area& area, const xcb_randr_output_t* output, bool isMain);
+  void arrange(std::vector<std::string> changes) const;
 
-  std::unique_ptr<xcb_connection_t, Disconnect> connection_;
+  std::string display_;
+  XcbConnection connection_;
   const xcb_screen_t* screen_;
   const xcb_visualtype_t* visual_;
   xcb_gcontext_t gc_;

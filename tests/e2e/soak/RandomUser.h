@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdint>
-#include <initializer_list>
 #include <random>
 #include <string>
 #include <vector>
@@ -22,25 +21,25 @@ class RandomUser {
   bool tidyUp();
 
  private:
-  enum class Kind { kTool, kPalette, kSimulator, kDialog };
-  struct Shown {
-    xcb_window_t window;
-    Kind kind;
-  };
-
-  std::vector<Shown> shown() const;
-  int number(int below) { return static_cast<int>(random_() % static_cast<std::uint32_t>(below)); }
-  std::string oneOf(std::initializer_list<const char*> texts);
+  // From 0 on.
+  int number(int below) { return below > 0 ? static_cast<int>(random_() % static_cast<std::uint32_t>(below)) : 0; }
+  static bool isTool(const std::string& title) { return title.starts_with("Color: "); }
+  static bool isPalette(const std::string& title) { return title.starts_with("Untitled") || title.ends_with(".aco"); }
+  static bool isDialog(const std::string& title) {
+    return !isTool(title) && !isPalette(title) && !title.starts_with("Color Blind");
+  }
+  template <class T>
+  T oneOf(const std::vector<T>& all) {
+    return all[random_() % all.size()];
+  }
   ScreenPoint placeOn(xcb_window_t window);
   ScreenPoint anywhere();
 
-  void actOn(const Shown& chosen);
-  void useMouse(const Shown& chosen);
-  void press(const Shown& chosen);
+  void press(xcb_window_t window);
+  void useMouse(xcb_window_t window);
   void openMenu(xcb_window_t window);
   void moveOrMinimise(xcb_window_t window);
-  void leave(xcb_window_t dialog);
-  bool closeAllBut(xcb_window_t kept);
+  bool leaveDialog();
 
   Session& session_;
   std::mt19937 random_;

@@ -1,15 +1,4 @@
-"""An assistive technology, as a user who doesn't see the screen has it, and who may have no mouse.
-
-The first argument says what to do with the program, whose windows it waits for:
-
-  tree TITLE          tells all that is in the windows whose title begins so: a line each with role, name, description,
-                      value, and states of interest, with "|" between them
-  press NAME          presses what is called so, the last of them where there are several
-  set NAME VALUE      sets a slider
-  focus NAME          brings the keyboard there
-  listen              says "listening", then tells each change as it is announced: its kind, and a line as those of
-                      "tree"
-"""
+"""An assistive technology, as a user has it who doesn't see the screen: AccessibilityTest.cpp says what it can do."""
 import os
 import sys
 import time
@@ -21,13 +10,10 @@ from gi.repository import Atspi, Gio, GLib  # noqa: E402
 
 PATIENCE = 8  # seconds
 STATES = ("focused", "selected", "showing")
-EVENTS = (
-    "object:property-change:accessible-name",
-    "object:property-change:accessible-description",
-    "object:property-change:accessible-value",
-    "object:state-changed:selected",
-    "object:state-changed:focused",
-)
+PROPERTIES = ("accessible-name", "accessible-description", "accessible-value")
+EVENTS = [f"object:property-change:{name}" for name in PROPERTIES] + [
+    f"object:state-changed:{name}" for name in STATES[:2]
+]
 
 
 def await_result(ask):
@@ -69,8 +55,7 @@ def line(part):
 
 
 def tree(title):
-    shown = await_result(lambda: [window for window in windows() if window.get_name().startswith(title)])
-    for window in shown:
+    for window in await_result(lambda: [each for each in windows() if each.get_name().startswith(title)]):
         for part in below(window):
             print(line(part))
 
@@ -105,17 +90,14 @@ def listen():
 def main():
     turn_on()
     Atspi.init()
-    command, *arguments = sys.argv[1:]
-    if command == "tree":
-        tree(*arguments)
-    elif command == "press":
-        press(*arguments)
-    elif command == "set":
-        called(arguments[0]).set_current_value(float(arguments[1]))
-    elif command == "focus":
-        called(*arguments).grab_focus()
-    else:
-        listen()
+    commands = {
+        "tree": tree,
+        "press": press,
+        "set": lambda name, value: called(name).set_current_value(float(value)),
+        "focus": lambda name: called(name).grab_focus(),
+        "listen": listen,
+    }
+    commands[sys.argv[1]](*sys.argv[2:])
     sys.stdout.flush()
     os._exit(0)  # its library may take its time to leave the bus
 

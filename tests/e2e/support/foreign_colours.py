@@ -1,11 +1,4 @@
-"""Another graphics program, as far as the exchange of colours by drag goes.
-
-A window without a frame at (900, 600) holds, each 60 by 60 and from left to right: the toolkit's own colour button, which
-gives and takes colours; and three that only give: a colour in too few bytes, a colour in too many bytes beside a text
-that names one, and nothing but a text that names one. Below them: a file, a text of 100 MB with two dots in it, and one
-that promises a colour and a text, but gives neither for a minute. Says "ready" when it can be used, then "over" for each
-drag of its own that has ended, and each colour that the button takes, as four hexadecimal digits a channel.
-"""
+"""Another graphics program with boxes of 60 by 60 pixels to drag colours from: ExchangeTest.cpp says what they give."""
 import time
 
 import gi
