@@ -56,9 +56,9 @@ void RuntimeTest::start(Ref<Application> application) {
   application_->Event_Open();
 }
 
-void RuntimeTest::runUntilQuit(const std::function<void()>& first) {
+int RuntimeTest::runUntilQuit(const std::function<void()>& first) {
   QMetaObject::invokeMethod(QCoreApplication::instance(), first, Qt::QueuedConnection);
-  QCoreApplication::exec();
+  return QCoreApplication::exec();
 }
 
 void RuntimeTest::processEvents() {

@@ -38,7 +38,7 @@ TEST(RefTest, AnObjectGoesWithItsLastReference) {
   EXPECT_EQ(Thing::living, 0);
 }
 
-TEST(RefTest, AConstructorMayHandOutItsObjectAndLeavesNothingWhereItFails) {
+TEST(RefTest, AConstructorMayHandOutItsObjectOrFail) {
   Ref<Thing> handedOut;
   New<Thing>(&handedOut);
   ASSERT_EQ(Thing::living, 1);

@@ -66,6 +66,7 @@ class ThreadTest : protected Log, public RuntimeTest {
   }
 
   Ref<Host> window = New<Host>(log);
+  bool killsItself = false;
 };
 
 TEST_F(ThreadTest, DrawingIsPacedByTheFrameAndHastenedByThePointer) {
@@ -158,31 +159,41 @@ TEST_F(ThreadTest, ATimerRepeatsBeginsAfreshAndStops) {
   EXPECT_EQ(log, "ring ring ");
 }
 
-TEST_F(ThreadTest, KillUnwindsAThreadWhoseDestructorsYield) {
+TEST_F(ThreadTest, KillUnwindsAThreadWhoseDestructorsYieldWhoeverCallsIt) {
   fake().costOfLook = 1ms;
-  window->other.RunEvent = [this] {
+  const auto kill = [this] {
     window->thread.Kill();
     log += window->thread.IsRunning() ? "runs " : "ended ";
   };
-  for (const bool byThread : {false, true}) {
+  const struct {
+    const char* killer;
+    std::function<void()> kill;
+    const char* log;
+  } rows[] = {
+      {"main thread", kill, "unwound ended "},
+      {"other thread", [this] { window->other.Run(), work(); }, "unwound ended "},
+      {"nobody", [] { Scheduler::shutDown(); }, "unwound "},
+      {"itself", [this] { killsItself = true, work(); }, "unwound "},
+  };
+  window->other.RunEvent = kill;
+  window->thread.RunEvent = [this] {
+    const Mark mark{log};
+    while (!killsItself)
+      RuntimeBackgroundTask();
+    window->thread.Kill();
+  };
+  for (const auto& row : rows) {
     log.clear();
-    window->thread.RunEvent = [this] {
-      const Mark mark{log};
-      work();
-      log += "never ";
-    };
     window->thread.Run();
     fake().advance(0ms);
-    ASSERT_TRUE(window->thread.IsRunning());
-    if (byThread) {
-      window->other.Run();
-      work();
-    } else {
-      window->other.RunEvent();
-    }
-    EXPECT_EQ(log, "unwound ended ") << byThread;
+    ASSERT_TRUE(window->thread.IsRunning()) << row.killer;
+    row.kill();
+    EXPECT_EQ(log, row.log) << row.killer;
+    EXPECT_FALSE(window->thread.IsRunning() || fake().watchesPointer()) << row.killer;
   }
-  EXPECT_FALSE(fake().watchesPointer());
+  window->thread.Run();
+  kill();
+  EXPECT_EQ(log, "unwound ended ") << "it never began";
 }
 
 // Else the toolkit would go on with its half-done work at any later time, or be unwound in the middle of it.

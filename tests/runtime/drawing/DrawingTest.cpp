@@ -1,13 +1,16 @@
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdlib>
 #include <functional>
 #include <limits>
 #include <random>
 #include <tuple>
+#include <vector>
 
 #include <gtest/gtest.h>
 
+#include "runtime/drawing/Color.h"
 #include "runtime/drawing/Graphics.h"
 #include "runtime/drawing/Picture.h"
 #include "runtime/drawing/RGBSurface.h"
@@ -16,9 +19,58 @@ namespace tavrelkin {
 namespace {
 
 constexpr Color kInk{0x123456};
+constexpr Double kNaN = std::numeric_limits<Double>::quiet_NaN();
+constexpr Double kInfinity = std::numeric_limits<Double>::infinity();
 constexpr Int32 kLeast = std::numeric_limits<Int32>::min();
 constexpr Int32 kMost = std::numeric_limits<Int32>::max();
 constexpr Int32 kNatural = Graphics::kNaturalSize;
+
+// A step of 3 meets both ends of each channel.
+TEST(ColorTest, ComesBackFromItsReaders) {
+  for (Int32 red = 0; red <= 255; red += 3) {
+    for (Int32 green = 0; green <= 255; green += 3) {
+      for (Int32 blue = 0; blue <= 255; blue += 3) {
+        const Color c = RGB(red, green, blue);
+        ASSERT_EQ(HSV(readColorHue(c), readColorSaturation(c), readColorValue(c)), c) << std::hex << c.bits;
+        ASSERT_EQ(CMY(readColorCyan(c), readColorMagenta(c), readColorYellow(c)), c) << std::hex << c.bits;
+      }
+    }
+  }
+}
+
+TEST(ColorTest, ReadsHueSaturationAndValue) {
+  const struct {
+    Color color;
+    std::tuple<Double, Double, Double> parts;
+  } rows[] = {
+      {kBlack, {0, 0, 0}},
+      {RGB(51, 51, 51), {0, 0, 51 / 255.0}},
+      {RGB(255, 255, 0), {1 / 6.0, 1, 1}},
+      {RGB(0, 255, 255), {3 / 6.0, 1, 1}},
+      {RGB(255, 0, 255), {5 / 6.0, 1, 1}},
+      {RGB(200, 100, 150), {11 / 12.0, 0.5, 200 / 255.0}},
+      {RGB(0, 60, 80), {13 / 24.0, 1, 80 / 255.0}},
+  };
+  for (const auto& [c, parts] : rows)
+    EXPECT_EQ(std::tuple(readColorHue(c), readColorSaturation(c), readColorValue(c)), parts) << std::hex << c.bits;
+}
+
+TEST(ColorTest, IsBuiltFromArgumentsInAndOutOfRange) {
+  const struct {
+    Color made;
+    std::uint32_t wanted;
+  } rows[] = {
+      {HSV(1, 1, 1), 0xFF0000},         {HSV(std::nextafter(1.0, 0.0), 1, 1), 0xFF0000},
+      {HSV(0, 0.5, 1), 0xFF8080},       {HSV(0.5, 0.25, 0.5), 0x608080},
+      {HSV(kInfinity, 2, 2), 0xFF0000}, {HSV(-0.3, 1, 1), 0xFF0000},
+      {HSV(kNaN, 1, 1), 0xFF0000},      {HSV(0.3, kNaN, 1), 0xFFFFFF},
+      {HSV(0.3, 1, kNaN), 0x000000},    {CMY(0.5, 0, 1), 0x80FF00},
+      {CMY(kNaN, 7, -7), 0xFF00FF},     {RGB(999, -1, 256), 0xFF00FF},
+      {Color{0xFF123456}, 0x123456},
+  };
+  for (const auto& row : rows)
+    EXPECT_EQ(row.made.bits, row.wanted) << "row " << &row - rows;
+}
 
 // How many pixels of 10 by 10 a drawing inks.
 int inked(const std::function<void(Graphics&)>& draw) {
@@ -84,51 +136,41 @@ TEST(GraphicsTest, ALineKeepsToTheIdealOneAndIsTheSameWhereItIsCutOff) {
   }
 }
 
-TEST(GraphicsTest, APictureIsClippedAtAnyNumbersAndMayHaveItsNaturalSize) {
-  const struct {
-    Int32 x, y, width, height, sourceX, sourceY, sourceWidth, sourceHeight;
-    int drawn;
-  } rows[] = {
-      {2, 3, kNatural, kNatural, 1, 1, kNatural, kNatural, 6},
-      {0, 0, 8, kNatural, 0, 0, 2, 3, 24},
-      {0, 0, kMost, kMost, 0, 0, 4, 3, 100},
-      {kMost, kMost, kMost, kMost, kMost, kMost, kMost, kMost, 0},
-      {kLeast, 0, kMost, 3, kMost, 0, kMost, 3, 0},
-      {0, 0, 1, 1, 3, 2, kMost, kMost, 1},
-      {0, 0, kLeast, 3, 0, 0, kLeast, 3, 0},
-  };
-  const Ref<Picture> source = NewPicture(4, 3, 32);
-  source->Graphics().ForeColor = kInk;
-  source->Graphics().FillRect(0, 0, 4, 3);
-  for (const auto& [x, y, width, height, sourceX, sourceY, sourceWidth, sourceHeight, drawn] : rows) {
-    const auto draw = [&, args = std::array{x, y, width, height, sourceX, sourceY, sourceWidth, sourceHeight}](
-                          Graphics& g) { std::apply([&](auto... each) { g.DrawPicture(*source, each...); }, args); };
-    EXPECT_EQ(inked(draw), drawn) << x << " " << width << " " << sourceX << " " << sourceWidth;
-  }
-}
-
 // Against the rule itself, applied to each pixel of the destination.
-TEST(GraphicsTest, ScalingShowsForEachPixelTheSourcePixelBelowIt) {
+TEST(GraphicsTest, APictureShowsForEachPixelTheSourcePixelBelowItAtAnyNumbers) {
+  std::vector<std::array<Int32, 8>> cases{{2, 3, kNatural, kNatural, 1, 1, kNatural, kNatural},
+                                          {0, 0, kMost, kMost, 0, 0, 4, 3},
+                                          {kMost, kMost, kMost, kMost, kMost, kMost, kMost, kMost},
+                                          {kLeast, 0, kMost, 3, kMost, 0, kMost, 3},
+                                          {0, 0, 1, 1, 3, 2, kMost, kMost},
+                                          {0, 0, kLeast, 3, 0, 0, kLeast, 3}};
   std::mt19937 random(1);
   const auto between = [&random](Int32 least, Int32 most) {
     return std::uniform_int_distribution<Int32>(least, most)(random);
   };
+  for (int i = 0; i < 500; ++i)
+    cases.push_back({between(-6, 14), between(-6, 14), between(0, 20), between(0, 20), between(-3, 6), between(-3, 6),
+                     between(0, 8), between(0, 8)});
   const Ref<Picture> source = NewPicture(5, 4, 32);
   for (Int32 i = 0; i < 20; ++i)
     source->Graphics().Pixel(i % 5, i / 5, RGB(i * 10, 50, 7));
-  for (int round = 0; round < 500; ++round) {
-    const Int32 x = between(-6, 14), y = between(-6, 14), w = between(0, 20), h = between(0, 20);
-    const Int32 sx = between(-3, 6), sy = between(-3, 6), sw = between(0, 8), sh = between(0, 8);
+  // The source's place for a place of the destination on one axis, or -1.
+  const auto from = [](std::int64_t at, Int32 position, Int32 size, Int32 sourcePosition, Int32 sourceSize,
+                       int natural) {
+    const std::int64_t length = size == kNatural ? natural : size;
+    const std::int64_t sourceLength = sourceSize == kNatural ? natural : sourceSize;
+    if (at < position || at >= position + length || sourceLength < 1) return -1;
+    const std::int64_t found = sourcePosition + (at - position) * sourceLength / length;
+    return found < natural ? static_cast<Int32>(found) : -1;
+  };
+  for (const auto& [x, y, w, h, sx, sy, sw, sh] : cases) {
     const Ref<Picture> drawn = NewPicture(12, 12, 32);
     drawn->Graphics().DrawPicture(*source, x, y, w, h, sx, sy, sw, sh);
     for (Int32 i = 0; i < 144; ++i) {
-      const Int32 px = i % 12, py = i / 12;
-      const bool covered = px >= x && px < x + w && py >= y && py < y + h && sw > 0 && sh > 0;
-      const Int32 fromX = covered ? sx + (px - x) * sw / w : -1;
-      const Int32 fromY = covered ? sy + (py - y) * sh / h : -1;
-      const bool exists = fromX >= 0 && fromX < 5 && fromY >= 0 && fromY < 4;
-      const Color expected = exists ? source->Graphics().Pixel(fromX, fromY) : kWhite;
-      ASSERT_EQ(drawn->Graphics().Pixel(px, py), expected) << "round " << round << " at " << px << ", " << py;
+      const Int32 fromX = from(i % 12, x, w, sx, sw, 5), fromY = from(i / 12, y, h, sy, sh, 4);
+      const Color expected = fromX < 0 || fromY < 0 ? kWhite : source->Graphics().Pixel(fromX, fromY);
+      ASSERT_EQ(drawn->Graphics().Pixel(i % 12, i / 12), expected)
+          << x << " " << y << " " << w << " " << h << " " << sx << " " << sy << " " << sw << " " << sh << " at " << i;
     }
   }
 }
