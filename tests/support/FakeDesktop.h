@@ -15,13 +15,10 @@ namespace tavrelkin {
 // puts them, and messages are recorded in place of being shown.
 class FakeDesktop : public Desktop {
  public:
-  FakeDesktop() = default;
-
   // What the test plays.
   std::function<std::uint32_t(ScreenPoint)> screen = [](ScreenPoint) { return 0u; };
   ScreenPoint pointerAt;
   bool optionHeld = false;
-  bool readable = true;
   // What the user does in the colour dialog, given the colour that it begins at: nothing is giving up.
   std::function<std::optional<std::uint32_t>(std::uint32_t)> colourChoice = [](std::uint32_t) { return std::nullopt; };
   // What the user does in the save dialog, given the name that it begins with: a path, or nothing for giving up.
@@ -49,10 +46,10 @@ class FakeDesktop : public Desktop {
   // The time until the next alarm, or none.
   std::optional<std::chrono::nanoseconds> nextAlarm() const;
 
-  bool canReadScreen() const override { return readable; }
-  std::string whyNoScreen() const override { return readable ? "" : "The screen can't be read here."; }
+  bool canReadScreen() const override { return true; }
+  std::string whyNoScreen() const override { return {}; }
   void beginTurn() override { ++turns; }
-  std::uint32_t pixel(ScreenPoint at) override;
+  std::uint32_t pixel(ScreenPoint at) override { return screen(pixelsRead.emplace_back(at)); }
   ScreenPoint pointer() override { return pointerAt; }
   void watchPointer(std::function<void()> moved) override { moved_ = std::move(moved); }
   bool optionKey() override { return optionHeld; }
@@ -60,8 +57,13 @@ class FakeDesktop : public Desktop {
   std::chrono::nanoseconds frameInterval() const override { return frame; }
   std::unique_ptr<Alarm> newAlarm(std::function<void()> ring) override;
   void messageBox(const std::string& text) override { messages.push_back(text); }
-  std::optional<std::uint32_t> selectColor(std::uint32_t initial, const std::string& prompt) override;
-  std::optional<std::string> chooseSaveFile(const std::string& filter, const std::string& name) override;
+  std::optional<std::uint32_t> selectColor(std::uint32_t initial, const std::string& prompt) override {
+    colourPrompts.push_back(prompt);
+    return colourChoice(initial);
+  }
+  std::optional<std::string> chooseSaveFile(const std::string&, const std::string& name) override {
+    return saveChoice(saveNames.emplace_back(name));
+  }
   std::string applicationDataFolder() override { return applicationData; }
 
   // Has each look at the clock take some time, for code that works until its time is over.

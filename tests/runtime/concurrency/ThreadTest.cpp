@@ -1,8 +1,10 @@
 // When threads get their turns, and what one may do in the middle of the toolkit's and of other threads' work.
 
+#include <memory>
 #include <string>
 #include <vector>
 
+#include "runtime/concurrency/Fiber.h"
 #include "runtime/concurrency/Scheduler.h"
 #include "runtime/concurrency/Thread.h"
 #include "runtime/concurrency/Timer.h"
@@ -105,15 +107,6 @@ TEST_F(ThreadTest, DrawingIsPacedByTheFrameAndHastenedByThePointer) {
   EXPECT_EQ(turnsWithin(4, false), 1) << "the movement is not lost";
 }
 
-TEST_F(ThreadTest, AThreadThatDrawsNothingGoesOnAtOnceAfterEachTurn) {
-  int rounds = 0;
-  fake().costOfLook = 1ms;
-  repeat(window->thread, [&rounds] { ++rounds; });
-  fake().advance(0ms);
-  EXPECT_NEAR(rounds, 96, 63) << "it yields often without a look at the clock";
-  EXPECT_LE(fake().nextAlarm(), 0ms);
-}
-
 TEST_F(ThreadTest, NoThreadStarves) {
   int mine = 0, its = 0;
   repeat(window->thread, [&] { window->draw(), ++mine; });
@@ -124,17 +117,6 @@ TEST_F(ThreadTest, NoThreadStarves) {
   EXPECT_GE(mine, 9);
 }
 
-TEST_F(ThreadTest, AYieldOnTheMainThreadGivesTurnsOnlyAfterLongWork) {
-  window->thread.RunEvent = [this] { log += "turn "; };
-  window->thread.Run();
-  Scheduler::instance().beginMainTurn();
-  work();
-  EXPECT_EQ(log, "");
-  fake().costOfLook = 1ms;
-  work();
-  EXPECT_EQ(log, "turn ");
-}
-
 TEST_F(ThreadTest, AFaultInAThreadIsTold) {
   window->thread.RunEvent = [] { Ref<Host>()->Close(); };
   window->thread.Run();
@@ -142,21 +124,6 @@ TEST_F(ThreadTest, AFaultInAThreadIsTold) {
   processEvents();
   EXPECT_EQ(fake().messages.size(), 1u);
   EXPECT_FALSE(window->thread.IsRunning());
-}
-
-TEST_F(ThreadTest, ATimerRepeatsBeginsAfreshAndStops) {
-  window->timer.Action = [this] {
-    log += "ring ";
-    if (log == "ring ring ") window->timer.Mode = 0;
-  };
-  window->timer.Period = 100;
-  for (int i = 0; i < 2; ++i) {
-    window->timer.Mode = 2;
-    fake().advance(80ms);
-  }
-  EXPECT_EQ(log, "");
-  fake().advance(1000ms);
-  EXPECT_EQ(log, "ring ring ");
 }
 
 TEST_F(ThreadTest, KillUnwindsAThreadWhoseDestructorsYieldWhoeverCallsIt) {
@@ -171,11 +138,15 @@ TEST_F(ThreadTest, KillUnwindsAThreadWhoseDestructorsYieldWhoeverCallsIt) {
     const char* log;
   } rows[] = {
       {"main thread", kill, "unwound ended "},
-      {"other thread", [this] { window->other.Run(), work(); }, "unwound ended "},
+      {"other thread", [this] { window->other.Run(), work(), work(); }, "unwound ended "},
       {"nobody", [] { Scheduler::shutDown(); }, "unwound "},
       {"itself", [this] { killsItself = true, work(); }, "unwound "},
   };
-  window->other.RunEvent = kill;
+  window->other.RunEvent = [&kill] {
+    kill();
+    for (int i = 0; i < 64; ++i)
+      RuntimeBackgroundTask();
+  };
   window->thread.RunEvent = [this] {
     const Mark mark{log};
     while (!killsItself)
@@ -194,6 +165,18 @@ TEST_F(ThreadTest, KillUnwindsAThreadWhoseDestructorsYieldWhoeverCallsIt) {
   window->thread.Run();
   kill();
   EXPECT_EQ(log, "unwound ended ") << "it never began";
+}
+
+TEST(FiberTest, UnwindsItsStackWhereItIsDestroyed) {
+  auto held = std::make_shared<int>();
+  auto fiber = std::make_unique<Fiber>([&held] {
+    const auto mine = held;
+    Fiber::suspend();
+    held = nullptr;
+  });
+  fiber->resume();
+  fiber.reset();
+  EXPECT_EQ(held.use_count(), 1);
 }
 
 // Else the toolkit would go on with its half-done work at any later time, or be unwound in the middle of it.

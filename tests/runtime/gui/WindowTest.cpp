@@ -9,7 +9,6 @@
 #include "runtime/gui/Canvas.h"
 #include "runtime/gui/PushButton.h"
 #include "runtime/gui/Slider.h"
-#include "runtime/system/System.h"
 #include "support/Gestures.h"
 #include "support/RuntimeTest.h"
 
@@ -106,18 +105,6 @@ TEST_F(WindowTest, ReturnPressesTheButtonThatHasTheKeyboardAndEscapeLeavesAModal
   const Ref<Host> other = open();
   gesture::key(other->button, Qt::Key_Escape);
   EXPECT_EQ(log, "") << "no other window";
-}
-
-TEST_F(WindowTest, AnUnreadableScreenIsToldOnceInEachRunOfTheProgram) {
-  fake().readable = false;
-  for (const std::size_t run : {1u, 2u}) {
-    start(New<Application>());
-    System::Pixel(0, 0);
-    System::Pixel(1, 1);
-    EXPECT_EQ(fake().messages.size(), run - 1) << "a thread may be asking";
-    processEvents();
-    EXPECT_EQ(fake().messages.size(), run);
-  }
 }
 
 TEST_F(WindowTest, AFaultInAHandlerIsToldOnceAndEndsTheProgramWithStatusOne) {
