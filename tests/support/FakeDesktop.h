@@ -19,6 +19,7 @@ class FakeDesktop : public Desktop {
   std::function<std::uint32_t(ScreenPoint)> screen = [](ScreenPoint) { return 0u; };
   ScreenPoint pointerAt;
   bool optionHeld = false;
+  bool readable = true;
   // What the user does in the colour dialog, given the colour that it begins at: nothing is giving up.
   std::function<std::optional<std::uint32_t>(std::uint32_t)> colourChoice = [](std::uint32_t) { return std::nullopt; };
   // What the user does in the save dialog, given the name that it begins with: a path, or nothing for giving up.
@@ -46,8 +47,8 @@ class FakeDesktop : public Desktop {
   // The time until the next alarm, or none.
   std::optional<std::chrono::nanoseconds> nextAlarm() const;
 
-  bool canReadScreen() const override { return true; }
-  std::string whyNoScreen() const override { return {}; }
+  bool canReadScreen() const override { return readable; }
+  std::string whyNoScreen() const override { return readable ? "" : "The screen can't be read here."; }
   void beginTurn() override { ++turns; }
   std::uint32_t pixel(ScreenPoint at) override { return screen(pixelsRead.emplace_back(at)); }
   ScreenPoint pointer() override { return pointerAt; }

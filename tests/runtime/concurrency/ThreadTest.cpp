@@ -126,6 +126,17 @@ TEST_F(ThreadTest, AFaultInAThreadIsTold) {
   EXPECT_FALSE(window->thread.IsRunning());
 }
 
+TEST_F(ThreadTest, ATimerRepeatsUntilItIsStopped) {
+  window->timer.Action = [this] {
+    log += "ring ";
+    if (log == "ring ring ") window->timer.Mode = 0;
+  };
+  window->timer.Period = 100;
+  window->timer.Mode = 2;
+  fake().advance(1s);
+  EXPECT_EQ(log, "ring ring ");
+}
+
 TEST_F(ThreadTest, KillUnwindsAThreadWhoseDestructorsYieldWhoeverCallsIt) {
   fake().costOfLook = 1ms;
   const auto kill = [this] {

@@ -1,6 +1,7 @@
 // The controls that the toolkit has of its own: the popup menu, the slider, the label and the line.
 
 #include <string>
+#include <tuple>
 
 #include <QApplication>
 #include <QFontMetrics>
@@ -106,11 +107,14 @@ TEST_F(FieldTest, ATextThatIsTooWideIsSetNarrower) {
 TEST_F(FieldTest, ALineCoversBothItsEndsAndIsCutOffAtTheWindow) {
   window->line.LineColor = Color{0xBFBFBF};
   window->line.BorderWidth = 2;
-  window->line.draw(95, 20, 95, -9);
-  const QImage shown = window->content().grab().toImage();
-  for (int i = 0; i < 80 * 10; ++i) {
-    const QPoint at(90 + i % 10, i / 10);
-    ASSERT_EQ(shown.pixelColor(at) == QColor(0xBFBFBF), QRect(95, 0, 2, 22).contains(at)) << at.x() << ", " << at.y();
+  for (const auto& [from, to, inked] : {std::tuple{QPoint(95, 20), QPoint(95, -9), QRect(95, 0, 2, 22)},
+                                        {QPoint(130, 60), QPoint(92, 60), QRect(92, 60, 8, 2)}}) {
+    window->line.draw(from.x(), from.y(), to.x(), to.y());
+    const QImage shown = window->content().grab().toImage();
+    for (int i = 0; i < 80 * 10; ++i) {
+      const QPoint at(90 + i % 10, i / 10);
+      ASSERT_EQ(shown.pixelColor(at) == QColor(0xBFBFBF), inked.contains(at)) << at.x() << ", " << at.y();
+    }
   }
 }
 

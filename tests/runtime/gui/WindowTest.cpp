@@ -3,12 +3,14 @@
 #include <functional>
 #include <string>
 
-#include <Qt>
+#include <QWidget>
 
 #include "runtime/gui/Application.h"
 #include "runtime/gui/Canvas.h"
 #include "runtime/gui/PushButton.h"
 #include "runtime/gui/Slider.h"
+#include "runtime/qt/WindowWidget.h"
+#include "runtime/system/System.h"
 #include "support/Gestures.h"
 #include "support/RuntimeTest.h"
 
@@ -85,7 +87,8 @@ TEST_F(WindowTest, AWindowClosesOnceAndGoesOnlyAfterTheHandlerThatClosedIt) {
       {"shortcut", [](Host& host) { gesture::shortcut(host, "Cmd+W"); }, "close done gone "},
   };
   for (const auto& row : rows) {
-    row.close(*open().get());
+    Host& nobodys = *open();
+    row.close(nobodys);
     processEvents();
     EXPECT_EQ(log, row.log) << row.way;
     EXPECT_TRUE(Application::current().openWindows().empty()) << row.way;
@@ -105,6 +108,28 @@ TEST_F(WindowTest, ReturnPressesTheButtonThatHasTheKeyboardAndEscapeLeavesAModal
   const Ref<Host> other = open();
   gesture::key(other->button, Qt::Key_Escape);
   EXPECT_EQ(log, "") << "no other window";
+}
+
+TEST_F(WindowTest, TheContentHasTheWindowsSizeBelowTheMenuBar) {
+  const Ref<Host> host = open();
+  host->Height = 200;
+  processEvents();
+  const int bar = host->content().y();
+  EXPECT_GT(bar, 0);
+  EXPECT_EQ(host->content().geometry(), QRect(0, bar, 100, 200));
+  EXPECT_EQ(host->native().size(), QSize(100, 200 + bar));
+}
+
+TEST_F(WindowTest, AnUnreadableScreenIsToldOnceInEachRunOfTheProgram) {
+  fake().readable = false;
+  for (const std::size_t run : {1u, 2u}) {
+    start(New<Application>());
+    System::Pixel(0, 0);
+    System::Pixel(1, 1);
+    EXPECT_EQ(fake().messages.size(), run - 1) << "a thread may be asking";
+    processEvents();
+    EXPECT_EQ(fake().messages.size(), run);
+  }
 }
 
 TEST_F(WindowTest, AFaultInAHandlerIsToldOnceAndEndsTheProgramWithStatusOne) {
