@@ -28,12 +28,15 @@ class Host : public Window {
     button.place(50, 30, 40, 20);
     slider.ValueChanged = [this] { closeAndGoOn(); };
     button.Action = [this] { closeAndGoOn(); };
+    canvas.Open = [this] { log += "canvas "; };
+    second.Open = [this] { log += "second "; };
     canvas.MouseDown = [this](Int32, Int32) { return closeAndGoOn(); };
   }
   ~Host() override { log += "gone "; }
   void AddMenuHandlers() override {
     addMenuHandler("close", [this] { return closeAndGoOn(); });
   }
+  void Event_Open() override { log += "window "; }
   void Event_Close() override { log += "close "; }
 
   // What a handler may do that closes its window.
@@ -48,6 +51,7 @@ class Host : public Window {
   std::string& log;
   Slider slider{*this, "slider"};
   Canvas canvas{*this, "canvas"};
+  Canvas second{*this, "second"};
   PushButton button{*this, "button"};
 };
 
@@ -74,6 +78,11 @@ class WindowTest : protected Log, public RuntimeTest {
   }
 };
 
+TEST_F(WindowTest, OpenComesForTheControlsInTheirOrderThenForTheWindow) {
+  New<Host>(log);
+  EXPECT_EQ(log, "canvas second window gone ");
+}
+
 TEST_F(WindowTest, AWindowClosesOnceAndGoesOnlyAfterTheHandlerThatClosedIt) {
   const struct {
     const char* way;
@@ -92,6 +101,7 @@ TEST_F(WindowTest, AWindowClosesOnceAndGoesOnlyAfterTheHandlerThatClosedIt) {
     processEvents();
     EXPECT_EQ(log, row.log) << row.way;
     EXPECT_TRUE(Application::current().openWindows().empty()) << row.way;
+    EXPECT_FALSE(Application::current().MenuBar->Child("close")->Enabled) << row.way;
   }
 }
 
@@ -108,6 +118,14 @@ TEST_F(WindowTest, ReturnPressesTheButtonThatHasTheKeyboardAndEscapeLeavesAModal
   const Ref<Host> other = open();
   gesture::key(other->button, Qt::Key_Escape);
   EXPECT_EQ(log, "") << "no other window";
+}
+
+TEST_F(WindowTest, ACommandGoesToTheWindowThatHasComeToTheFront) {
+  const Ref<Host> first = open(), second = open();
+  first->SetFocus();
+  gesture::shortcut(*first, "Cmd+W");
+  EXPECT_FALSE(first->isOpen());
+  EXPECT_TRUE(second->isOpen());
 }
 
 TEST_F(WindowTest, TheContentHasTheWindowsSizeBelowTheMenuBar) {
