@@ -82,7 +82,7 @@ TEST_F(ThreadTest, DrawingIsPacedByTheFrameAndHastenedByThePointer) {
     fake().costOfLook = 0ms;
     window->draw();
   });
-  // Each wake-up comes a little late, as with a timer that counts in milliseconds.
+  // Time goes by as for a timer that counts in milliseconds.
   const auto turnsWithin = [&](int milliseconds, bool moving) {
     turns.clear();
     for (int i = 0; i < milliseconds; ++i) {
@@ -91,7 +91,7 @@ TEST_F(ThreadTest, DrawingIsPacedByTheFrameAndHastenedByThePointer) {
     }
     return static_cast<int>(turns.size());
   };
-  EXPECT_NEAR(turnsWithin(1000, false), 60, 1) << "no drift";
+  EXPECT_NEAR(turnsWithin(1000, false), 60, 1) << "one a frame";
   length = 50ms;
   EXPECT_GT(turnsWithin(10, false), 8) << "one right after the other";
   length = 0ms;
