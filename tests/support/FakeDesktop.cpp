@@ -33,23 +33,8 @@ void FakeDesktop::movePointer(ScreenPoint to) {
   if (moved_) moved_();
 }
 
-std::uint32_t FakeDesktop::pixel(ScreenPoint at) {
-  pixelsRead.push_back(at);
-  return screen(at);
-}
-
 std::unique_ptr<Alarm> FakeDesktop::newAlarm(std::function<void()> ring) {
   return std::make_unique<FakeAlarm>(*this, std::move(ring));
-}
-
-std::optional<std::uint32_t> FakeDesktop::selectColor(std::uint32_t initial, const std::string& prompt) {
-  colourPrompts.push_back(prompt);
-  return colourChoice(initial);
-}
-
-std::optional<std::string> FakeDesktop::chooseSaveFile(const std::string&, const std::string& name) {
-  saveNames.push_back(name);
-  return saveChoice(name);
 }
 
 FakeDesktop::FakeAlarm* FakeDesktop::next(TimePoint until) const {

@@ -15,8 +15,6 @@ namespace tavrelkin {
 // puts them, and messages are recorded in place of being shown.
 class FakeDesktop : public Desktop {
  public:
-  FakeDesktop() = default;
-
   // What the test plays.
   std::function<std::uint32_t(ScreenPoint)> screen = [](ScreenPoint) { return 0u; };
   ScreenPoint pointerAt;
@@ -52,7 +50,7 @@ class FakeDesktop : public Desktop {
   bool canReadScreen() const override { return readable; }
   std::string whyNoScreen() const override { return readable ? "" : "The screen can't be read here."; }
   void beginTurn() override { ++turns; }
-  std::uint32_t pixel(ScreenPoint at) override;
+  std::uint32_t pixel(ScreenPoint at) override { return screen(pixelsRead.emplace_back(at)); }
   ScreenPoint pointer() override { return pointerAt; }
   void watchPointer(std::function<void()> moved) override { moved_ = std::move(moved); }
   bool optionKey() override { return optionHeld; }
@@ -60,8 +58,13 @@ class FakeDesktop : public Desktop {
   std::chrono::nanoseconds frameInterval() const override { return frame; }
   std::unique_ptr<Alarm> newAlarm(std::function<void()> ring) override;
   void messageBox(const std::string& text) override { messages.push_back(text); }
-  std::optional<std::uint32_t> selectColor(std::uint32_t initial, const std::string& prompt) override;
-  std::optional<std::string> chooseSaveFile(const std::string& filter, const std::string& name) override;
+  std::optional<std::uint32_t> selectColor(std::uint32_t initial, const std::string& prompt) override {
+    colourPrompts.push_back(prompt);
+    return colourChoice(initial);
+  }
+  std::optional<std::string> chooseSaveFile(const std::string&, const std::string& name) override {
+    return saveChoice(saveNames.emplace_back(name));
+  }
   std::string applicationDataFolder() override { return applicationData; }
 
   // Has each look at the clock take some time, for code that works until its time is over.

@@ -1,13 +1,20 @@
 #include "support/Gestures.h"
 
+#include <memory>
+
+#include <QDrag>
+#include <QDropEvent>
+#include <QMimeData>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
 #include "runtime/gui/Window.h"
 #include "runtime/qt/Convert.h"
+#include "runtime/qt/Drags.h"
 #include "runtime/qt/Shortcut.h"
 #include "runtime/qt/WindowWidget.h"
+#include "support/DragGestures.h"
 
 namespace tavrelkin::gesture {
 
@@ -76,6 +83,29 @@ void closeByFrame(const Window& window) {
 void minimise(const Window& window) {
   window.native().showMinimized();
   QCoreApplication::processEvents();
+}
+
+bool drop(const RectControl& control, const DragItem& item) {
+  const std::unique_ptr<QMimeData> data = toMime(item);
+  const QPoint at(control.Width / 2, control.Height / 2);
+  QDragEnterEvent enter(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+  enter.ignore();
+  QCoreApplication::sendEvent(&control.native(), &enter);
+  if (!enter.isAccepted()) return false;
+  QDropEvent event(at, Qt::CopyAction, data.get(), Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&control.native(), &event);
+  return true;
+}
+
+// The offscreen platform takes every drag for ended at once. What was picked up is there until its deferred deletion.
+Ref<DragItem> pull(const RectControl& from, Int32 x, Int32 y, Int32 toX, Int32 toY) {
+  press(from, x, y);
+  dragTo(from, toX, toY);
+  const auto* drag = QCoreApplication::instance()->findChild<QDrag*>();
+  if (!drag) return nullptr;
+  Ref<DragItem> item = fromMime(*drag->mimeData());
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  return item;
 }
 
 }  // namespace tavrelkin::gesture

@@ -2,6 +2,8 @@
 
 #include <array>
 #include <memory>
+#include <optional>
+#include <string>
 #include <utility>
 
 #include <QApplication>
@@ -16,17 +18,14 @@ namespace {
 // One toolkit for the whole test program, since it can't be made twice. It has to go before static objects do.
 class Toolkit : public ::testing::Environment {
  public:
-  void SetUp() override {
-    application_ = std::make_unique<QApplication>(count_, arguments_.data());
-    applyLook(*application_);
-  }
+  void SetUp() override { applyLook(application_.emplace(count_, arguments_.data())); }
   void TearDown() override { application_.reset(); }
 
  private:
-  std::array<char, 5> name_{'t', 'e', 's', 't', '\0'};
+  std::string name_ = "test";
   std::array<char*, 2> arguments_{name_.data(), nullptr};
   int count_ = 1;
-  std::unique_ptr<QApplication> application_;
+  std::optional<QApplication> application_;
 };
 
 // The test library takes it over.
@@ -56,9 +55,9 @@ void RuntimeTest::start(Ref<Application> application) {
   application_->Event_Open();
 }
 
-void RuntimeTest::runUntilQuit(const std::function<void()>& first) {
+int RuntimeTest::runUntilQuit(const std::function<void()>& first) {
   QMetaObject::invokeMethod(QCoreApplication::instance(), first, Qt::QueuedConnection);
-  QCoreApplication::exec();
+  return QCoreApplication::exec();
 }
 
 void RuntimeTest::processEvents() {

@@ -22,8 +22,8 @@ class RuntimeTest : public ::testing::Test {
   // Replaces the application by another one, as the program's start does: handlers, then the first window.
   void start(Ref<Application> application);
 
-  // Runs the event loop until the program quits; `first` is called in it.
-  static void runUntilQuit(const std::function<void()>& first);
+  // Runs the event loop until the program quits, and gives its exit status; `first` is called in it.
+  static int runUntilQuit(const std::function<void()>& first);
 
   // Lets the toolkit deliver all that is waiting.
   static void processEvents();

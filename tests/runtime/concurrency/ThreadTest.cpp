@@ -1,7 +1,10 @@
-// What a thread may do in the middle of the toolkit's and of other threads' work.
+// When threads get their turns, and what one may do in the middle of the toolkit's and of other threads' work.
 
+#include <memory>
 #include <string>
+#include <vector>
 
+#include "runtime/concurrency/Fiber.h"
 #include "runtime/concurrency/Scheduler.h"
 #include "runtime/concurrency/Thread.h"
 #include "runtime/concurrency/Timer.h"
@@ -13,14 +16,18 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Writes down when it goes, which takes it some yields.
+// Yields until a turn is over, some turns long.
+void work() {
+  for (int i = 0; i < 1000; ++i)
+    RuntimeBackgroundTask();
+}
+
+// Writes down when it goes, which takes it some turns.
 struct Mark {
   std::string& log;
-  const char* text;
   ~Mark() {
-    for (int i = 0; i < 1000; ++i)
-      RuntimeBackgroundTask();
-    log += text;
+    work();
+    log += "unwound ";
   }
 };
 
@@ -32,6 +39,7 @@ class Host : public Window {
   }
   ~Host() override { log += "gone "; }
   void Event_Close() override { log += "close "; }
+  void draw() { canvas.Graphics().Pixel(0, 0, kBlack); }
 
   std::string& log;
   Canvas canvas{*this, "canvas"};
@@ -47,35 +55,139 @@ struct Log {
 
 class ThreadTest : protected Log, public RuntimeTest {
  protected:
-  // Yields until its turn is over, some turns long.
-  static void work() {
-    for (int i = 0; i < 1000; ++i)
-      RuntimeBackgroundTask();
-  }
-  void takeTurns(int count) {
-    for (int i = 0; i < count; ++i)
-      fake().advance(0ms);
+  // Has a thread do something again and again. A thread that runs is not started a second time.
+  static void repeat(Thread& thread, std::function<void()> round) {
+    thread.RunEvent = [round = std::move(round)] {
+      for (;;) {
+        round();
+        RuntimeBackgroundTask();
+      }
+    };
+    thread.Run();
+    thread.Run();
   }
 
   Ref<Host> window = New<Host>(log);
+  bool killsItself = false;
 };
 
-TEST_F(ThreadTest, KillUnwindsAThreadWhoseDestructorsYield) {
+TEST_F(ThreadTest, DrawingIsPacedByTheFrameAndHastenedByThePointer) {
+  std::vector<FakeDesktop::TimePoint> turns;
+  std::chrono::nanoseconds length = 0ms;
+  fake().frame = std::chrono::nanoseconds(16'666'667);
+  repeat(window->thread, [&] {
+    turns.push_back(fake().now());
+    fake().costOfLook = length;
+    fake().now();
+    fake().costOfLook = 0ms;
+    window->draw();
+  });
+  // Time goes by as for a timer that counts in milliseconds.
+  const auto turnsWithin = [&](int milliseconds, bool moving) {
+    turns.clear();
+    for (int i = 0; i < milliseconds; ++i) {
+      if (moving) fake().movePointer({i, i});
+      fake().advance(1ms);
+    }
+    return static_cast<int>(turns.size());
+  };
+  EXPECT_NEAR(turnsWithin(1000, false), 60, 1) << "one a frame";
+  length = 50ms;
+  EXPECT_GT(turnsWithin(10, false), 8) << "one right after the other";
+  length = 0ms;
+  EXPECT_NEAR(turnsWithin(160, false), 10, 1) << "nothing to catch up with";
+  EXPECT_NEAR(turnsWithin(100, true), 25, 1) << "at each movement, and the frame adds none";
+  for (std::size_t i = 2; i < turns.size(); ++i)
+    EXPECT_GE(turns[i] - turns[i - 1], Scheduler::kPointerGap) << i;
+  EXPECT_NEAR(turnsWithin(160, false), 10, 1) << "frame by frame again";
+
+  fake().advance(10ms);
+  EXPECT_EQ(turnsWithin(1, true), 1) << "at once";
+  EXPECT_EQ(turnsWithin(1, true), 0) << "within the gap";
+  EXPECT_EQ(turnsWithin(4, false), 1) << "the movement is not lost";
+}
+
+TEST_F(ThreadTest, NoThreadStarves) {
+  int mine = 0, its = 0;
+  repeat(window->thread, [&] { window->draw(), ++mine; });
+  repeat(window->other, [&] { window->draw(), ++its; });
+  for (int i = 0; i < 160; ++i)
+    fake().advance(1ms);
+  EXPECT_NEAR(mine, its, 1);
+  EXPECT_GE(mine, 9);
+}
+
+TEST_F(ThreadTest, AFaultInAThreadIsTold) {
+  window->thread.RunEvent = [] { Ref<Host>()->Close(); };
+  window->thread.Run();
+  fake().advance(0ms);
+  processEvents();
+  EXPECT_EQ(fake().messages.size(), 1u);
+  EXPECT_FALSE(window->thread.IsRunning());
+}
+
+TEST_F(ThreadTest, ATimerRepeatsUntilItIsStopped) {
+  window->timer.Action = [this] {
+    log += "ring ";
+    if (log == "ring ring ") window->timer.Mode = 0;
+  };
+  window->timer.Period = 100;
+  window->timer.Mode = 2;
+  fake().advance(1s);
+  EXPECT_EQ(log, "ring ring ");
+}
+
+TEST_F(ThreadTest, KillUnwindsAThreadWhoseDestructorsYieldWhoeverCallsIt) {
   fake().costOfLook = 1ms;
-  window->thread.RunEvent = [this] {
-    const Mark mark{log, "unwound "};
-    for (;;)
+  const auto kill = [this] {
+    window->thread.Kill();
+    log += window->thread.IsRunning() ? "runs " : "ended ";
+  };
+  const struct {
+    const char* killer;
+    std::function<void()> kill;
+    const char* log;
+  } rows[] = {
+      {"main thread", kill, "unwound ended "},
+      {"other thread", [this] { window->other.Run(), work(), work(); }, "unwound ended "},
+      {"nobody", [] { Scheduler::shutDown(); }, "unwound "},
+      {"itself", [this] { killsItself = true, work(); }, "unwound "},
+  };
+  window->other.RunEvent = [&kill] {
+    kill();
+    for (int i = 0; i < 64; ++i)
       RuntimeBackgroundTask();
   };
+  window->thread.RunEvent = [this] {
+    const Mark mark{log};
+    while (!killsItself)
+      RuntimeBackgroundTask();
+    window->thread.Kill();
+  };
+  for (const auto& row : rows) {
+    log.clear();
+    window->thread.Run();
+    fake().advance(0ms);
+    ASSERT_TRUE(window->thread.IsRunning()) << row.killer;
+    row.kill();
+    EXPECT_EQ(log, row.log) << row.killer;
+    EXPECT_FALSE(window->thread.IsRunning() || fake().watchesPointer()) << row.killer;
+  }
   window->thread.Run();
-  takeTurns(2);
-  EXPECT_TRUE(window->thread.IsRunning());
-  window->thread.Kill();
-  EXPECT_EQ(log, "unwound ");
-  EXPECT_FALSE(window->thread.IsRunning());
-  window->thread.Run();
-  takeTurns(1);
-  EXPECT_TRUE(window->thread.IsRunning());
+  kill();
+  EXPECT_EQ(log, "unwound ended ") << "it never began";
+}
+
+TEST(FiberTest, UnwindsItsStackWhereItIsDestroyed) {
+  auto held = std::make_shared<int>();
+  auto fiber = std::make_unique<Fiber>([&held] {
+    const auto mine = held;
+    Fiber::suspend();
+    held = nullptr;
+  });
+  fiber->resume();
+  fiber.reset();
+  EXPECT_EQ(held.use_count(), 1);
 }
 
 // Else the toolkit would go on with its half-done work at any later time, or be unwound in the middle of it.
@@ -93,8 +205,7 @@ TEST_F(ThreadTest, AThreadKeepsItsTurnWhileTheToolkitIsOnItsStack) {
     log += "never";
   };
   window->thread.Run();
-  takeTurns(1);
-  EXPECT_EQ(log, "painted shown ");
+  fake().advance(0ms);
   window->thread.Kill();
   EXPECT_EQ(log, "painted shown ");
 }
@@ -118,92 +229,28 @@ TEST_F(ThreadTest, AThreadIsSuspendedAlsoWhenAHandlerOfTheMainThreadHasGivenItsT
   EXPECT_EQ(log, "begun painted ");
 }
 
-TEST_F(ThreadTest, OneThreadKillsAnother) {
-  fake().costOfLook = 1ms;
-  window->other.RunEvent = [this] {
-    const Mark mark{log, "unwound "};
-    for (;;)
-      RuntimeBackgroundTask();
-  };
-  window->thread.RunEvent = [this] {
-    work();
-    window->other.Kill();
-    log += window->other.IsRunning() ? "runs " : "ended ";
-  };
-  window->other.Run();
-  window->thread.Run();
-  for (int i = 0; i < 100 && window->thread.IsRunning(); ++i)
-    takeTurns(1);
-  EXPECT_EQ(log, "unwound ended ");
-}
-
 // The ways in which a window closes itself while it is nobody's any more. It goes once whoever closed it is done.
 TEST_F(ThreadTest, AWindowGoesWhenItsOwnThreadOrTimerThatClosedItIsDone) {
   for (const bool byThread : {true, false}) {
-    log.clear();
     Host& host = *(window = New<Host>(log));
     log.clear();
     host.Show();
-    const auto closes = [&host] {
+    host.thread.RunEvent = [&host] {
       host.Close();
-      host.canvas.Graphics().Pixel(0, 0, kBlack);
+      host.draw();
       host.log += "done ";
     };
+    host.timer.Action = [&host] { host.thread.RunEvent(); };
     if (byThread) {
-      host.thread.RunEvent = closes;
       host.thread.Run();
     } else {
-      host.timer.Action = closes;
       host.timer.Mode = 2;
     }
     window = nullptr;
     fake().advance(1s);
     processEvents();
     EXPECT_EQ(log, "close done gone ") << byThread;
-    fake().advance(3s);
   }
-}
-
-TEST_F(ThreadTest, ThePaceHoldsWhenTurnsTakeLongAndWhenThePointerMoves) {
-  std::vector<FakeDesktop::TimePoint> turns;
-  std::chrono::nanoseconds length = 0ms;
-  window->thread.RunEvent = [&] {
-    for (;;) {
-      turns.push_back(fake().now());
-      fake().costOfLook = length;
-      fake().now();
-      fake().costOfLook = 0ms;
-      window->canvas.Graphics().Pixel(0, 0, kBlack);
-      RuntimeBackgroundTask();
-    }
-  };
-  window->thread.Run();
-  fake().advance(1ms);
-
-  // Longer than a frame: a turn right after the other, and nothing to catch up with afterwards.
-  length = 50ms;
-  fake().advance(500ms);
-  length = 0ms;
-  fake().advance(50ms);
-  turns.clear();
-  fake().advance(160ms);
-  EXPECT_EQ(turns.size(), 10u);
-
-  // A movement each millisecond: no two turns closer than the gap, and the frame adds none.
-  turns.clear();
-  for (int i = 0; i < 100; ++i) {
-    fake().movePointer({i, i});
-    fake().advance(1ms);
-  }
-  EXPECT_NEAR(static_cast<double>(turns.size()), 25, 1);
-  for (std::size_t i = 2; i < turns.size(); ++i)
-    EXPECT_GE(turns[i] - turns[i - 1], Scheduler::kPointerGap) << i;
-
-  // Still again: frame by frame.
-  fake().advance(100ms);
-  turns.clear();
-  fake().advance(160ms);
-  EXPECT_EQ(turns.size(), 10u);
 }
 
 }  // namespace

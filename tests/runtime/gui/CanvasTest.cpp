@@ -1,12 +1,15 @@
+#include <array>
+#include <cmath>
+#include <functional>
 #include <string>
-#include <utility>
-#include <vector>
 
 #include <QCoreApplication>
 #include <QDropEvent>
+#include <QImage>
 #include <QMimeData>
 #include <QWidget>
 
+#include "runtime/drawing/Picture.h"
 #include "runtime/gui/Canvas.h"
 #include "support/Gestures.h"
 #include "support/RuntimeTest.h"
@@ -14,14 +17,16 @@
 namespace tavrelkin {
 namespace {
 
+constexpr Color kGround{0xABCDEF};
+
 class Host : public Window {
  public:
   Host() : Window({.title = "Host", .width = 100, .height = 100}) {
-    BackColor = Color{0xABCDEF};
-    canvas.place(10, 10, 30, 20);
+    BackColor = kGround;
+    canvas.place(10, 10, 60, 20);
     canvas.Paint = [this](Graphics* g) {
       ++paints;
-      ground = g->Pixel(5, 5);
+      below = {g->Pixel(1, 19), g->Pixel(3, 19), g->Pixel(5, 19)};
     };
     canvas.MouseDown = [this](Int32 x, Int32 y) {
       note("down", x, y);
@@ -30,119 +35,147 @@ class Host : public Window {
     canvas.MouseDrag = [this](Int32 x, Int32 y) { note("drag", x, y); };
     canvas.MouseUp = [this](Int32 x, Int32 y) { note("up", x, y); };
     canvas.MouseMove = [this](Int32 x, Int32 y) { note("move", x, y); };
-    canvas.DropObject = [this](const Ref<DragItem>& item, Int32) { log.push_back("drop " + item->Text()); };
+    canvas.DropObject = [this](const Ref<DragItem>& item, Int32) { log += "drop " + item->Text() + " "; };
     canvas.KeyDown = [this](const String& key) {
-      log.push_back("key " + Str(AscB(key)));
+      log += Str(AscB(key)) + " ";
       return false;
     };
   }
-  void note(const char* what, Int32 x, Int32 y) {
-    log.push_back(std::string(what) + " " + std::to_string(x) + " " + std::to_string(y));
-  }
+  void note(const String& what, Int32 x, Int32 y) { log += what + " " + Str(x) + "," + Str(y) + " "; }
 
   Canvas canvas{*this, "canvas"};
   bool takes = true;
   int paints = 0;
-  Color ground;
-  std::vector<std::string> log;
+  std::array<Color, 3> below;  // what Paint found
+  String log;
 };
 
 class CanvasTest : public RuntimeTest {
  protected:
-  CanvasTest() { window->Show(); }
-  Ref<Host> window = New<Host>();
+  // What becomes of a text dropped on the canvas.
+  String drop(Qt::DropActions offered, Qt::KeyboardModifiers held) const {
+    window->log.clear();
+    QMimeData data;
+    data.setText("#FF8000");
+    QDragEnterEvent enter(QPoint(2, 2), offered, &data, Qt::LeftButton, held);
+    QCoreApplication::sendEvent(&window->canvas.native(), &enter);
+    QDropEvent drop(QPointF(2, 2), offered, &data, Qt::LeftButton, held);
+    if (enter.isAccepted()) QCoreApplication::sendEvent(&window->canvas.native(), &drop);
+    return window->log + (drop.isAccepted() && drop.dropAction() == Qt::CopyAction ? "copied" : "not copied");
+  }
+
+  // How many pixels of the screen show something else than the pixel of the canvas that they belong to.
+  int strayPixels(double scale) const {
+    processEvents();
+    const int width = qRound(60 * scale), height = qRound(20 * scale);
+    QImage shown(width, height, QImage::Format_RGB32);
+    shown.setDevicePixelRatio(scale);
+    window->canvas.native().render(&shown);
+    const auto pixelAt = [scale](int onScreen) { return static_cast<Int32>(std::ceil((onScreen + 0.5) / scale)) - 1; };
+    int count = 0;
+    for (int i = 0; i < width * height; ++i)
+      count += Color{shown.pixel(i % width, i / width)} !=
+               window->canvas.Graphics().Pixel(pixelAt(i % width), pixelAt(i / width));
+    return count;
+  }
+
+  const Ref<Host> window = New<Host>();
 };
 
-TEST_F(CanvasTest, PaintComesWithItsReasonsOnlyAndOnAnErasedSurface) {
-  EXPECT_EQ(window->paints, 1);
-  window->canvas.Graphics().Pixel(5, 5, kBlack);
-  window->canvas.native().repaint();
-  processEvents();
-  EXPECT_EQ(window->paints, 1) << "the toolkit wants pixels";
-  EXPECT_EQ(window->canvas.Graphics().Pixel(5, 5), kBlack);
-  window->canvas.Refresh(true);
-  EXPECT_EQ(window->paints, 2);
-  EXPECT_EQ(window->ground, Color{0xABCDEF});
-  window->canvas.Visible = false;
-  window->canvas.Refresh(false);
-  EXPECT_EQ(window->paints, 3);
-  window->canvas.Visible = true;
-  EXPECT_EQ(window->paints, 4);
-  window->canvas.Width = 40;
-  EXPECT_EQ(window->paints, 5);
-  EXPECT_EQ(window->canvas.Graphics().Width(), 40);
-}
-
-TEST_F(CanvasTest, OnlyAPressThatIsTakenGrantsDragAndRelease) {
-  gesture::hover(window->canvas, 3, 4);
-  gesture::press(window->canvas, 3, 4);
-  gesture::dragTo(window->canvas, -5, 200);
-  gesture::release(window->canvas, -5, 200);
-  window->takes = false;
-  gesture::click(window->canvas, 1, 1);
-  gesture::dragTo(window->canvas, 2, 2);
-  const std::vector<std::string> expected{"move 3 4", "down 3 4", "drag -5 200", "up -5 200", "down 1 1"};
-  EXPECT_EQ(window->log, expected);
-}
-
-TEST_F(CanvasTest, KeysComeAsOneByteAndTheTabulatorStillMovesOn) {
-  window->canvas.SetFocus();
-  for (const int key : {0x01000012, 0x01000014, 0x01000013, 0x01000015, 0x41, 0x01000020, 0x01000001}) {
-    gesture::key(window->canvas, key);
+TEST_F(CanvasTest, PaintComesWithItsReasonsOnlyAndFindsTheBackdropOnTheGround) {
+  // Its left half is black, its right half transparent.
+  const Ref<Picture> backdrop = NewPicture(4, 40, 32);
+  backdrop->Graphics().FillRect(0, 0, 4, 40);
+  backdrop->Mask(true)->Graphics().FillRect(0, 0, 2, 40);
+  window->canvas.Backdrop = backdrop;
+  EXPECT_EQ(window->paints, 0) << "it comes along when the canvas first shows";
+  const struct {
+    const char* reason;
+    std::function<void(Canvas&)> act;
+    int paints;
+  } rows[] = {
+      {"first shown", [this](Canvas&) { window->Show(); }, 1},
+      {"the toolkit wants pixels", [](Canvas& c) { c.native().repaint(); }, 0},
+      {"refreshed", [](Canvas& c) { c.Refresh(true); }, 1},
+      {"hidden", [](Canvas& c) { c.Visible = false; }, 0},
+      {"refreshed while hidden", [](Canvas& c) { c.Refresh(false); }, 1},
+      {"resized while hidden", [](Canvas& c) { c.Width = 30; }, 0},
+      {"shown", [](Canvas& c) { c.Visible = true; }, 1},
+      {"resized", [](Canvas& c) { c.Width = 60; }, 1},
+      {"disabled", [](Canvas& c) { c.Enabled = false; }, 1},
+      {"no backdrop", [](Canvas& c) { c.Backdrop = nullptr; }, 1},
+  };
+  for (const auto& [reason, act, paints] : rows) {
+    window->paints = 0;
+    window->canvas.Graphics().Pixel(5, 19, kWhite);
+    act(window->canvas);
+    processEvents();
+    EXPECT_EQ(window->paints, paints) << reason;
+    const Color left = window->canvas.Backdrop.get() ? kBlack : kGround;
+    EXPECT_EQ(window->below, (std::array{left, kGround, kGround})) << reason;
   }
-  const std::vector<std::string> expected{"key 28", "key 29", "key 30", "key 31", "key 97", "key 9"};
-  EXPECT_EQ(window->log, expected) << "arrows, a letter, Shift alone, the tabulator";
 }
 
-TEST_F(CanvasTest, ACommandKeyIsNoCharacter) {
+TEST_F(CanvasTest, OnlyAPressThatIsTakenGrantsDragAndReleaseUntilTheButtonIsUp) {
+  window->Show();
+  const Canvas& canvas = window->canvas;
+  for (const bool takes : {true, false}) {
+    window->takes = takes;
+    gesture::press(canvas, 3, 4);
+    gesture::dragTo(canvas, -5, 200);
+    gesture::release(canvas, -5, 200);
+    gesture::press(canvas, 1, 1);
+    gesture::hover(canvas, 2, 2);  // the release went elsewhere, to a dialog perhaps
+    gesture::release(canvas, 2, 2);
+  }
+  EXPECT_EQ(window->log, "down 3,4 drag -5,200 up -5,200 down 1,1 move 2,2 down 3,4 down 1,1 move 2,2 ");
+}
+
+TEST_F(CanvasTest, KeysComeAsOneByteUnlessTheyAreCommandsAndTheTabulatorStillMovesOn) {
+  window->Show();
   window->canvas.SetFocus();
   gesture::shortcut(window->canvas, "Cmd+]");
-  gesture::shortcut(window->canvas, "Cmd+O");
-  EXPECT_EQ(window->log, std::vector<std::string>());
+  for (const int key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down, Qt::Key_A, Qt::Key_Shift, Qt::Key_Tab})
+    gesture::key(window->canvas, key);
+  EXPECT_EQ(window->log, "28 29 30 31 97 9 ");
 }
 
-// Gives the action that the canvas agreed to, and whether the drop was taken.
-std::pair<Qt::DropAction, bool> dropText(const Canvas& canvas, Qt::DropActions offered, Qt::KeyboardModifiers held) {
-  QWidget& widget = canvas.native();
-  QMimeData data;
-  data.setText("#FF8000");
-  QDragEnterEvent enter(QPoint(2, 2), offered, &data, Qt::LeftButton, held);
-  QCoreApplication::sendEvent(&widget, &enter);
-  if (!enter.isAccepted()) return {Qt::IgnoreAction, false};
-  QDropEvent drop(QPointF(2, 2), offered, &data, Qt::LeftButton, held);
-  QCoreApplication::sendEvent(&widget, &drop);
-  return {drop.dropAction(), drop.isAccepted()};
-}
-
-TEST_F(CanvasTest, ADropIsCopiedAndNeverMoved) {
-  window->canvas.AcceptTextDrop();
-  const auto copied = std::pair(Qt::CopyAction, true);
-  EXPECT_EQ(dropText(window->canvas, Qt::CopyAction | Qt::MoveAction, Qt::NoModifier), copied);
-  EXPECT_EQ(dropText(window->canvas, Qt::CopyAction | Qt::MoveAction, Qt::ShiftModifier), copied);
-  EXPECT_EQ(window->log, std::vector<std::string>(2, "drop #FF8000"));
-}
-
-TEST_F(CanvasTest, ADisabledCanvasIsPaintedAnewAndTakesDropsAlone) {
+TEST_F(CanvasTest, ADropIsCopiedAndNeverMovedAndAllThatADisabledCanvasTakes) {
+  window->Show();
+  EXPECT_EQ(drop(Qt::CopyAction, Qt::NoModifier), "not copied");
   window->canvas.AcceptTextDrop();
   window->canvas.SetFocus();
   window->canvas.Enabled = false;
-  EXPECT_EQ(window->paints, 2);
   EXPECT_FALSE(gesture::hasKeyboard(window->canvas));
   gesture::hover(window->canvas, 1, 1);
   gesture::click(window->canvas, 1, 1);
   gesture::key(window->canvas, Qt::Key_A);
-  EXPECT_TRUE(dropText(window->canvas, Qt::CopyAction, Qt::NoModifier).second);
-  EXPECT_EQ(window->log, std::vector<std::string>{"drop #FF8000"});
+  EXPECT_EQ(window->log, "");
+  EXPECT_EQ(drop(Qt::CopyAction | Qt::MoveAction, Qt::ShiftModifier), "drop #FF8000 copied");
 }
 
-TEST_F(CanvasTest, AHandlerMayCloseTheWindow) {
-  window->canvas.MouseUp = [this](Int32, Int32) {
-    window->Close();
-    window = nullptr;
+// On a screen with more pixels than the canvas has itself.
+TEST_F(CanvasTest, ATextIsFinerThanThePixelsUntilItIsDrawnOver) {
+  window->canvas.Paint = [](Graphics* g) {
+    g->DrawRect(0, 0, 60, 20);
+    g->DrawString("#70ABFF", 5, 14);
   };
-  const Ref<Host> last = window;
-  gesture::click(last->canvas, 1, 1);
-  EXPECT_FALSE(last->isOpen());
+  window->Show();
+  EXPECT_EQ(strayPixels(1), 0);
+  for (const double scale : {1.25, 1.5, 2.0}) {
+    window->canvas.Refresh(false);
+    EXPECT_GT(strayPixels(scale), 20) << scale;
+    window->canvas.Graphics().DrawLine(0, 10, 59, 10);
+    EXPECT_EQ(strayPixels(scale), 0) << scale;
+  }
+  window->canvas.Refresh(false);
+  window->canvas.Graphics().DrawString("100.100.100", 5, 14);
+  EXPECT_GT(strayPixels(2), 20) << "the text on top";
+  window->canvas.Width = 8;
+  window->canvas.Width = 60;
+  window->canvas.Paint = nullptr;
+  window->canvas.Refresh(false);
+  EXPECT_EQ(strayPixels(2), 0) << "nothing of it is left";
 }
 
 }  // namespace

@@ -1,107 +1,166 @@
+// Windows and their controls as the user meets them, and how windows end.
+
+#include <functional>
 #include <string>
+
+#include <QWidget>
 
 #include "runtime/gui/Application.h"
 #include "runtime/gui/Canvas.h"
-#include "runtime/gui/Window.h"
+#include "runtime/gui/PushButton.h"
+#include "runtime/gui/Slider.h"
+#include "runtime/qt/WindowWidget.h"
+#include "runtime/system/System.h"
 #include "support/Gestures.h"
 #include "support/RuntimeTest.h"
 
 namespace tavrelkin {
 namespace {
 
-// A window that answers the commands it is made for and writes down what happens to it.
+// Writes down what happens to it. Its one command closes it, as do its button, its slider and its canvas.
 class Host : public Window {
  public:
-  Host(std::string& events, std::string commandNames)
-      : Window({.title = "Host", .width = 100, .height = 100}), log(events), commands(std::move(commandNames)) {
+  explicit Host(std::string& events, WindowFrame frame = WindowFrame::document)
+      : Window({.title = "Host", .width = 100, .height = 80, .frame = frame}), log(events) {
     MenuBar = Application::current().MenuBar;
+    slider.place(0, 0, 100, 20);
+    canvas.place(10, 30, 30, 20);
+    button.place(50, 30, 40, 20);
+    slider.ValueChanged = [this] { closeAndGoOn(); };
+    button.Action = [this] { closeAndGoOn(); };
+    canvas.Open = [this] { log += "canvas "; };
+    second.Open = [this] { log += "second "; };
+    canvas.MouseDown = [this](Int32, Int32) { return closeAndGoOn(); };
   }
+  ~Host() override { log += "gone "; }
   void AddMenuHandlers() override {
-    for (const char each : commands) {
-      addMenuHandler(String(1, each), [this, each] {
-        log += String("window:") + each + " ";
-        return true;
-      });
-    }
+    addMenuHandler("close", [this] { return closeAndGoOn(); });
+  }
+  void Event_Open() override { log += "window "; }
+  void Event_Close() override { log += "close "; }
+
+  // What a handler may do that closes its window.
+  bool closeAndGoOn() {
+    Close();
+    canvas.Graphics().Pixel(0, 0, kBlack);
+    button.Caption = "closed";
+    log += "done ";
+    return true;
   }
 
   std::string& log;
-  std::string commands;
+  Slider slider{*this, "slider"};
+  Canvas canvas{*this, "canvas"};
+  Canvas second{*this, "second"};
+  PushButton button{*this, "button"};
 };
 
-class Commands : public Application {
- public:
-  explicit Commands(std::string& events) : log(events) {
-    const Ref<tavrelkin::MenuBar> bar = New<tavrelkin::MenuBar>();
-    const Ref<MenuItem> menu = New<MenuItem>("menu", "Menu");
-    menu->Append(New<MenuItem>("a", "A", "Cmd+A"));
-    menu->Append(New<MenuItem>("separator", "-"));
-    menu->Append(New<MenuItem>("b", "B", "Cmd+B"));
-    menu->Append(New<MenuItem>("c", "C", "Cmd+B"));
-    bar->Append(menu);
-    MenuBar = bar;
-  }
-  void AddMenuHandlers() override {
-    addMenuHandler("a", [this] {
-      log += "application:a ";
-      return true;
-    });
-    enableMenuItems();
-  }
-  std::string& log;
-};
-
-class WindowTest : public RuntimeTest {
- protected:
-  WindowTest() { start(New<Commands>(log)); }
-  Ref<Host> open(const char* commands) {
-    Ref<Host> window = New<Host>(log, commands);
-    window->Show();
-    return window;
-  }
-  bool enabled(const char* name) { return Application::current().MenuBar->Child(name)->Enabled; }
+// Outlives the windows, which write in it to the last.
+struct Log {
   std::string log;
 };
 
-TEST_F(WindowTest, AnItemIsEnabledForTheFrontWindowOrTheApplication) {
-  EXPECT_TRUE(enabled("a"));
-  EXPECT_FALSE(enabled("b"));
-  const Ref<Host> first = open("b");
-  EXPECT_TRUE(enabled("b"));
-  const Ref<Host> second = open("c");
-  EXPECT_FALSE(enabled("b"));
-  EXPECT_TRUE(enabled("c"));
-  second->Close();
-  EXPECT_TRUE(enabled("b"));
-}
+class WindowTest : protected Log, public RuntimeTest {
+ protected:
+  WindowTest() {
+    const Ref<MenuItem> menu = New<MenuItem>("menu", "Menu");
+    menu->Append(New<MenuItem>("close", "Close", "Cmd+W"));
+    Application::current().MenuBar = New<MenuBar>();
+    Application::current().MenuBar->Append(menu);
+  }
 
-TEST_F(WindowTest, ACommandGoesToTheFrontWindowFirst) {
-  const Ref<Host> first = open("ab");
-  const Ref<Host> second = open("c");
-  log.clear();
-  gesture::shortcut(*second, "Cmd+A");
-  gesture::shortcut(*second, "Cmd+B");
-  EXPECT_EQ(log, "application:a window:c ") << "of two items with one shortcut, the enabled one";
-  log.clear();
-  first->SetFocus();
-  gesture::shortcut(*first, "Cmd+A");
-  gesture::shortcut(*first, "Cmd+B");
-  EXPECT_EQ(log, "window:a window:b ");
-}
+  // An open window, with the events so far forgotten.
+  Ref<Host> open(WindowFrame frame = WindowFrame::document) {
+    Ref<Host> window = New<Host>(log, frame);
+    window->Show();
+    log.clear();
+    return window;
+  }
+};
 
 TEST_F(WindowTest, OpenComesForTheControlsInTheirOrderThenForTheWindow) {
-  struct Opening : Window {
-    explicit Opening(std::string& events) : Window({.title = "Opening", .width = 50, .height = 50}), log(events) {
-      second.Open = [this] { log += "second "; };
-      first.Open = [this] { log += "first "; };
-    }
-    void Event_Open() override { log += "window "; }
-    std::string& log;
-    Canvas second{*this, "second"};
-    Canvas first{*this, "first"};
+  New<Host>(log);
+  EXPECT_EQ(log, "canvas second window gone ");
+}
+
+TEST_F(WindowTest, AWindowClosesOnceAndGoesOnlyAfterTheHandlerThatClosedIt) {
+  const struct {
+    const char* way;
+    std::function<void(Host&)> close;
+    const char* log;
+  } rows[] = {
+      {"frame", [](Host& host) { gesture::closeByFrame(host); }, "close gone "},
+      {"button", [](Host& host) { gesture::click(host.button, 5, 5); }, "close done gone "},
+      {"mouse", [](Host& host) { gesture::press(host.canvas, 5, 5); }, "close done gone "},
+      {"slider", [](Host& host) { gesture::key(host.slider, Qt::Key_Right); }, "close done gone "},
+      {"shortcut", [](Host& host) { gesture::shortcut(host, "Cmd+W"); }, "close done gone "},
   };
-  New<Opening>(log);
-  EXPECT_EQ(log, "second first window ");
+  for (const auto& row : rows) {
+    Host& nobodys = *open();
+    row.close(nobodys);
+    processEvents();
+    EXPECT_EQ(log, row.log) << row.way;
+    EXPECT_TRUE(Application::current().openWindows().empty()) << row.way;
+    EXPECT_FALSE(Application::current().MenuBar->Child("close")->Enabled) << row.way;
+  }
+}
+
+TEST_F(WindowTest, ReturnPressesTheButtonThatHasTheKeyboardAndEscapeLeavesAModalWindowThatMayOpenAgain) {
+  const Ref<Host> modal = open(WindowFrame::movableModal);
+  modal->button.TabStop = true;
+  modal->button.Action = [this] { log += "pressed "; };
+  gesture::key(modal->button, Qt::Key_Return);
+  gesture::key(modal->button, Qt::Key_Escape);
+  EXPECT_FALSE(modal->isOpen());
+  modal->Show();
+  modal->Close();
+  EXPECT_EQ(log, "pressed close close ");
+  const Ref<Host> other = open();
+  gesture::key(other->button, Qt::Key_Escape);
+  EXPECT_EQ(log, "") << "no other window";
+}
+
+TEST_F(WindowTest, ACommandGoesToTheWindowThatHasComeToTheFront) {
+  const Ref<Host> first = open(), second = open();
+  first->SetFocus();
+  gesture::shortcut(*first, "Cmd+W");
+  EXPECT_FALSE(first->isOpen());
+  EXPECT_TRUE(second->isOpen());
+}
+
+TEST_F(WindowTest, TheContentHasTheWindowsSizeBelowTheMenuBar) {
+  const Ref<Host> host = open();
+  host->Height = 200;
+  processEvents();
+  const int bar = host->content().y();
+  EXPECT_GT(bar, 0);
+  EXPECT_EQ(host->content().geometry(), QRect(0, bar, 100, 200));
+  EXPECT_EQ(host->native().size(), QSize(100, 200 + bar));
+}
+
+TEST_F(WindowTest, AnUnreadableScreenIsToldOnceInEachRunOfTheProgram) {
+  fake().readable = false;
+  for (const std::size_t run : {1u, 2u}) {
+    start(New<Application>());
+    System::Pixel(0, 0);
+    System::Pixel(1, 1);
+    EXPECT_EQ(fake().messages.size(), run - 1) << "a thread may be asking";
+    processEvents();
+    EXPECT_EQ(fake().messages.size(), run);
+  }
+}
+
+TEST_F(WindowTest, AFaultInAHandlerIsToldOnceAndEndsTheProgramWithStatusOne) {
+  const Ref<Host> host = open(), other = open();
+  host->button.Action = [] { Ref<Host>()->Close(); };
+  const int status = runUntilQuit([&] {
+    gesture::click(host->button, 5, 5);
+    gesture::click(host->button, 5, 5);
+    gesture::closeByFrame(*other);
+  });
+  EXPECT_EQ(status, 1);
+  EXPECT_EQ(log, "") << "no handler is entered after a fault";
+  EXPECT_EQ(fake().messages.size(), 1u);
 }
 
 }  // namespace
