@@ -1,8 +1,8 @@
 #include "simulator/frmColorBlind.h"
 
-#include "app/menubar/MenuBar1.h"
 #include "color/zrColorLib.h"
 #include "color/zrXYZ.h"
+#include "menubar/MenuBar1.h"
 #include "runtime/gui/Application.h"
 #include "runtime/gui/Clipboard.h"
 #include "runtime/gui/MsgBox.h"

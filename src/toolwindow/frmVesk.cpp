@@ -2,7 +2,7 @@
 
 #include <initializer_list>
 
-#include "app/menubar/MenuBar1.h"
+#include "menubar/MenuBar1.h"
 #include "runtime/gui/Application.h"
 #include "tables/zrPixMap.h"
 #include "toolwindow/WebSafeBadge.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "app/menubar/MenuBar1.h"
 #include "favourites/frmFav.h"
+#include "menubar/MenuBar1.h"
 #include "support/Gestures.h"
 #include "support/RuntimeTest.h"
 

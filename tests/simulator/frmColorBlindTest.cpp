@@ -1,7 +1,7 @@
 #include <initializer_list>
 
-#include "app/menubar/MenuBar1.h"
 #include "color/zrXYZ.h"
+#include "menubar/MenuBar1.h"
 #include "runtime/gui/Clipboard.h"
 #include "simulator/frmColorBlind.h"
 #include "support/Gestures.h"

@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "app/menubar/MenuBar1.h"
+#include "menubar/MenuBar1.h"
 
 namespace tavrelkin {
 
