@@ -130,7 +130,7 @@ class frmVesk : public Window {
   Timer rTIP_Timer{*this, "rTIP_Timer"};
 
  private:
-  class PreviewAccess;
+  class PreviewAccessible;
 
   void layOut();
   void styleTexts();
