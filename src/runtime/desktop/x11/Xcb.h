@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 
 #include <xcb/xcb.h>
 
@@ -26,6 +28,13 @@ template <class Reply, class Cookie>
 XcbPtr<Reply> await(xcb_connection_t* connection, Cookie cookie,
                     Reply* (*reply)(xcb_connection_t*, Cookie, xcb_generic_error_t**)) {
   return XcbPtr<Reply>(reply(connection, cookie, nullptr));
+}
+
+// The server's number for a name; XCB_ATOM_NONE where the connection is broken.
+inline xcb_atom_t atom(xcb_connection_t* connection, std::string_view name) {
+  const auto length = static_cast<std::uint16_t>(name.size());
+  const auto reply = await(connection, xcb_intern_atom(connection, 0, length, name.data()), xcb_intern_atom_reply);
+  return reply ? reply->atom : xcb_atom_t{XCB_ATOM_NONE};
 }
 
 }  // namespace tavrelkin
