@@ -103,7 +103,7 @@ bool Selection::isConverted(xcb_atom_t target) {
   if (Clock::now() >= end_) return false;
   xcb_convert_selection(connection_.get(), window_, name_, target, property_, time_);
   const auto event = waitFor([&](const xcb_generic_event_t& candidate) {
-    if ((candidate.response_type & 0x7F) != XCB_SELECTION_NOTIFY) return false;
+    if (kindOf(candidate) != XCB_SELECTION_NOTIFY) return false;
     const auto& answer = reinterpret_cast<const xcb_selection_notify_event_t&>(candidate);
     return answer.selection == name_ && answer.target == target;
   });
@@ -126,7 +126,7 @@ bool Selection::takeAll(std::string& to) {
 
 bool Selection::waitForPart() {
   const auto event = waitFor([&](const xcb_generic_event_t& candidate) {
-    if ((candidate.response_type & 0x7F) != XCB_PROPERTY_NOTIFY) return false;
+    if (kindOf(candidate) != XCB_PROPERTY_NOTIFY) return false;
     const auto& change = reinterpret_cast<const xcb_property_notify_event_t&>(candidate);
     return change.atom == property_ && change.state == XCB_PROPERTY_NEW_VALUE;
   });

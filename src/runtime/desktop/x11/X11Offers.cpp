@@ -38,7 +38,7 @@ bool X11Offers::nativeEventFilter(const QByteArray&, void* message, qintptr*) {
   constexpr int kSource = 0;  // where the messages of the XDND protocol have it
   constexpr int kTime = 2;
   const auto& event = *static_cast<const xcb_generic_event_t*>(message);
-  if ((event.response_type & 0x7F) != XCB_CLIENT_MESSAGE) return false;
+  if (kindOf(event) != XCB_CLIENT_MESSAGE) return false;
   const auto& told = reinterpret_cast<const xcb_client_message_event_t&>(event);
   if (told.format != 32) return false;
   if (told.type == dropMessage_) dropTime_ = told.data.data32[kTime];

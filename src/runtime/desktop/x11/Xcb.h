@@ -22,6 +22,11 @@ struct XcbFree {
 template <class T>
 using XcbPtr = std::unique_ptr<T, XcbFree>;
 
+// The number of an event's kind, less the bit that tells whether another client has sent it.
+inline int kindOf(const xcb_generic_event_t& event) {
+  return event.response_type & 0x7F;
+}
+
 // Waits for the reply to a request. Nil where the server answered with an error, and where the connection is broken.
 // `reply` is the function that XCB has for this request, `xcb_query_pointer_reply` and so on.
 template <class Reply, class Cookie>
