@@ -62,8 +62,8 @@ bool getColorFromString(const String& text, Color& out) {
 }
 
 Color getColorFromDrop(const Ref<DragItem>& item) {
-  if (!item || !item->MacDataAvailable("hcol")) return kBlack;
-  return getColorFromRGB(item->MacData("hcol"));
+  if (!item || !item->MacDataAvailable(kColourData)) return kBlack;
+  return getColorFromRGB(item->MacData(kColourData));
 }
 
 bool getColorFromTextDrop(const Ref<DragItem>& item, Color& out) {
