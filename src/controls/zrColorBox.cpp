@@ -20,7 +20,7 @@ void zrColorBox::Event_Open() {
 void zrColorBox::SetValue(Color c) {
   Value = c;
   DrawBox();
-  HelpTag = "Color: " + Str(c.red()) + "." + Str(c.green()) + "." + Str(c.blue()) + ", #" + getHexStr(c);
+  HelpTag = "Color: " + getDottedStr(c) + ", #" + getHexStr(c);
   announce(AccessibleChange::description);
 }
 
