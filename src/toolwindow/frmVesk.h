@@ -133,6 +133,9 @@ class frmVesk : public Window {
   class PreviewAccessible;
 
   void layOut();
+  // Who takes the keyboard by the tabulator key, and in which order.
+  void orderTabs();
+  void dress();
   void styleTexts();
   void wire();
   // What the controls are called where they don't show it.
