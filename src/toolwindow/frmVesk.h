@@ -143,8 +143,8 @@ class frmVesk : public Window {
 
   // The item of that name in the window's menu bar.
   MenuItem& menuItem(const char* name) const;
-  // The common end of the three commands that choose what the preview shows.
-  void showChosenView();
+  // Shows a view in place of the screen, by its flag, or ends it where it is shown. It takes the place of another one.
+  void toggleView(bool& shown);
   // Ends the two views that a look at the screen replaces.
   void leaveColourViews();
   // The end of a choice in the preview.
