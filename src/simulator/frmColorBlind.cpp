@@ -50,7 +50,7 @@ void frmColorBlind::layOut() {
   };
   for (const Place& at : places)
     at.control.place(at.left, at.top, at.width, at.height);
-  Line1.draw(-1, 81, 430, 81);
+  Line1.setPoints(-1, 81, 430, 81);
 }
 
 void frmColorBlind::styleTexts() {

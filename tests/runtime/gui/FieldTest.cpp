@@ -171,7 +171,7 @@ TEST_F(FieldTest, ALineCoversBothItsEndsAndIsCutOffAtTheWindow) {
   };
   for (const auto& row : rows) {
     window->line.BorderWidth = row.width;
-    window->line.draw(row.x1, row.y1, row.x2, row.y2);
+    window->line.setPoints(row.x1, row.y1, row.x2, row.y2);
     const QImage picture = shown();
     for (int y = 0; y < 80; ++y) {
       for (int x = 85; x < 100; ++x) {
