@@ -34,6 +34,7 @@ class frmVesk : public Window {
   // The latest sample of the screen, a pixel for a pixel. Replaced by each sample, never edited by anyone else.
   Ref<Picture> zoomImage;
   Color SelectedColor;
+  // Part of the class, but neither read nor written.
   bool flgShowCoordinates = false;
   // Whether the window follows the pointer: the condition of the tracking loop.
   bool flgTrackMouse = false;
@@ -42,6 +43,7 @@ class frmVesk : public Window {
   Int32 varLastX = 0;
   bool flgLockY = false;
   Int32 varLastY = 0;
+  // Whether the grid lies over the preview.
   bool flgDrawGuide = false;
   // The grid as an overlay with a mask.
   Ref<Picture> gridImage;

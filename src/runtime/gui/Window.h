@@ -41,7 +41,7 @@ class Window : public Object {
   Property<String> Title;
   Property<Int32> Width;
   Property<Int32> Height;
-  // The colour of the content where no control is. The platform's own at first.
+  // The colour of the content where no control is. FillColor() of ThemeColors.h at first.
   Property<Color> BackColor;
   Property<Ref<tavrelkin::MenuBar>> MenuBar;
 
