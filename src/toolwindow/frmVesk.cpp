@@ -129,6 +129,7 @@ void frmVesk::wire() {
   imgScreen.MouseDrag = [this](Int32 x, Int32 y) { imgScreen_MouseDrag(x, y); };
   imgScreen.MouseUp = [this](Int32 x, Int32 y) { imgScreen_MouseUp(x, y); };
   imgScreen.MouseMove = [this](Int32 x, Int32 y) { imgScreen_MouseMove(x, y); };
+  imgScreen.KeyDown = [this](const String& key) { return imgScreen_KeyDown(key); };
   imgScreen.Paint = [this](Graphics* g) { imgScreen_Paint(g); };
   DisclosureTriangle1.Action = [this] { DisclosureTriangle1_Action(); };
   for (zrColorCHBar& bar : cmdMixer) {

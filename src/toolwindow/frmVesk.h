@@ -140,7 +140,7 @@ class frmVesk : public Window {
   void dress();
   void styleTexts();
   void wire();
-  // What the controls are called where they don't show it.
+  // What the controls are called where they don't show it, and how the preview presents itself.
   void nameControls();
 
   // The item of that name in the window's menu bar.

@@ -54,7 +54,6 @@ class frmVesk::PreviewAccessible : public Accessible {
 void frmVesk::nameControls() {
   shownView_ = kScreenView;
   imgScreen.describe(std::make_unique<PreviewAccessible>(*this));
-  imgScreen.KeyDown = [this](const String& key) { return imgScreen_KeyDown(key); };
   cmdColor.AccessibleName = "Color";
   imgWebSafe.AccessibleName = "Not web-safe";
   cmdMakeWebSafe.AccessibleName = "Make web-safe";
