@@ -6,8 +6,8 @@
 
 #include <sys/prctl.h>
 
-#include "FollowBench.h"
-#include "StartBench.h"
+#include "bench/FollowBench.h"
+#include "bench/StartBench.h"
 
 int main() {
   prctl(PR_SET_TIMERSLACK, 1);  // the pauses between two looks at the screen are shorter than the usual slack

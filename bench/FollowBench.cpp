@@ -6,7 +6,7 @@
 // different, and the cell inside the marker is watched for the new one. Processor time is taken from the kernel's books
 // while nobody watches the screen.
 
-#include "FollowBench.h"
+#include "bench/FollowBench.h"
 
 #include <algorithm>
 #include <chrono>

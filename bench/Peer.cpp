@@ -1,4 +1,4 @@
-#include "Peer.h"
+#include "bench/Peer.h"
 
 #include <chrono>
 #include <filesystem>

@@ -12,7 +12,7 @@
 
 #include <sys/prctl.h>
 
-#include "Peer.h"
+#include "bench/Peer.h"
 #include "bench/support/Circles.h"
 #include "bench/support/Figures.h"
 #include "e2e/support/ToolWindow.h"

@@ -4,10 +4,9 @@
 // still be empty. The screen is looked at every tenth of a millisecond. Memory is read as soon as the process has come
 // to rest; only one of the two runs at a time, so that neither shares its libraries with the other.
 
-#include "StartBench.h"
+#include "bench/StartBench.h"
 
 #include <chrono>
-#include <optional>
 #include <stdexcept>
 #include <string>
 #include <thread>

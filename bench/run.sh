@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the release with the benchmarks, measures, and writes the machine and its figures to docs/figures.md. Installs
-# what that takes, but none of the other programs that it measures where they are. Some five minutes, in which the machine
-# should have nothing else to do.
+# what that takes, but none of the other programs that it measures where they are. Takes some five minutes, in which the
+# machine should have nothing else to do.
 set -euo pipefail
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
 # shellcheck source=scripts/packages.sh

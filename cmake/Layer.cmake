@@ -1,8 +1,8 @@
 # tavrelkin_layer(NAME FOLDER folder SOURCES ... [USES layers ...] [PRIVATE_LIBRARIES libraries ...])
 #
-# One static library for one folder below src/. Includes are written from src/ ("runtime/drawing/Color.h"), but src/ itself is
-# on no include path: each layer sees a folder of links to itself and to the layers that it USES, so that an include
-# that goes upwards, or past a layer, does not compile.
+# One static library for one folder below src/. Includes are written from src/ ("runtime/drawing/Color.h"), but src/
+# itself is on no include path: each layer sees a folder of links to itself and to the layers that it USES, so that an
+# include that goes upwards, or past a layer, does not compile.
 function(tavrelkin_layer name)
   cmake_parse_arguments(LAYER "" "FOLDER" "SOURCES;USES;PRIVATE_LIBRARIES" ${ARGN})
   add_library(${name} STATIC ${LAYER_SOURCES})

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Configuring and building the presets. Sourced by the scripts in the root, which set `root` to the source folder.
+# Configuring the presets. Sourced by the scripts that build, which set `root` to the source folder.
 : "${root:?}"
 
 # configure PRESET [argument ...]: (re)configures build/PRESET. A build folder that was copied or moved here from

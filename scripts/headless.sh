@@ -1,6 +1,6 @@
 # shellcheck shell=bash
 # A display for machines without one: a virtual X server, a window manager and a colourful desktop, which last as long
-# as the program. Sourced by run.sh and docs/screenshots.sh, which set `root` to the source folder.
+# as the program. Sourced by run.sh, docs/screenshots.sh and packaging/check.sh, which set `root` to the source folder.
 : "${root:?}"
 
 headless_temp=

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# The Debian 12 packages that each purpose needs, and their installation. Sourced by the scripts in the root.
+# The Debian 12 packages that each purpose needs, and their installation. Sourced by all scripts that need some.
 
 packages_for() {
   case $1 in

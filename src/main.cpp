@@ -1,5 +1,5 @@
 #include "app/App.h"
-#include "runtime/gui/Runtime.h"
+#include "runtime/Runtime.h"
 
 int main() {
   tavrelkin::Runtime runtime(":/icon");

@@ -5,7 +5,7 @@
 #include <memory>
 #include <utility>
 
-#include "runtime/gui/Runtime.h"
+#include "runtime/Runtime.h"
 
 namespace tavrelkin {
 

@@ -1,9 +1,9 @@
 #include "app/App.h"
 
 #include "app/frmAbout.h"
-#include "app/menubar/MenuBar1.h"
 #include "color/zrColorLib.h"
 #include "favourites/frmFav.h"
+#include "menubar/MenuBar1.h"
 #include "runtime/files/SpecialFolder.h"
 #include "simulator/frmColorBlind.h"
 #include "toolwindow/frmVesk.h"

@@ -47,7 +47,7 @@ String colourInWords(Color c) {
 }
 
 String colourInWordsAndNumbers(Color c) {
-  return colourInWords(c) + ", " + Str(c.red()) + "." + Str(c.green()) + "." + Str(c.blue()) + ", #" + getHexStr(c);
+  return colourInWords(c) + ", " + getDottedStr(c) + ", #" + getHexStr(c);
 }
 
 }  // namespace tavrelkin

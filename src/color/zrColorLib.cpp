@@ -25,6 +25,10 @@ String getRGBStr(Color c) {
   return Str(c.red()) + ", " + Str(c.green()) + ", " + Str(c.blue());
 }
 
+String getDottedStr(Color c) {
+  return Str(c.red()) + "." + Str(c.green()) + "." + Str(c.blue());
+}
+
 String getHexStr(Color c) {
   return hexPair(c.red()) + hexPair(c.green()) + hexPair(c.blue());
 }
@@ -33,8 +37,8 @@ String getStdColorString(Color c) {
   const Int32 hue = toInt32(readColorHue(c) * 360.0);
   const Int32 saturation = toInt32(readColorSaturation(c) * 100.0);
   const Int32 value = toInt32(readColorValue(c) * 100.0);
-  return "Color: " + Str(c.red()) + "." + Str(c.green()) + "." + Str(c.blue()) + ", " + Str(hue) + "." +
-         Str(saturation) + "." + Str(value) + ", #" + getHexStr(c);
+  return "Color: " + getDottedStr(c) + ", " + Str(hue) + "." + Str(saturation) + "." + Str(value) + ", #" +
+         getHexStr(c);
 }
 
 Color getColorFromHex(const String& text) {
@@ -62,8 +66,8 @@ bool getColorFromString(const String& text, Color& out) {
 }
 
 Color getColorFromDrop(const Ref<DragItem>& item) {
-  if (!item || !item->MacDataAvailable("hcol")) return kBlack;
-  return getColorFromRGB(item->MacData("hcol"));
+  if (!item || !item->MacDataAvailable(kColourData)) return kBlack;
+  return getColorFromRGB(item->MacData(kColourData));
 }
 
 bool getColorFromTextDrop(const Ref<DragItem>& item, Color& out) {

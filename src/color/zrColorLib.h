@@ -15,6 +15,8 @@ void InitializeSupport();
 
 // "255, 128, 0". Also the payload of the private drag type "hcol".
 String getRGBStr(Color c);
+// "255.128.0".
+String getDottedStr(Color c);
 // "FF8000".
 String getHexStr(Color c);
 // "Color: 255.128.0, 30.100.100, #FF8000": the channels, hue in degrees, saturation and value in percent, all cut down

@@ -11,6 +11,10 @@ namespace tavrelkin {
 // made for one update or one paint and costs a few calls of Pow. To work at another gamma than 2.2, write `gamma` and
 // call XYZFromRGB again.
 //
+// The colours that a dichromat can't tell apart lie on a line of the chromaticity diagram, and all these lines meet in
+// one point. Of its line a colour becomes that on the axis of the colours that remain, as bright as before; and this is
+// drawn towards white by as much as brings a channel to the edge of what the display shows.
+//
 // A deficiency is an index: 0 "Protanopia", 1 "Deutanopia", 2 "Tritanopia". It selects the entry of each table below.
 // Nothing here checks its numbers. Infinities and what is no number go through, and end in channels of 0 to 255.
 class zrXYZ {
@@ -41,7 +45,7 @@ class zrXYZ {
   Double y = 0;
   Double z = 0;
 
-  // Where the lines of confusion meet: u and v.
+  // Where the lines of confusion meet: u and v, which are the x and y of the CIE diagram of 1931, here and below.
   std::array<std::array<Double, 2>, 3> confusionPoints{};
 
   // Part of the class, but neither filled nor read: the conversions have their factors written into them.

@@ -3,7 +3,8 @@
 #include "runtime/base/Number.h"
 
 // Where the indicator of a bar stands for a value, and which value a position stands for. The three are no inverses of
-// each other: each belongs to the gestures that its comment names. Widths and positions are in pixels.
+// each other: each belongs to the gestures that its comment names. Widths and positions are in pixels. No number is
+// refused: where there is nothing to divide by, toInt32 makes the best of it.
 namespace tavrelkin::BarPosition {
 
 // The columns between which the hand can move the indicator.

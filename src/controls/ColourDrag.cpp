@@ -4,19 +4,13 @@
 
 namespace tavrelkin::ColourDrag {
 
-namespace {
-
-constexpr auto kType = "hcol";
-
-}  // namespace
-
 void accept(RectControl& control) {
   acceptPrivate(control);
   control.AcceptTextDrop();
 }
 
 void acceptPrivate(RectControl& control) {
-  control.AcceptMacDataDrop(kType);
+  control.AcceptMacDataDrop(kColourData);
 }
 
 bool take(const Ref<DragItem>& item, Color& c) {
@@ -24,7 +18,7 @@ bool take(const Ref<DragItem>& item, Color& c) {
 }
 
 bool takePrivate(const Ref<DragItem>& item, Color& c) {
-  if (!item->MacDataAvailable(kType)) return false;
+  if (!item->MacDataAvailable(kColourData)) return false;
   c = getColorFromDrop(item);
   return true;
 }
@@ -33,7 +27,7 @@ void begin(RectControl& control, Color c, Int32 x, Int32 y, Int32 outline) {
   const Int32 reach = outline / 2;
   const Ref<DragItem> item =
       control.NewDragItem(control.Left + (x - reach), control.Top + (y - reach), outline, outline);
-  item->MacData(kType, getRGBStr(c));
+  item->MacData(kColourData, getRGBStr(c));
   item->SetText("#" + getHexStr(c));
   item->Drag();
 }

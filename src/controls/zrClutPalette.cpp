@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "controls/Access.h"
+#include "controls/Accessibles.h"
 #include "controls/ColourDrag.h"
 
 namespace tavrelkin {
@@ -16,7 +16,7 @@ constexpr Double kDragStart = 6.0;
 }  // namespace
 
 zrClutPalette::zrClutPalette(Window& owner, String name) : Canvas(owner, std::move(name)) {
-  describe(accessTo(*this));
+  describe(accessibleOf(*this));
 }
 
 void zrClutPalette::Event_Open() {

@@ -18,6 +18,7 @@ class zrClutPalette : public Canvas {
   Ref<zrClut> TheClut;
   // The index of the selected cell, -1 for none.
   Int32 Selected = 0;
+  // Part of the class, but neither read nor written.
   Int32 f = 0;
   // What Selected was before the last click.
   Int32 LastSelection = 0;

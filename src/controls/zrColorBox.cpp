@@ -3,14 +3,14 @@
 #include <utility>
 
 #include "color/zrColorLib.h"
-#include "controls/Access.h"
+#include "controls/Accessibles.h"
 #include "controls/ColourDrag.h"
 #include "runtime/system/Keyboard.h"
 
 namespace tavrelkin {
 
 zrColorBox::zrColorBox(Window& owner, String name) : Canvas(owner, std::move(name)) {
-  describe(accessTo(*this));
+  describe(accessibleOf(*this));
 }
 
 void zrColorBox::Event_Open() {
@@ -20,7 +20,7 @@ void zrColorBox::Event_Open() {
 void zrColorBox::SetValue(Color c) {
   Value = c;
   DrawBox();
-  HelpTag = "Color: " + Str(c.red()) + "." + Str(c.green()) + "." + Str(c.blue()) + ", #" + getHexStr(c);
+  HelpTag = "Color: " + getDottedStr(c) + ", #" + getHexStr(c);
   announce(AccessibleChange::description);
 }
 

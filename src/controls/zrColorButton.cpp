@@ -4,7 +4,7 @@
 
 #include <utility>
 
-#include "controls/Access.h"
+#include "controls/Accessibles.h"
 #include "controls/ColourDrag.h"
 #include "runtime/gui/SelectColor.h"
 #include "runtime/system/Keyboard.h"
@@ -12,7 +12,7 @@
 namespace tavrelkin {
 
 zrColorButton::zrColorButton(Window& owner, String name) : Canvas(owner, std::move(name)) {
-  describe(accessTo(*this));
+  describe(accessibleOf(*this));
 }
 
 void zrColorButton::Event_Open() {

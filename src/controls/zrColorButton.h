@@ -14,12 +14,14 @@ class zrColorButton : public Canvas {
 
   // The colour shown.
   Color Value;
+  // Part of the class, but neither read nor written: this and the next four.
   String Label;
   Int32 ButtonOffsetX = 0;
   Int32 wBuff = 0;
   Int32 hBuff = 0;
   Int32 tw = 0;
-  // 0 with the pointer outside, 1 with the pointer inside.
+  // 0 with the pointer outside, 1 with the pointer inside. At 2 and 3, which nothing here sets, the pointer raises
+  // Action when it leaves.
   Int32 State = 0;
   // A picture beside the swatch, or nil.
   Ref<Picture> Icon;
@@ -39,6 +41,7 @@ class zrColorButton : public Canvas {
   Event<void()> Action;
   // A click on the swatch, ahead of the dialog: true skips it.
   Event<bool()> BeforeSelectColor;
+  // Never raised.
   Event<bool()> ShowCMM;
   // A drop has changed Value.
   Event<void()> Change;
@@ -64,6 +67,7 @@ class zrColorButton : public Canvas {
   virtual void setColorFormat(Int32 format);
 
  protected:
+  // Part of the class, but neither read nor written.
   bool depressed = false;
 
   virtual void drawBevel(tavrelkin::Graphics& g);

@@ -1,5 +1,6 @@
 // How the button looks.
 
+#include "color/zrColorLib.h"
 #include "controls/zrColorButton.h"
 #include "runtime/gui/ThemeColors.h"
 
@@ -63,17 +64,12 @@ String zrColorButton::valueText() const {
     case 3:
       return "#" + intGetHexValue();
     default:
-      return Str(Value.red()) + "." + Str(Value.green()) + "." + Str(Value.blue());
+      return getDottedStr(Value);
   }
 }
 
 String zrColorButton::intGetHexValue() const {
-  String digits;
-  for (const Int32 channel : {Value.red(), Value.green(), Value.blue()}) {
-    const String number = Hex(channel);
-    digits += Len(number) < 2 ? "0" + number : number;
-  }
-  return Uppercase(digits);
+  return getHexStr(Value);
 }
 
 void zrColorButton::DrawMainBTTN(tavrelkin::Graphics& g, bool pressed) {

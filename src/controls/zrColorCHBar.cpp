@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "controls/Access.h"
+#include "controls/Accessibles.h"
 #include "controls/BarPosition.h"
 #include "controls/ColorChannel.h"
 #include "controls/ColourDrag.h"
@@ -20,7 +20,7 @@ constexpr Int32 kWebSafeStep = 51;
 
 zrColorCHBar::zrColorCHBar(Window& owner, String name, Int32 index) : Canvas(owner, std::move(name)) {
   Index = index;
-  describe(accessTo(*this));
+  describe(accessibleOf(*this));
 }
 
 void zrColorCHBar::Event_Open() {

@@ -15,9 +15,11 @@ class zrColorCHBar : public Canvas {
   Int32 Minimum = 0;
   // The channel's value, 0 to 255 for every channel.
   Int32 Value = 0;
+  // Part of the class, but neither read nor written.
   Int32 ColorChannel = 0;
   // The column of the indicator's centre.
   Int32 Lastx = 6;
+  // Part of the class, but neither read nor written.
   Int32 arrowLastX = 0;
   // The colour that the bar edits.
   Color propBaseColor;

@@ -2,8 +2,8 @@
 
 #include "favourites/frmFav.h"
 
-#include "app/menubar/MenuBar1.h"
 #include "color/zrColorLib.h"
+#include "menubar/MenuBar1.h"
 #include "runtime/gui/Clipboard.h"
 
 namespace tavrelkin {

@@ -35,6 +35,7 @@ class frmFav : public Window {
   virtual bool EditCopy();
   virtual bool mnuCloseWin();
 
+  // Shows a colour in box and label, with the index of the selected cell.
   virtual void DoDisplayColor(Color c);
   // Loads a palette: swatch files by names that end in "aco", colour tables by "act". Where that fails the window
   // closes itself. A nil file changes nothing.
@@ -48,8 +49,9 @@ class frmFav : public Window {
   virtual void NewClut();
   // Adds a colour to the table, or puts it into the selected entry. Without a selection both do nothing.
   virtual void DoAddColor(Color c);
-  virtual void DoSaveUndo();
   virtual void DoSetSelection(Color c);
+  // Notes the selected colour in pUndoColor.
+  virtual void DoSaveUndo();
 
   zrClutPalette imgClut{*this, "imgClut"};
   StaticText lblColor{*this, "lblColor"};

@@ -1,8 +1,8 @@
 #include "simulator/frmColorBlind.h"
 
-#include "app/menubar/MenuBar1.h"
 #include "color/zrColorLib.h"
 #include "color/zrXYZ.h"
+#include "menubar/MenuBar1.h"
 #include "runtime/gui/Application.h"
 #include "runtime/gui/Clipboard.h"
 #include "runtime/gui/MsgBox.h"
@@ -50,7 +50,7 @@ void frmColorBlind::layOut() {
   };
   for (const Place& at : places)
     at.control.place(at.left, at.top, at.width, at.height);
-  Line1.draw(-1, 81, 430, 81);
+  Line1.setPoints(-1, 81, 430, 81);
 }
 
 void frmColorBlind::styleTexts() {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+
 #include "runtime/base/Number.h"
 
 namespace tavrelkin {

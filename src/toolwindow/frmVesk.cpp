@@ -2,7 +2,7 @@
 
 #include <initializer_list>
 
-#include "app/menubar/MenuBar1.h"
+#include "menubar/MenuBar1.h"
 #include "runtime/gui/Application.h"
 #include "tables/zrPixMap.h"
 #include "toolwindow/WebSafeBadge.h"
@@ -20,6 +20,8 @@ constexpr Color kStartColor{0x70ABFF};
 frmVesk::frmVesk() : Window({.title = "Vesk", .width = 448, .height = kUnfoldedHeight}) {
   BackColor = Color{0xCCCCCC};
   layOut();
+  orderTabs();
+  dress();
   styleTexts();
   wire();
   nameControls();
@@ -59,22 +61,26 @@ void frmVesk::layOut() {
   };
   for (const Place& at : places)
     at.control.place(at.left, at.top, at.width, at.height);
+}
 
+void frmVesk::orderTabs() {
   for (RectControl* control :
        std::initializer_list<RectControl*>{&cmdColor, &imgScreen, &DisclosureTriangle1, &slZoom, &cmdMakeWebSafe})
     control->TabStop = true;
-  for (zrColorCHBar& bar : cmdMixer) {
-    bar.propColorChannel = bar.Index;
+  for (zrColorCHBar& bar : cmdMixer)
     bar.TabStop = true;
-  }
   setTabOrder({&cmdColor, &imgScreen, &view0_lblcoordinates, &view0_lblColor, &imgWebSafe, &DisclosureTriangle1,
                &slZoom, &StaticText1, &StaticText2, &StaticText3, &cmdMixer[4], &cmdMixer[5], &cmdMixer[2],
                &cmdMixer[1], &cmdMixer[0], &cmdMixer[3], &sm, &cmdMakeWebSafe});
+}
 
+void frmVesk::dress() {
   imgWebSafe.HelpTag = "This color is not Web Safe...";
   cmdMakeWebSafe.HelpTag = "Make Web Safe...\rClick here to use a web safe variation of this color";
   cmdMakeWebSafe.Visible = false;
   sm.HelpTag = "Analogus";
+  for (zrColorCHBar& bar : cmdMixer)
+    bar.propColorChannel = bar.Index;
 
   slZoom.Minimum = 1;
   slZoom.Maximum = 3;
@@ -123,6 +129,7 @@ void frmVesk::wire() {
   imgScreen.MouseDrag = [this](Int32 x, Int32 y) { imgScreen_MouseDrag(x, y); };
   imgScreen.MouseUp = [this](Int32 x, Int32 y) { imgScreen_MouseUp(x, y); };
   imgScreen.MouseMove = [this](Int32 x, Int32 y) { imgScreen_MouseMove(x, y); };
+  imgScreen.KeyDown = [this](const String& key) { return imgScreen_KeyDown(key); };
   imgScreen.Paint = [this](Graphics* g) { imgScreen_Paint(g); };
   DisclosureTriangle1.Action = [this] { DisclosureTriangle1_Action(); };
   for (zrColorCHBar& bar : cmdMixer) {

@@ -34,6 +34,7 @@ class frmVesk : public Window {
   // The latest sample of the screen, a pixel for a pixel. Replaced by each sample, never edited by anyone else.
   Ref<Picture> zoomImage;
   Color SelectedColor;
+  // Part of the class, but neither read nor written.
   bool flgShowCoordinates = false;
   // Whether the window follows the pointer: the condition of the tracking loop.
   bool flgTrackMouse = false;
@@ -42,6 +43,7 @@ class frmVesk : public Window {
   Int32 varLastX = 0;
   bool flgLockY = false;
   Int32 varLastY = 0;
+  // Whether the grid lies over the preview.
   bool flgDrawGuide = false;
   // The grid as an overlay with a mask.
   Ref<Picture> gridImage;
@@ -130,18 +132,21 @@ class frmVesk : public Window {
   Timer rTIP_Timer{*this, "rTIP_Timer"};
 
  private:
-  class PreviewAccess;
+  class PreviewAccessible;
 
   void layOut();
+  // Who takes the keyboard by the tabulator key, and in which order.
+  void orderTabs();
+  void dress();
   void styleTexts();
   void wire();
-  // What the controls are called where they don't show it.
+  // What the controls are called where they don't show it, and how the preview presents itself.
   void nameControls();
 
   // The item of that name in the window's menu bar.
   MenuItem& menuItem(const char* name) const;
-  // The common end of the three commands that choose what the preview shows.
-  void showChosenView();
+  // Shows a view in place of the screen, by its flag, or ends it where it is shown. It takes the place of another one.
+  void toggleView(bool& shown);
   // Ends the two views that a look at the screen replaces.
   void leaveColourViews();
   // The end of a choice in the preview.

@@ -18,9 +18,9 @@ constexpr auto kScreenView = "Preview";
 }  // namespace
 
 // The preview: a picture that tells the colour at its centre, or the cells of the view that it shows.
-class frmVesk::PreviewAccess : public Accessible {
+class frmVesk::PreviewAccessible : public Accessible {
  public:
-  explicit PreviewAccess(frmVesk& window) : window_(window) {}
+  explicit PreviewAccessible(frmVesk& window) : window_(window) {}
 
   AccessibleRole role() const override { return AccessibleRole::picture; }
   String name() const override { return window_.shownView_; }
@@ -53,8 +53,7 @@ class frmVesk::PreviewAccess : public Accessible {
 
 void frmVesk::nameControls() {
   shownView_ = kScreenView;
-  imgScreen.describe(std::make_unique<PreviewAccess>(*this));
-  imgScreen.KeyDown = [this](const String& key) { return imgScreen_KeyDown(key); };
+  imgScreen.describe(std::make_unique<PreviewAccessible>(*this));
   cmdColor.AccessibleName = "Color";
   imgWebSafe.AccessibleName = "Not web-safe";
   cmdMakeWebSafe.AccessibleName = "Make web-safe";

@@ -9,7 +9,7 @@ void frmVesk::setColor(Color c, bool) {
   SelectedColor = c;
   cmdColor.SetValue(c);
   view0_lblColor.Text = getStdColorString(c);
-  Title = "Color: " + Str(c.red()) + "." + Str(c.green()) + "." + Str(c.blue()) + ", #" + getHexStr(SelectedColor);
+  Title = "Color: " + getDottedStr(c) + ", #" + getHexStr(SelectedColor);
   const bool unsafe = !zrColorLib_IsColorWebSafe(c);
   imgWebSafe.Visible = unsafe;
   if (unsafe) cmdMakeWebSafe.SetValue(zrColorLib_MakeWebSafe(c));

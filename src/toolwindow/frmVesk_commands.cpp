@@ -1,4 +1,4 @@
-// The tool window's menu commands, and the loop that follows the pointer.
+// The tool window's menu commands, but for those that choose a view, and the loop that follows the pointer.
 
 #include "color/zrColorLib.h"
 #include "runtime/gui/Clipboard.h"

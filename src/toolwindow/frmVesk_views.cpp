@@ -20,30 +20,26 @@ void frmVesk::imgScreen_Paint(Graphics* g) {
 }
 
 bool frmVesk::mnuViewSuggestions() {
-  flgShowSuggestions = !flgShowSuggestions;
-  flgShowColorsInScreen = false;
-  flgShowColorBlind = false;
-  showChosenView();
+  toggleView(flgShowSuggestions);
   return true;
 }
 
 bool frmVesk::mnuShowColors() {
-  flgShowColorsInScreen = !flgShowColorsInScreen;
-  flgShowSuggestions = false;
-  flgShowColorBlind = false;
-  showChosenView();
+  toggleView(flgShowColorsInScreen);
   return true;
 }
 
 bool frmVesk::mnuColorBlind() {
-  flgShowColorBlind = !flgShowColorBlind;
-  flgShowSuggestions = false;
-  flgShowColorsInScreen = false;
-  showChosenView();
+  toggleView(flgShowColorBlind);
   return true;
 }
 
-void frmVesk::showChosenView() {
+void frmVesk::toggleView(bool& shown) {
+  const bool show = !shown;
+  flgShowSuggestions = false;
+  flgShowColorsInScreen = false;
+  flgShowColorBlind = false;
+  shown = show;
   imgScreen.Refresh(true);
   menuItem("mnuColorBlind").Checked = flgShowColorBlind;
   menuItem("mnuViewSuggestions").Checked = flgShowSuggestions;

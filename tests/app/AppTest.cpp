@@ -1,7 +1,7 @@
 #include "app/App.h"
 #include "app/frmAbout.h"
-#include "app/menubar/MenuBar1.h"
 #include "favourites/frmFav.h"
+#include "menubar/MenuBar1.h"
 #include "runtime/base/Exceptions.h"
 #include "support/Gestures.h"
 #include "support/RuntimeTest.h"

@@ -1,7 +1,7 @@
 #include <filesystem>
 
-#include "app/menubar/MenuBar1.h"
 #include "favourites/frmFav.h"
+#include "menubar/MenuBar1.h"
 #include "runtime/gui/Clipboard.h"
 #include "support/DragGestures.h"
 #include "support/Gestures.h"

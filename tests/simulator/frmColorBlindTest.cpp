@@ -1,5 +1,5 @@
-#include "app/menubar/MenuBar1.h"
 #include "color/zrXYZ.h"
+#include "menubar/MenuBar1.h"
 #include "runtime/gui/Clipboard.h"
 #include "simulator/frmColorBlind.h"
 #include "support/Gestures.h"

@@ -9,7 +9,7 @@
 #include <QApplication>
 #include <QTest>
 
-#include "runtime/gui/Runtime.h"
+#include "runtime/Runtime.h"
 
 namespace tavrelkin {
 

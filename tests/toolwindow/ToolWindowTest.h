@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/menubar/MenuBar1.h"
+#include "menubar/MenuBar1.h"
 #include "support/Gestures.h"
 #include "support/RuntimeTest.h"
 #include "toolwindow/frmVesk.h"

@@ -20,12 +20,14 @@ constexpr Int32 toInt32(Double value) {
   return static_cast<Int32>(value);
 }
 
+// As the C library has it.
 inline Double Pow(Double base, Double exponent) {
   return std::pow(base, exponent);
 }
 constexpr Double Abs(Double value) {
   return value < 0 ? -value : value;
 }
+// The greater of the two, and `a` where one of them is no number.
 constexpr Double Max(Double a, Double b) {
   return a < b ? b : a;
 }

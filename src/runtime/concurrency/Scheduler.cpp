@@ -12,6 +12,10 @@ namespace {
 
 std::unique_ptr<Scheduler> installed;
 
+auto isFor(const Thread& thread) {
+  return [&thread](const auto& entry) { return entry->thread == &thread; };
+}
+
 }  // namespace
 
 Scheduler& Scheduler::instance() {
@@ -44,8 +48,7 @@ void Scheduler::start(Thread& thread, Ref<Window> owner) {
 }
 
 void Scheduler::kill(Thread& thread) {
-  const auto is = [&thread](const auto& entry) { return entry->thread == &thread; };
-  const auto found = std::find_if(entries_.begin(), entries_.end(), is);
+  const auto found = std::find_if(entries_.begin(), entries_.end(), isFor(thread));
   if (found == entries_.end()) return;
   // What its destructors do is done in a turn of its own: a yield there is none of the main thread's.
   Entry& entry = **found;
@@ -56,8 +59,7 @@ void Scheduler::kill(Thread& thread) {
 }
 
 bool Scheduler::runs(const Thread& thread) const {
-  return std::any_of(entries_.begin(), entries_.end(),
-                     [&thread](const auto& entry) { return entry->thread == &thread; });
+  return std::any_of(entries_.begin(), entries_.end(), isFor(thread));
 }
 
 void Scheduler::lookAtClock() {
@@ -134,8 +136,7 @@ Scheduler::Entry* Scheduler::earliest() {
 }
 
 void Scheduler::remove(const Thread& thread) {
-  const auto is = [&thread](const auto& entry) { return entry->thread == &thread; };
-  const auto found = std::find_if(entries_.begin(), entries_.end(), is);
+  const auto found = std::find_if(entries_.begin(), entries_.end(), isFor(thread));
   // Taken out first: letting go of the owner may end its window, and with it the thread.
   const std::unique_ptr<Entry> gone = std::move(*found);
   entries_.erase(found);

@@ -2,15 +2,14 @@
 
 #include <cstdint>
 #include <functional>
-#include <memory>
 #include <string>
 
 #include "runtime/desktop/Desktop.h"
 
 namespace tavrelkin {
 
-// How one kind of display server is read: one class for each, made by makeScreenReader in its folder. The operations
-// are those of Desktop under the same names, with the same promises.
+// How one kind of display server is read: one class for each, among which NativeDesktop.cpp chooses. The operations are
+// those of Desktop under the same names, with the same promises.
 class ScreenReader {
  public:
   ScreenReader() = default;

@@ -1,7 +1,6 @@
 #include "runtime/drawing/Color.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace tavrelkin {
 

@@ -2,6 +2,7 @@
 
 #include <map>
 #include <typeindex>
+#include <utility>
 #include <vector>
 
 #include "runtime/base/Property.h"

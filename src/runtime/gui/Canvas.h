@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "runtime/base/Event.h"
@@ -55,7 +56,8 @@ class Canvas : public RectControl, private DrawingObserver {
   // The events, for the host. Coordinates count from the canvas's top left corner and may lie outside of it during a
   // drag. Only a MouseDown that returns true grants the MouseDrag and the MouseUp of that press; MouseMove comes while
   // no button is held. KeyDown gets the key as one byte and returns true to keep it from the rest of the window; keys
-  // that stand for no character raise none. DropObject comes only for what the canvas accepts; its number is 0.
+  // that stand for no character raise none, but for the arrows, and one that presses a button raises one however long
+  // it is held. DropObject comes only for what the canvas accepts; its number is 0.
   Event<void()> Open;
   Event<void(tavrelkin::Graphics*)> Paint;
   Event<bool(Int32, Int32)> MouseDown;

@@ -12,6 +12,9 @@
 
 namespace tavrelkin {
 
+// The type whose payload is a colour, as "255, 128, 0". Towards other programs it is their kind of colour as well.
+constexpr auto kColourData = "hcol";
+
 // What a drag carries from one control to another: private payloads, each under a four-character type, and plain text,
 // all at the same time. A type is the same only where its case is the same.
 class DragItem : public Object {
@@ -31,8 +34,8 @@ class DragItem : public Object {
   void SetText(String text);
 
   // Begins the drag, for an item that NewDragItem has made, from within a MouseDrag event. Returns when the user has
-  // let go or given up; an item of another origin is not dragged. Of the press that began it, the
-  // release may still come, where it falls on the control that the drag began on.
+  // let go or given up; an item of another origin is not dragged. Of the press that began it, the release may still
+  // come, where it falls on the control that the drag began on.
   void Drag();
 
   // For whoever makes an item that can be dragged.

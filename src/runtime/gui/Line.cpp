@@ -41,7 +41,7 @@ Line::Line(Window& owner, String name)
       BorderWidth(1, [this](Int32) { followPoints(); }),
       LineColor(kBlack, [this](Color) { native().update(); }) {}
 
-void Line::draw(Int32 x1, Int32 y1, Int32 x2, Int32 y2) {
+void Line::setPoints(Int32 x1, Int32 y1, Int32 x2, Int32 y2) {
   X1.store(x1);
   Y1.store(y1);
   X2.store(x2);

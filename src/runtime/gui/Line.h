@@ -21,7 +21,7 @@ class Line : public RectControl {
   Property<Color> LineColor;
 
   // Sets both points in one go.
-  void draw(Int32 x1, Int32 y1, Int32 x2, Int32 y2);
+  void setPoints(Int32 x1, Int32 y1, Int32 x2, Int32 y2);
 
  protected:
   void resized() override;

@@ -76,6 +76,7 @@ class AppleMenuItem : public MenuItem {
   AppleMenuItem(String name, String text);
 };
 
+// A row of menus, which any number of windows can show.
 class MenuBar : public Object {
  public:
   void Append(const Ref<MenuItem>& menu) { menus_.push_back(menu); }

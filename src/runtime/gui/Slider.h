@@ -15,6 +15,7 @@ class Slider : public RectControl {
   Property<Int32> Maximum;
   // Writing it raises nothing. What lies outside the range counts as the nearest bound.
   Property<Int32> Value;
+  // How far an arrow key moves the value, and how far the page keys and a press beside the handle do.
   Property<Int32> LineStep;
   Property<Int32> PageStep;
   // Whether ValueChanged comes at each step of a drag, or once when the user lets go.

@@ -2,7 +2,8 @@
 
 #include "runtime/drawing/Color.h"
 
-// The platform's colours, for drawing controls that look at home.
+// The colours of the program's look, the same on every desktop (runtime/Runtime.h), for drawing controls that go with
+// the toolkit's.
 namespace tavrelkin {
 
 // The ground that controls stand on, and texts on it.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <initializer_list>
+#include <utility>
 #include <vector>
 
 #include "runtime/base/Property.h"
@@ -41,7 +42,7 @@ class Window : public Object {
   Property<String> Title;
   Property<Int32> Width;
   Property<Int32> Height;
-  // The colour of the content where no control is. The platform's own at first.
+  // The colour of the content where no control is. FillColor() of ThemeColors.h at first.
   Property<Color> BackColor;
   Property<Ref<tavrelkin::MenuBar>> MenuBar;
 
@@ -55,9 +56,6 @@ class Window : public Object {
   void SetFocus();
 
   bool isOpen() const { return open_; }
-
-  // The control of that name and index, or null.
-  Control* control(const String& name, Int32 index = 0) const;
 
   // Registers the handlers of the window's commands; called once, ahead of the Open events.
   virtual void AddMenuHandlers() {}

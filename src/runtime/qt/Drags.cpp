@@ -24,7 +24,6 @@ namespace tavrelkin {
 
 namespace {
 
-constexpr auto kColourType = "hcol";
 constexpr auto kPrivatePrefix = "application/x-tavrelkin-";
 constexpr auto kDesktopColour = "application/x-color";
 constexpr auto kPlainText = "text/plain;charset=utf-8";  // what the toolkit doesn't know as text by itself
@@ -87,8 +86,8 @@ Ref<DragItem> itemOf(const QMimeData& types, const Content& content) {
     if (!format.startsWith(prefix)) continue;
     if (auto payload = content.bytes(format)) item->MacData(fromQt(format.mid(prefix.size())), *std::move(payload));
   }
-  if (!item->MacDataAvailable(kColourType) && types.hasColor())
-    if (auto colour = content.colour()) item->MacData(kColourType, *std::move(colour));
+  if (!item->MacDataAvailable(kColourData) && types.hasColor())
+    if (auto colour = content.colour()) item->MacData(kColourData, *std::move(colour));
   if (!types.hasUrls() && (types.hasText() || types.hasFormat(kPlainText)))
     if (auto text = content.text()) item->SetText(*std::move(text));
   return item;
@@ -113,7 +112,7 @@ std::unique_ptr<QMimeData> toMime(const DragItem& item) {
   for (const String& type : item.MacDataTypes()) {
     data->setData(QLatin1String(kPrivatePrefix) + toQt(type), QByteArray::fromStdString(item.MacData(type)));
   }
-  if (item.MacDataAvailable(kColourType)) data->setColorData(toColor(item.MacData(kColourType)));
+  if (item.MacDataAvailable(kColourData)) data->setColorData(toColor(item.MacData(kColourData)));
   if (item.TextAvailable()) data->setText(toQt(item.Text()));
   return data;
 }

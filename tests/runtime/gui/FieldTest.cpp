@@ -109,7 +109,7 @@ TEST_F(FieldTest, ALineCoversBothItsEndsAndIsCutOffAtTheWindow) {
   window->line.BorderWidth = 2;
   for (const auto& [from, to, inked] : {std::tuple{QPoint(95, 20), QPoint(95, -9), QRect(95, 0, 2, 22)},
                                         {QPoint(130, 60), QPoint(92, 60), QRect(92, 60, 8, 2)}}) {
-    window->line.draw(from.x(), from.y(), to.x(), to.y());
+    window->line.setPoints(from.x(), from.y(), to.x(), to.y());
     const QImage shown = window->content().grab().toImage();
     for (int i = 0; i < 80 * 10; ++i) {
       const QPoint at(90 + i % 10, i / 10);

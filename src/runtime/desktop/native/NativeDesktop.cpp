@@ -70,6 +70,15 @@ QWidget* frontWindow() {
   return window;
 }
 
+// Shows a dialog until the user closes it, and gives whether they accept. It is of use then until the event loop runs
+// again. The window underneath can be closed meanwhile, which takes the dialog with it: that counts as giving up.
+template <class Dialog>
+bool run(const QPointer<Dialog>& dialog) {
+  const bool accepted = dialog->exec() == QDialog::Accepted;
+  if (dialog) dialog->deleteLater();
+  return accepted && dialog;
+}
+
 class NativeAlarm final : public Alarm {
  public:
   explicit NativeAlarm(std::function<void()> ring) {
@@ -132,23 +141,18 @@ std::chrono::nanoseconds NativeDesktop::frameInterval() const {
 }
 
 void NativeDesktop::messageBox(const std::string& text) {
-  // The window underneath can be closed meanwhile, which takes the box with it.
   const QPointer<QMessageBox> box(new QMessageBox(frontWindow()));
   box->setWindowTitle("Tavrelkin");
   box->setTextFormat(Qt::PlainText);
   box->setText(QString::fromStdString(text));
   box->setStandardButtons(QMessageBox::Ok);
-  box->exec();
-  if (box) box->deleteLater();
+  run(box);
 }
 
 std::optional<std::uint32_t> NativeDesktop::selectColor(std::uint32_t initial, const std::string& prompt) {
   const QPointer<QColorDialog> dialog(new QColorDialog(QColor::fromRgb(initial), frontWindow()));
   dialog->setWindowTitle(QString::fromStdString(prompt));
-  const bool accepted = dialog->exec() == QDialog::Accepted;
-  if (!dialog) return std::nullopt;
-  dialog->deleteLater();
-  if (!accepted) return std::nullopt;
+  if (!run(dialog)) return std::nullopt;
   return dialog->selectedColor().rgb() & 0xFFFFFF;
 }
 
@@ -157,10 +161,7 @@ std::optional<std::string> NativeDesktop::chooseSaveFile(const std::string& filt
   dialog->setAcceptMode(QFileDialog::AcceptSave);
   if (!filter.empty()) dialog->setNameFilter(QString::fromStdString(filter));
   dialog->selectFile(QString::fromStdString(name));
-  const bool accepted = dialog->exec() == QDialog::Accepted;
-  if (!dialog) return std::nullopt;
-  dialog->deleteLater();
-  if (!accepted) return std::nullopt;
+  if (!run(dialog)) return std::nullopt;
   return QFile::encodeName(dialog->selectedFiles().constFirst()).toStdString();
 }
 

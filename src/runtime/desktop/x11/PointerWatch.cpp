@@ -42,7 +42,7 @@ void PointerWatch::select(std::uint32_t eventMask) {
 }
 
 void PointerWatch::note(const xcb_generic_event_t& event) {
-  if (!moved_ || (event.response_type & 0x7F) != XCB_GE_GENERIC) return;
+  if (!moved_ || kindOf(event) != XCB_GE_GENERIC) return;
   const auto& generic = reinterpret_cast<const xcb_ge_generic_event_t&>(event);
   if (generic.extension == opcode_ && generic.event_type == XCB_INPUT_RAW_MOTION) motionSeen_ = true;
 }

@@ -1,6 +1,7 @@
 #include "runtime/desktop/x11/SharedSegment.h"
 
 #include <cstring>
+#include <utility>
 
 #include <sys/ipc.h>
 #include <sys/shm.h>

@@ -10,8 +10,7 @@
 namespace tavrelkin {
 
 // What other programs have on offer on an X11 display. The toolkit's own reading is unbounded: it waits five seconds
-// for each form of the data that isn't sent, and takes in all that is. So these read on a connection of their own,
-// which goes with the offer: an answer that comes later finds nobody.
+// for each form of the data that isn't sent, and takes in all that is. These keep to the bounds of an Offer.
 //
 // Made while the toolkit runs on X11; needed from before the first drop on.
 class X11Offers final : public QAbstractNativeEventFilter {

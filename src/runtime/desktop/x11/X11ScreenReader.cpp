@@ -153,7 +153,7 @@ void X11ScreenReader::afterReply() {
 void X11ScreenReader::takeEvents(Poll poll) {
   while (const XcbPtr<xcb_generic_event_t> event{poll(connection_.get())}) {
     watch_.note(*event);
-    if ((event->response_type & 0x7F) != XCB_CONFIGURE_NOTIFY) continue;
+    if (kindOf(*event) != XCB_CONFIGURE_NOTIFY) continue;
     const auto& change = reinterpret_cast<const xcb_configure_notify_event_t&>(*event);
     if (change.window == root_) capture_.setRootSize(change.width, change.height);
   }

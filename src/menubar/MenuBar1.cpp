@@ -1,4 +1,4 @@
-#include "app/menubar/MenuBar1.h"
+#include "menubar/MenuBar1.h"
 
 #include <array>
 #include <span>

@@ -1,4 +1,4 @@
-#include "controls/Access.h"
+#include "controls/Accessibles.h"
 
 #include <algorithm>
 
@@ -13,9 +13,9 @@ namespace tavrelkin {
 
 namespace {
 
-class BarAccess : public Accessible {
+class BarAccessible : public Accessible {
  public:
-  explicit BarAccess(zrColorCHBar& bar) : bar_(bar) {}
+  explicit BarAccessible(zrColorCHBar& bar) : bar_(bar) {}
 
   AccessibleRole role() const override { return AccessibleRole::slider; }
   String name() const override { return channelWord(bar_.propColorChannel); }
@@ -34,9 +34,9 @@ bool answersClicks(const zrColorButton&) {
 }
 
 template <class Swatch>
-class SwatchAccess : public Accessible {
+class SwatchAccessible : public Accessible {
  public:
-  explicit SwatchAccess(Swatch& swatch) : swatch_(swatch) {}
+  explicit SwatchAccessible(Swatch& swatch) : swatch_(swatch) {}
 
   AccessibleRole role() const override {
     return answersClicks(swatch_) ? AccessibleRole::button : AccessibleRole::picture;
@@ -48,9 +48,9 @@ class SwatchAccess : public Accessible {
   Swatch& swatch_;
 };
 
-class PaletteAccess : public Accessible {
+class PaletteAccessible : public Accessible {
  public:
-  explicit PaletteAccess(zrClutPalette& palette) : palette_(palette) {}
+  explicit PaletteAccessible(zrClutPalette& palette) : palette_(palette) {}
 
   AccessibleRole role() const override { return AccessibleRole::list; }
   Int32 cellCount() const override { return palette_.TheClut ? std::max(palette_.TheClut->Count, 0) : 0; }
@@ -68,20 +68,20 @@ class PaletteAccess : public Accessible {
 
 }  // namespace
 
-std::unique_ptr<Accessible> accessTo(zrColorCHBar& bar) {
-  return std::make_unique<BarAccess>(bar);
+std::unique_ptr<Accessible> accessibleOf(zrColorCHBar& bar) {
+  return std::make_unique<BarAccessible>(bar);
 }
 
-std::unique_ptr<Accessible> accessTo(zrColorButton& button) {
-  return std::make_unique<SwatchAccess<zrColorButton>>(button);
+std::unique_ptr<Accessible> accessibleOf(zrColorButton& button) {
+  return std::make_unique<SwatchAccessible<zrColorButton>>(button);
 }
 
-std::unique_ptr<Accessible> accessTo(zrColorBox& box) {
-  return std::make_unique<SwatchAccess<zrColorBox>>(box);
+std::unique_ptr<Accessible> accessibleOf(zrColorBox& box) {
+  return std::make_unique<SwatchAccessible<zrColorBox>>(box);
 }
 
-std::unique_ptr<Accessible> accessTo(zrClutPalette& palette) {
-  return std::make_unique<PaletteAccess>(palette);
+std::unique_ptr<Accessible> accessibleOf(zrClutPalette& palette) {
+  return std::make_unique<PaletteAccessible>(palette);
 }
 
 }  // namespace tavrelkin

@@ -14,11 +14,11 @@ class zrColorCHBar;
 // How the colour controls present themselves to assistive technologies; of use as long as the control lives.
 
 // A slider that is called as its channel is.
-std::unique_ptr<Accessible> accessTo(zrColorCHBar& bar);
+std::unique_ptr<Accessible> accessibleOf(zrColorCHBar& bar);
 // A button, with its colour as the description. A box whose clicks nobody answers is a picture.
-std::unique_ptr<Accessible> accessTo(zrColorButton& button);
-std::unique_ptr<Accessible> accessTo(zrColorBox& box);
+std::unique_ptr<Accessible> accessibleOf(zrColorButton& button);
+std::unique_ptr<Accessible> accessibleOf(zrColorBox& box);
 // A list of colours, one of which can be selected.
-std::unique_ptr<Accessible> accessTo(zrClutPalette& palette);
+std::unique_ptr<Accessible> accessibleOf(zrClutPalette& palette);
 
 }  // namespace tavrelkin

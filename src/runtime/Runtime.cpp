@@ -1,10 +1,9 @@
-#include "runtime/gui/Runtime.h"
+#include "runtime/Runtime.h"
 
 #include <array>
 #include <csignal>
 #include <cstdlib>
 #include <iostream>
-#include <utility>
 
 #include <QApplication>
 #include <QDir>
