@@ -19,6 +19,12 @@ TEST_F(CoreTest, OpensIdleAtTheStartColour) {
   EXPECT_EQ(firstFault([](Int32, Int32) { return kWhite; }), "");
 }
 
+TEST_F(CoreTest, ItsControlsAreFoundByNameAndIndex) {
+  EXPECT_EQ(window->control("cmdMixer", 3), &window->cmdMixer[3]);
+  EXPECT_EQ(window->control("slZoom"), &window->slZoom);
+  EXPECT_EQ(window->control("slZoom", 1), nullptr);
+}
+
 TEST_F(CoreTest, TheTabulatorVisitsWhatTakesKeysAndIsInSight) {
   auto& bar = window->cmdMixer;
   const auto visits = [this](const std::vector<const RectControl*>& order) {

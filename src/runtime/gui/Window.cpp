@@ -55,6 +55,13 @@ void Window::SetFocus() {
   if (open_) native_->showInFront();
 }
 
+Control* Window::control(const String& name, Int32 index) const {
+  for (Control* each : controls_) {
+    if (each->Name() == name && each->Index == index) return each;
+  }
+  return nullptr;
+}
+
 QWidget& Window::content() const {
   return native_->content();
 }

@@ -57,6 +57,9 @@ class Window : public Object {
 
   bool isOpen() const { return open_; }
 
+  // The control of that name and index, or null.
+  Control* control(const String& name, Int32 index = 0) const;
+
   // Registers the handlers of the window's commands; called once, ahead of the Open events.
   virtual void AddMenuHandlers() {}
 
