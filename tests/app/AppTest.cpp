@@ -66,6 +66,17 @@ TEST_F(AppTest, ItemsAreEnabledByTheFrontWindow) {
   choose("mnuNewColors");
 }
 
+// Both the tool window and the application answer to it.
+TEST_F(AppTest, ACommandGoesToTheFrontWindowFirst) {
+  choose("mnuColorBlind");
+  EXPECT_EQ(open().size(), 1u) << "the tool window shows a view";
+  choose("mnuNewColors");
+  for (const std::size_t count : {3u, 4u}) {
+    choose("mnuColorBlind");
+    EXPECT_EQ(open().size(), count) << "a palette, and a simulator, have none: a new simulator";
+  }
+}
+
 TEST_F(AppTest, FavouritesThatCannotBeUsedAreTold) {
   const TemporaryFolder folder;
   fake().applicationData = folder.path("missing");

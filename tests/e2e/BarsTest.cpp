@@ -1,5 +1,9 @@
 // The colour controls under hand and keyboard.
 
+#include <chrono>
+#include <thread>
+#include <vector>
+
 #include <gtest/gtest.h>
 
 #include "e2e/support/ToolWindow.h"
@@ -46,6 +50,15 @@ TEST_F(BarsTest, APressBringsTheKeyboardTheTabulatorMovesItOnAndShortcutsStillWo
   EXPECT_TRUE(tool_.getsTitleOf(0x71ABFD));
   session_.hand.keys("Ctrl+V");
   EXPECT_TRUE(tool_.getsTitleOf(0x71ABFE)) << "its own clipboard";
+}
+
+// The server repeats it, and a dialog's button would take that for a press.
+TEST_F(BarsTest, AHeldReturnOpensOneDialog) {
+  session_.hand.press("Return");
+  const xcb_window_t dialog = session_.waitForWindow("Select Color");
+  std::this_thread::sleep_for(std::chrono::milliseconds(1200));
+  session_.hand.release("Return");
+  EXPECT_EQ(session_.windows.titled("Select Color"), std::vector{dialog});
 }
 
 TEST_F(BarsTest, AColourPickedInTheDialogGoesToTheButtonAlone) {
