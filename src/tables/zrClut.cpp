@@ -25,7 +25,7 @@ std::size_t zrClut::place(Int32 i) const {
 void zrClut::resize(Int32 upperBound) {
   Count = upperBound;
   Index = -1;
-  aColors.resize(static_cast<std::size_t>(std::max(upperBound, -1) + 1));
+  aColors.resize(upperBound < 0 ? 0 : static_cast<std::size_t>(upperBound) + 1);
 }
 
 void zrClut::Clear() {

@@ -99,12 +99,12 @@ String triples(Int32 colors) {
 class SwatchFilesTest : public RuntimeTest {
  protected:
   Ref<zrClut> readSwatch(const String& bytes) const {
-    const auto table = New<zrClut>();
+    auto table = New<zrClut>();
     EXPECT_TRUE(table->ReadSwatch(folder.write("in", bytes)));
     return table;
   }
   Ref<zrClut> readClut(const String& bytes) const {
-    const auto table = New<zrClut>();
+    auto table = New<zrClut>();
     EXPECT_TRUE(table->ReadClut(folder.write("in", bytes)));
     return table;
   }

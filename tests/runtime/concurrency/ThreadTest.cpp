@@ -108,7 +108,8 @@ TEST_F(ThreadTest, DrawingIsPacedByTheFrameAndHastenedByThePointer) {
 }
 
 TEST_F(ThreadTest, NoThreadStarves) {
-  int mine = 0, its = 0;
+  int mine = 0;
+  int its = 0;
   repeat(window->thread, [&] { window->draw(), ++mine; });
   repeat(window->other, [&] { window->draw(), ++its; });
   for (int i = 0; i < 160; ++i)

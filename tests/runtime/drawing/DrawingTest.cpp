@@ -108,8 +108,10 @@ TEST(GraphicsTest, ShapesAreClippedAtAnyNumbers) {
 
 TEST(GraphicsTest, ALineKeepsToTheIdealOneAndIsTheSameWhereItIsCutOff) {
   for (Int32 i = 0; i < 29 * 29; ++i) {
-    const Int32 x2 = i % 29 - 14, y2 = i / 29 - 14;
-    const Ref<Picture> whole = NewPicture(40, 40, 32), cut = NewPicture(10, 10, 32);
+    const Int32 x2 = i % 29 - 14;
+    const Int32 y2 = i / 29 - 14;
+    const Ref<Picture> whole = NewPicture(40, 40, 32);
+    const Ref<Picture> cut = NewPicture(10, 10, 32);
     whole->Graphics().DrawLine(20, 20, 20 + x2, 20 + y2);
     cut->Graphics().DrawLine(5, 5, 5 + x2, 5 + y2);
     const Int32 length = std::max(std::abs(x2), std::abs(y2));
@@ -163,7 +165,8 @@ TEST(GraphicsTest, APictureShowsForEachPixelTheSourcePixelBelowItAtAnyNumbers) {
     const Ref<Picture> drawn = NewPicture(12, 12, 32);
     drawn->Graphics().DrawPicture(*source, x, y, w, h, sx, sy, sw, sh);
     for (Int32 i = 0; i < 144; ++i) {
-      const Int32 fromX = from(i % 12, x, w, sx, sw, 5), fromY = from(i / 12, y, h, sy, sh, 4);
+      const Int32 fromX = from(i % 12, x, w, sx, sw, 5);
+      const Int32 fromY = from(i / 12, y, h, sy, sh, 4);
       const Color expected = fromX < 0 || fromY < 0 ? kWhite : source->Graphics().Pixel(fromX, fromY);
       ASSERT_EQ(drawn->Graphics().Pixel(i % 12, i / 12), expected)
           << x << " " << y << " " << w << " " << h << " " << sx << " " << sy << " " << sw << " " << sh << " at " << i;
@@ -172,7 +175,8 @@ TEST(GraphicsTest, APictureShowsForEachPixelTheSourcePixelBelowItAtAnyNumbers) {
 }
 
 TEST(GraphicsTest, AMaskLetsBlackThroughAndKeepsWhiteBack) {
-  const Ref<Picture> stamp = NewPicture(3, 1, 32), ground = NewPicture(3, 1, 32);
+  const Ref<Picture> stamp = NewPicture(3, 1, 32);
+  const Ref<Picture> ground = NewPicture(3, 1, 32);
   stamp->Graphics().FillRect(0, 0, 3, 1);
   stamp->Mask(true)->Graphics().Pixel(1, 0, kBlack);
   stamp->Mask(true)->Graphics().Pixel(2, 0, RGB(127, 127, 127));

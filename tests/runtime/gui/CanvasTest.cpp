@@ -67,7 +67,8 @@ class CanvasTest : public RuntimeTest {
   // How many pixels of the screen show something else than the pixel of the canvas that they belong to.
   int strayPixels(double scale) const {
     processEvents();
-    const int width = qRound(60 * scale), height = qRound(20 * scale);
+    const int width = qRound(60 * scale);
+    const int height = qRound(20 * scale);
     QImage shown(width, height, QImage::Format_RGB32);
     shown.setDevicePixelRatio(scale);
     window->canvas.native().render(&shown);

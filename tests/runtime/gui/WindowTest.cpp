@@ -121,7 +121,8 @@ TEST_F(WindowTest, ReturnPressesTheButtonThatHasTheKeyboardAndEscapeLeavesAModal
 }
 
 TEST_F(WindowTest, ACommandGoesToTheWindowThatHasComeToTheFront) {
-  const Ref<Host> first = open(), second = open();
+  const Ref<Host> first = open();
+  const Ref<Host> second = open();
   first->SetFocus();
   gesture::shortcut(*first, "Cmd+W");
   EXPECT_FALSE(first->isOpen());
@@ -151,7 +152,8 @@ TEST_F(WindowTest, AnUnreadableScreenIsToldOnceInEachRunOfTheProgram) {
 }
 
 TEST_F(WindowTest, AFaultInAHandlerIsToldOnceAndEndsTheProgramWithStatusOne) {
-  const Ref<Host> host = open(), other = open();
+  const Ref<Host> host = open();
+  const Ref<Host> other = open();
   host->button.Action = [] { Ref<Host>()->Close(); };
   const int status = runUntilQuit([&] {
     gesture::click(host->button, 5, 5);

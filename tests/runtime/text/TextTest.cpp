@@ -126,7 +126,8 @@ TEST(TextTest, ReadsNumbersAsFarAsTheyGo) {
       {"1E+3", 1000},  {"25e-1", 2.5}, {"1e-x", 1}, {"1 2", 1},         {"1,5", 1},    {"0x10", 0},
       {"  &HfF", 255}, {"&h1G2", 1},   {"&h-1", 0}, {"&h1e2", 482},     {"0e999", 0},  {"3\xC3", 3},
   };
-  const String zeros(400, '0'), nines(400, '9');
+  const String zeros(400, '0');
+  const String nines(400, '9');
   const Row extreme[] = {
       {String("1\0x", 3), 1},
       {" \t\r\n\v\f2147483648", 2147483648.0},
