@@ -75,6 +75,9 @@ TEST_F(AppTest, ACommandGoesToTheFrontWindowFirst) {
     choose("mnuColorBlind");
     EXPECT_EQ(open().size(), count) << "a palette, and a simulator, have none: a new simulator";
   }
+  for (int i = 0; i < 2; ++i)
+    choose("mnuColorBlindTool");
+  EXPECT_EQ(open().size(), 5u) << "the same simulator each time";
 }
 
 TEST_F(AppTest, FavouritesThatCannotBeUsedAreTold) {
@@ -83,6 +86,7 @@ TEST_F(AppTest, FavouritesThatCannotBeUsedAreTold) {
   choose("mnuMyFav");
   EXPECT_EQ(front<frmFav>().currFile->Name(), "Tavrelkin.aco");
   EXPECT_EQ(front<frmFav>().Title.get(), "Untitled Colors");
+  EXPECT_NE(fake().messages.at(0).find("The folder does not exist."), std::string::npos);
   fake().applicationData = folder.path("");
   std::filesystem::create_directory(folder.path("Tavrelkin.aco"));
   choose("mnuMyFav");

@@ -67,7 +67,9 @@ TEST_F(zrColorCHBarTest, ADragChangesTheValueButTheColourOnlyAtItsEnd) {
 TEST_F(zrColorCHBarTest, AnyKeyRaisesChangeAndOnlyArrowsStep) {
   const zrColorCHBar& bar = open(1, Color{0x00FF00});
   EXPECT_EQ(bar.Lastx, 115);
-  for (const int key : {0x01000014, 0x01000012, 0x41})
+  constexpr int kRight = 0x01000014;
+  constexpr int kLeft = 0x01000012;
+  for (const int key : {kRight, kLeft, int{'A'}})
     gesture::key(bar, key);
   EXPECT_EQ(host->log, "change-00FF00 change-00FE00 change-00FE00 ");
   EXPECT_EQ(bar.Lastx, 117) << "closer to the end than by the host's hand";

@@ -46,6 +46,10 @@ TEST_F(BarsTest, APressBringsTheKeyboardTheTabulatorMovesItOnAndShortcutsStillWo
   EXPECT_TRUE(tool_.getsTitleOf(0x71ABFE)) << "blue";
   session_.hand.keys("Ctrl+C");
   EXPECT_TRUE(waitUntil([&] { return session_.clipboard.paste() == "#71ABFE"; }));
+  session_.hand.keys("Ctrl+Alt+C");
+  EXPECT_TRUE(waitUntil([&] { return session_.clipboard.paste() == "Color: 113.171.254, 215.55.99, #71ABFE"; }));
+  session_.hand.keys("Ctrl+C");
+  EXPECT_TRUE(waitUntil([&] { return session_.clipboard.paste() == "#71ABFE"; }));
   session_.hand.keys("Left");
   EXPECT_TRUE(tool_.getsTitleOf(0x71ABFD));
   session_.hand.keys("Ctrl+V");

@@ -76,6 +76,8 @@ TEST_F(ExchangeTest, ColoursAreDraggedFromWindowToWindow) {
     session_.hand.altDrag(tool_.onSwatch(), place);
   session_.hand.drag(tool_.onSwatch(), other.onBar(0, 20));
   session_.hand.altDrag(tool_.onSwatch(), other.onBar(1, 20), [this] { session_.hand.keys("Escape"); });
+  other.keys("Ctrl+C");
+  EXPECT_TRUE(waitUntil([&] { return session_.clipboard.paste() == "#20AB60"; }));
   EXPECT_EQ(other.title(), titleOf(0x20AB60)) << "one that ends nowhere changes nothing";
   ASSERT_TRUE(other.paste(0x204061));
   EXPECT_EQ(tool_.title(), titleOf(0x70ABFF));

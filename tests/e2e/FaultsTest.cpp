@@ -75,11 +75,15 @@ TEST_F(FaultsTest, ADyingServerEndsTheProgramWithAMessage) {
 
 TEST(NoDisplayTest, IsToldInsteadOfACrash) {
   const Home home;
-  for (const char* more : {"QT_QPA_PLATFORM=xcb", "QT_QPA_PLATFORM=none-such", "WAYLAND_DISPLAY=none-such"}) {
-    auto environment = home.environment(":4000");
+  const std::pair<const char*, const char*> rows[] = {{"", "LANG=C"},
+                                                      {"", "WAYLAND_DISPLAY=none-such"},
+                                                      {":4000", "QT_QPA_PLATFORM=xcb"},
+                                                      {":4000", "QT_QPA_PLATFORM=none-such"}};
+  for (const auto& [display, more] : rows) {
+    auto environment = home.environment(display);
     environment.emplace_back(more);
     Process program({TAVRELKIN_PROGRAM}, environment);
-    EXPECT_EQ(program.waitForExit(), 1) << more;
+    EXPECT_EQ(program.waitForExit(), 1) << display << " " << more;
     EXPECT_NE(program.errors().find("Tavrelkin: no display"), std::string::npos) << program.errors();
   }
 }

@@ -86,6 +86,15 @@ TEST_F(frmColorBlindTest, AClickShowsAResultAtLarge) {
   }
 }
 
+TEST_F(frmColorBlindTest, TheNormalBoxHasTheKeyboardWheneverTheWindowComesToTheFront) {
+  gesture::click(window->txtGamma, 5, 5);
+  const Ref<frmColorBlind> other = New<frmColorBlind>();
+  other->Show();
+  EXPECT_TRUE(waitUntil([&] { return gesture::hasKeyboard(other->cmdColor[0]); }));
+  window->Show();
+  EXPECT_TRUE(waitUntil([this] { return gesture::hasKeyboard(window->cmdColor[0]); }));
+}
+
 TEST_F(frmColorBlindTest, TheTabulatorKeyVisitsWhatTakesKeys) {
   auto& box = window->cmdColor;
   gesture::click(box[1], 10, 10);  // which takes no keyboard by that

@@ -8,6 +8,9 @@
 namespace tavrelkin {
 namespace {
 
+constexpr int kKeyTab = 0x01000001;
+constexpr int kKeyLeft = 0x01000012;
+
 using CoreTest = ToolWindowTest;
 
 TEST_F(CoreTest, OpensIdleAtTheStartColour) {
@@ -32,7 +35,7 @@ TEST_F(CoreTest, TheTabulatorVisitsWhatTakesKeysAndIsInSight) {
     ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(window->cmdColor); }));
     for (const RectControl* next : order) {
       EXPECT_TRUE(gesture::hasKeyboard(*next)) << next->Name() << " " << next->Index;
-      gesture::key(*next, 0x01000001);
+      gesture::key(*next, kKeyTab);
     }
     EXPECT_TRUE(gesture::hasKeyboard(window->cmdColor)) << "from the last to the first";
   };
@@ -96,7 +99,7 @@ TEST_F(CoreTest, ABarChangesTheColourWhenTheHandLetsGoAndTheTipGoesASecondAfterT
   EXPECT_FALSE(window->rTIP.Visible);
   EXPECT_FALSE(fake().nextAlarm());
   EXPECT_EQ(window->SelectedColor, Color{0x70FFFF});
-  gesture::key(green, 0x01000012);
+  gesture::key(green, kKeyLeft);
   EXPECT_EQ(window->SelectedColor, Color{0x70FEFF});
 }
 

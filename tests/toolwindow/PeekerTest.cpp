@@ -39,7 +39,11 @@ TEST_F(PeekerTest, ASampleHasAMarkerThatStandsOutAndARepaintOneOfItsOwn) {
       window->drawSys(300, 200);
       for (const auto& [end, c] : {std::pair{side, marker}, {side - 1, kBlack}}) {
         EXPECT_EQ(shown(reachX(step) * side + end, reachY(step) * side + end), c) << step;
+        EXPECT_EQ(shown(reachX(step) * side, reachY(step) * side), c) << step;
+        EXPECT_EQ(shown(reachX(step) * side + 2, reachY(step) * side + 2), Color{centre}) << "inside the marker";
         EXPECT_EQ(shown(408 - side, 2), Color{0xCECECE}) << "the last guide at step " << step;
+        EXPECT_EQ(shown(2, 192 - side), Color{0xCECECE}) << "the lowest guide at step " << step;
+        EXPECT_EQ(shown(2, 2), Color{centre}) << "no guide at step " << step;
         EXPECT_EQ(shown(407, 191), kWhite) << "the frame";
         window->imgScreen.Refresh(true);
       }

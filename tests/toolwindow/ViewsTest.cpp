@@ -162,6 +162,9 @@ TEST_F(ViewsTest, OneAtATimeExceptWhileFollowing) {
     trace += shown(10, 10) == Color{0x010203} ? " " : "* ";
   }
   EXPECT_EQ(trace, "S* * J* * D* * S* J* D* S* D* J* S* F FS* F FS* S  D* FD D D DG* D* J*  ");
+}
+
+TEST_F(ViewsTest, NothingIsDrawnOnNil) {
   for (const auto draw : {&frmVesk::drawScreen, &frmVesk::drawSuggestions, &frmVesk::drawColorsInScreen})
     ((*window).*draw)(nullptr);
 }

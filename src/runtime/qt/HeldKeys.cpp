@@ -8,11 +8,11 @@ namespace tavrelkin {
 namespace {
 
 // The same press, said to be one that the keyboard repeats.
-bool sendAsHeld(QObject& receiver, const QKeyEvent& press) {
+void sendAsHeld(QObject& receiver, const QKeyEvent& press) {
   QKeyEvent held(press.type(), press.key(), press.modifiers(), press.nativeScanCode(), press.nativeVirtualKey(),
                  press.nativeModifiers(), press.text(), true, static_cast<quint16>(press.count()));
   held.setTimestamp(press.timestamp());
-  return QCoreApplication::sendEvent(&receiver, &held);
+  QCoreApplication::sendEvent(&receiver, &held);
 }
 
 }  // namespace
@@ -34,7 +34,9 @@ bool HeldKeys::eventFilter(QObject* receiver, QEvent* event) {
   }
   if (!isHeld(key)) return false;
   if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) return true;
-  return !key.isAutoRepeat() && sendAsHeld(*receiver, key);
+  if (key.isAutoRepeat()) return false;
+  sendAsHeld(*receiver, key);
+  return true;
 }
 
 }  // namespace tavrelkin

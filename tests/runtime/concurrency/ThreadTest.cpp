@@ -1,8 +1,7 @@
-// When threads get their turns, and what one may do in the middle of the toolkit's and of other threads' work.
+// What a thread may do in the middle of the toolkit's and of other threads' work.
 
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "runtime/concurrency/Fiber.h"
 #include "runtime/concurrency/Scheduler.h"
@@ -55,68 +54,9 @@ struct Log {
 
 class ThreadTest : protected Log, public RuntimeTest {
  protected:
-  // Has a thread do something again and again. A thread that runs is not started a second time.
-  static void repeat(Thread& thread, std::function<void()> round) {
-    thread.RunEvent = [round = std::move(round)] {
-      for (;;) {
-        round();
-        RuntimeBackgroundTask();
-      }
-    };
-    thread.Run();
-    thread.Run();
-  }
-
   Ref<Host> window = New<Host>(log);
   bool killsItself = false;
 };
-
-TEST_F(ThreadTest, DrawingIsPacedByTheFrameAndHastenedByThePointer) {
-  std::vector<FakeDesktop::TimePoint> turns;
-  std::chrono::nanoseconds length = 0ms;
-  fake().frame = std::chrono::nanoseconds(16'666'667);
-  repeat(window->thread, [&] {
-    turns.push_back(fake().now());
-    fake().costOfLook = length;
-    fake().now();
-    fake().costOfLook = 0ms;
-    window->draw();
-  });
-  // Time goes by as for a timer that counts in milliseconds.
-  const auto turnsWithin = [&](int milliseconds, bool moving) {
-    turns.clear();
-    for (int i = 0; i < milliseconds; ++i) {
-      if (moving) fake().movePointer({i, i});
-      fake().advance(1ms);
-    }
-    return static_cast<int>(turns.size());
-  };
-  EXPECT_NEAR(turnsWithin(1000, false), 60, 1) << "one a frame";
-  length = 50ms;
-  EXPECT_GT(turnsWithin(10, false), 8) << "one right after the other";
-  length = 0ms;
-  EXPECT_NEAR(turnsWithin(160, false), 10, 1) << "nothing to catch up with";
-  EXPECT_NEAR(turnsWithin(100, true), 25, 1) << "at each movement, and the frame adds none";
-  for (std::size_t i = 2; i < turns.size(); ++i)
-    EXPECT_GE(turns[i] - turns[i - 1], Scheduler::kPointerGap) << i;
-  EXPECT_NEAR(turnsWithin(160, false), 10, 1) << "frame by frame again";
-
-  fake().advance(10ms);
-  EXPECT_EQ(turnsWithin(1, true), 1) << "at once";
-  EXPECT_EQ(turnsWithin(1, true), 0) << "within the gap";
-  EXPECT_EQ(turnsWithin(4, false), 1) << "the movement is not lost";
-}
-
-TEST_F(ThreadTest, NoThreadStarves) {
-  int mine = 0;
-  int its = 0;
-  repeat(window->thread, [&] { window->draw(), ++mine; });
-  repeat(window->other, [&] { window->draw(), ++its; });
-  for (int i = 0; i < 160; ++i)
-    fake().advance(1ms);
-  EXPECT_NEAR(mine, its, 1);
-  EXPECT_GE(mine, 9);
-}
 
 TEST_F(ThreadTest, AFaultInAThreadIsTold) {
   window->thread.RunEvent = [] { Ref<Host>()->Close(); };

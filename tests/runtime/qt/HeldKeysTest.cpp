@@ -24,7 +24,7 @@ class HeldKeysTest : public RuntimeTest {
  protected:
   HeldKeysTest() { QCoreApplication::instance()->installEventFilter(&filter); }
 
-  void send(QEvent::Type type, Qt::Key key, quint64 time, quint32 code = 36, bool isKnown = false) {
+  void send(QEvent::Type type, Qt::Key key, quint64 time, quint32 code = 65, bool isKnown = false) {
     QKeyEvent event(type, key, Qt::NoModifier, code, 0, 0, {}, isKnown);
     event.setTimestamp(time);
     QCoreApplication::sendEvent(&window, &event);
@@ -49,8 +49,8 @@ TEST_F(HeldKeysTest, AHeldReturnPressesOnce) {
   send(QEvent::KeyPress, Qt::Key_Return, 100);
   send(QEvent::KeyRelease, Qt::Key_Return, 700);
   send(QEvent::KeyPress, Qt::Key_Return, 700);
-  send(QEvent::KeyRelease, Qt::Key_Return, 740, 36, true);
-  send(QEvent::KeyPress, Qt::Key_Return, 740, 36, true);
+  send(QEvent::KeyRelease, Qt::Key_Return, 740, 65, true);
+  send(QEvent::KeyPress, Qt::Key_Return, 740, 65, true);
   EXPECT_EQ(window.presses, "P");
 }
 
