@@ -70,8 +70,8 @@ TEST_F(zrColorButtonTest, ThePointerChangesItsStateAndHasItPainted) {
     button.Enabled = enabled;
     button.State = before;
     button.Graphics().Pixel(1, 1, kOrange);
-    const auto event = enters ? &zrColorButton::Event_MouseEnter : &zrColorButton::Event_MouseExit;
-    EXPECT_EQ(after([&] { (button.*event)(); }), before == 3 ? "button-000000 " : "");
+    const auto move = [&, enters = enters] { enters ? button.Event_MouseEnter() : button.Event_MouseExit(); };
+    EXPECT_EQ(after(move), before == 3 ? "button-000000 " : "");
     EXPECT_EQ(button.State, state) << before;
     EXPECT_EQ(button.Graphics().Pixel(1, 1) == kWhite, paints) << before;
   }
