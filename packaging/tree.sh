@@ -16,9 +16,9 @@ debian_sources() {
 # Prints the mirror of the main archive.
 mirror() { debian_sources | sed -n 's/ bookworm main$//p' | head -n 1; }
 
-# The system as debootstrap leaves it, in an archive that is made once: everything that a run does goes with the tree.
-make_base() {
-  local base=$1 from proxy=
+# bootstrap FOLDER: a bare Debian 12 in it, with this machine's sources.
+bootstrap() {
+  local folder=$1 from proxy=
   from=$(mirror)
   if [[ -z $from ]]; then
     apt_get update
@@ -29,14 +29,24 @@ make_base() {
     return 1
   fi
   eval "$(apt-config shell proxy Acquire::http::Proxy)"
-  if ! env ${proxy:+http_proxy="$proxy"} debootstrap --variant=minbase bookworm "$tree" "$from"; then
-    tail -n 5 -- "$tree/debootstrap/debootstrap.log" || true
+  if ! env ${proxy:+http_proxy="$proxy"} debootstrap --variant=minbase bookworm "$folder" "$from"; then
+    tail -n 5 -- "$folder/debootstrap/debootstrap.log" || true
     echo "debootstrap could not make a bare Debian 12 from $from, the mirror of this machine's apt." >&2
     return 1
   fi
-  debian_sources | sed 's/^/deb /' >"$tree/etc/apt/sources.list"
-  apt-config dump Acquire | sed -nE '/^Acquire::(https?:|Retries|Check-)/p' >"$tree/etc/apt/apt.conf.d/90outside"
-  tar --create --gzip --one-file-system --file "$base.part" --directory "$tree" .
+  debian_sources | sed 's/^/deb /' >"$folder/etc/apt/sources.list"
+  apt-config dump Acquire | sed -nE '/^Acquire::(https?:|Retries|Check-)/p' >"$folder/etc/apt/apt.conf.d/90outside"
+}
+
+# The system as debootstrap leaves it, in an archive that is made once: everything that a run does goes with the tree.
+# It is made elsewhere, for debootstrap can't work in a path that has a blank.
+make_base() {
+  local base=$1 folder status=0
+  folder=$(mktemp --directory /var/tmp/tavrelkin-base.XXXXXX)
+  chmod 755 -- "$folder"
+  bootstrap "$folder" && tar --create --gzip --one-file-system --file "$base.part" --directory "$folder" . || status=$?
+  rm -rf --one-file-system -- "$folder"
+  ((status == 0)) || return "$status"
   mv -- "$base.part" "$base"
 }
 
@@ -45,11 +55,8 @@ make_tree() {
   local base="$store/bookworm.tar.gz"
   remove_tree
   mkdir -p -- "$tree" "$store/archives/partial"
-  if [[ -f $base ]]; then
-    tar --extract --file "$base" --directory "$tree"
-  else
-    make_base "$base"
-  fi
+  [[ -f $base ]] || make_base "$base"
+  tar --extract --file "$base" --directory "$tree"
   cp --dereference -- /etc/resolv.conf /etc/hosts "$tree/etc/"
   mount -t proc proc "$tree/proc"
   mount --bind -- "$store/archives" "$tree/var/cache/apt/archives"
