@@ -5,6 +5,7 @@
 
 store="$root/build/package-check"  # what is kept from one run to the next
 tree="$store/tree"
+bare=                              # where debootstrap works, which can't in a path that has a blank
 
 # Prints address, suite and component of each part of Debian 12 that this machine's apt fetches from.
 debian_sources() {
@@ -39,14 +40,12 @@ bootstrap() {
 }
 
 # The system as debootstrap leaves it, in an archive that is made once: everything that a run does goes with the tree.
-# It is made elsewhere, for debootstrap can't work in a path that has a blank.
 make_base() {
-  local base=$1 folder status=0
-  folder=$(mktemp --directory /var/tmp/tavrelkin-base.XXXXXX)
-  chmod 755 -- "$folder"
-  bootstrap "$folder" && tar --create --gzip --one-file-system --file "$base.part" --directory "$folder" . || status=$?
-  rm -rf --one-file-system -- "$folder"
-  ((status == 0)) || return "$status"
+  local base=$1
+  bare=$(mktemp --directory /var/tmp/tavrelkin-base.XXXXXX)
+  chmod 755 -- "$bare"
+  bootstrap "$bare"
+  tar --create --gzip --one-file-system --file "$base.part" --directory "$bare" .
   mv -- "$base.part" "$base"
 }
 
@@ -70,7 +69,7 @@ remove_tree() {
   for mounted in proc var/cache/apt/archives tmp/.X11-unix; do
     ! mountpoint --quiet -- "$tree/$mounted" || umount --lazy -- "$tree/$mounted"
   done
-  rm -rf --one-file-system -- "$tree"
+  rm -rf --one-file-system -- "$tree" ${bare:+"$bare"}
 }
 
 # in_tree COMMAND ...: runs it there as root, with nothing of this machine's environment.

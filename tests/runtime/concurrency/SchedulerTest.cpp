@@ -3,25 +3,13 @@
 #include <functional>
 #include <vector>
 
-#include "runtime/concurrency/Scheduler.h"
-#include "runtime/concurrency/Thread.h"
-#include "runtime/gui/Canvas.h"
+#include "runtime/concurrency/Worker.h"
 #include "support/RuntimeTest.h"
 
 namespace tavrelkin {
 namespace {
 
 using namespace std::chrono_literals;
-
-class Host : public Window {
- public:
-  Host() : Window({.title = "Host", .width = 100, .height = 100}) { canvas.place(0, 0, 10, 10); }
-  void draw() { canvas.Graphics().Pixel(0, 0, kBlack); }
-
-  Canvas canvas{*this, "canvas"};
-  Thread thread{*this, "thread"};
-  Thread other{*this, "other"};
-};
 
 class SchedulerTest : public RuntimeTest {
  protected:
@@ -37,7 +25,7 @@ class SchedulerTest : public RuntimeTest {
     thread.Run();
   }
 
-  const Ref<Host> window = New<Host>();
+  const Ref<Worker> window = New<Worker>();
 };
 
 TEST_F(SchedulerTest, DrawingIsPacedByTheFrameAndHastenedByThePointer) {
@@ -104,10 +92,6 @@ TEST_F(SchedulerTest, AYieldOnTheMainThreadGivesTurnsOnlyAfterLongWork) {
   int rounds = 0;
   repeat(window->thread, [&] { ++rounds; });
   Scheduler::instance().beginMainTurn();
-  const auto work = [] {
-    for (int i = 0; i < 1000; ++i)
-      RuntimeBackgroundTask();
-  };
   work();
   EXPECT_EQ(rounds, 0);
   fake().costOfLook = 1ms;

@@ -4,22 +4,14 @@
 #include <string>
 
 #include "runtime/concurrency/Fiber.h"
-#include "runtime/concurrency/Scheduler.h"
-#include "runtime/concurrency/Thread.h"
 #include "runtime/concurrency/Timer.h"
-#include "runtime/gui/Canvas.h"
+#include "runtime/concurrency/Worker.h"
 #include "support/RuntimeTest.h"
 
 namespace tavrelkin {
 namespace {
 
 using namespace std::chrono_literals;
-
-// Yields until a turn is over, some turns long.
-void work() {
-  for (int i = 0; i < 1000; ++i)
-    RuntimeBackgroundTask();
-}
 
 // Writes down when it goes, which takes it some turns.
 struct Mark {
@@ -30,20 +22,13 @@ struct Mark {
   }
 };
 
-class Host : public Window {
+class Host : public Worker {
  public:
-  explicit Host(std::string& events) : Window({.title = "Host", .width = 100, .height = 100}), log(events) {
-    canvas.place(0, 0, 10, 10);
-    canvas.Visible = false;
-  }
+  explicit Host(std::string& events) : log(events) {}
   ~Host() override { log += "gone "; }
   void Event_Close() override { log += "close "; }
-  void draw() { canvas.Graphics().Pixel(0, 0, kBlack); }
 
   std::string& log;
-  Canvas canvas{*this, "canvas"};
-  Thread thread{*this, "thread"};
-  Thread other{*this, "other"};
   Timer timer{*this, "timer"};
 };
 
