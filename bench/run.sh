@@ -45,7 +45,7 @@ END
 CPU figures vary from run to run with what else the machine does, those of the pointer in circles by a third.
 
 Writing a small swatch file is the file system's work: the rename that replaces the old file has the data written ahead
-of it, which takes most of the time on an ext4 disk. In a folder in memory the same write takes a third of it.
+of it, which takes most of the time on an ext4 disk. In a folder in memory the same write takes a fraction of it.
 
 ## Beside other programs
 
