@@ -43,7 +43,7 @@ void runEventLoop(std::chrono::milliseconds span) {
 
 void sample(benchmark::State& state, frmVesk& window) {
   for (auto _ : state) {
-    desktop().beginTurn();
+    desktop().screenReader().beginTurn();
     window.drawSys(kPointer.x, kPointer.y);
   }
 }
@@ -51,7 +51,7 @@ void sample(benchmark::State& state, frmVesk& window) {
 // As a sample reads them, column by column. The time is that of one read.
 void readPixels(benchmark::State& state, const frmVesk& window) {
   const PreviewGrid grid(1, window.imgScreen.Width, window.imgScreen.Height);
-  desktop().beginTurn();
+  desktop().screenReader().beginTurn();
   Int32 x = 0;
   Int32 y = 0;
   for (auto _ : state) {

@@ -82,6 +82,8 @@ void frmVesk::dress() {
   for (zrColorCHBar& bar : cmdMixer)
     bar.propColorChannel = bar.Index;
 
+  imgScreen.FollowsScreen = true;
+
   slZoom.Minimum = 1;
   slZoom.Maximum = 3;
   slZoom.Value = 1;

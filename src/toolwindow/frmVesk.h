@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "controls/zrColorBox.h"
@@ -151,6 +152,13 @@ class frmVesk : public Window {
   void leaveColourViews();
   // The end of a choice in the preview.
   void take(Color c);
+  void takeFromScreen();
+  // Whether the screen can be read at once. If not, the user is asked for it, or picks a colour for this window.
+  bool requestScreen();
+  void rememberPointer();
+  // The colour under the pointer, which is at (x, y) of the preview. Without the screen it is the preview's own pixel;
+  // nothing outside of it.
+  std::optional<Color> colorUnderPointer(Int32 x, Int32 y);
 
   // What the preview has come to show: cells, which keyboard and assistive technologies can choose, or the screen.
   void showsCells(const char* view, std::vector<ColourCell> cells);
@@ -160,6 +168,7 @@ class frmVesk : public Window {
   bool imgScreen_KeyDown(const String& key);
   void markCell(std::size_t index);
 
+  bool pressTakes_ = true;  // whether the release of the press that is held, or was last, takes a colour
   String shownView_;
   std::vector<ColourCell> shownCells_;
   Int32 markedCell_ = -1;

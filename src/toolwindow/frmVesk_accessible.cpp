@@ -34,7 +34,7 @@ class frmVesk::PreviewAccessible : public Accessible {
   }
 
   bool canBePressed() const override { return true; }
-  void press() override { window_.imgScreen_MouseUp(0, 0); }
+  void press() override { window_.takeFromScreen(); }
 
   Int32 cellCount() const override { return static_cast<Int32>(window_.shownCells_.size()); }
   Cell cell(Int32 index) const override {
@@ -93,13 +93,21 @@ bool frmVesk::imgScreen_KeyDown(const String& key) {
   const bool isMarked = markedCell_ >= 0;
   const std::size_t marked = isMarked ? static_cast<std::size_t>(markedCell_) : 0;
   if (isPressKey(key)) {
-    take(isMarked ? shownCells_.at(marked).colour : System::Pixel(System::MouseX(), System::MouseY()));
+    if (isMarked) {
+      take(shownCells_.at(marked).colour);
+    } else {
+      takeFromScreen();
+    }
     return true;
   }
   const bool isArrow = key == kLeftArrow || key == kRightArrow || key == kUpArrow || key == kDownArrow;
   if (!isArrow || shownCells_.empty()) return false;
   markCell(isMarked ? cellTowards(shownCells_, marked, key) : 0);
   return true;
+}
+
+void frmVesk::takeFromScreen() {
+  if (requestScreen()) take(System::Pixel(System::MouseX(), System::MouseY()));
 }
 
 void frmVesk::take(Color c) {

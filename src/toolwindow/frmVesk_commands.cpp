@@ -34,8 +34,8 @@ bool frmVesk::mnuFollow() {
     pokeMouse.Kill();
   } else {
     leaveColourViews();
-    varLastY = System::MouseY();
-    varLastX = System::MouseX();
+    System::RequestScreen();
+    rememberPointer();
     flgTrackMouse = true;
     pokeMouse.Run();
   }
@@ -43,12 +43,22 @@ bool frmVesk::mnuFollow() {
   return true;
 }
 
-// No pause and no rate of its own: the yield hands the loop its turns.
+void frmVesk::rememberPointer() {
+  varLastY = System::MouseY();
+  varLastX = System::MouseX();
+}
+
+// No pause and no rate of its own: the yield hands the loop its turns. Where the user is still being asked for the
+// screen, the pointer's place is not known before the answer. Without the screen there is nothing to follow.
 void frmVesk::pokeMouse_Run() {
-  while (flgTrackMouse) {
+  if (!System::CanReadScreen() && System::AwaitScreen()) rememberPointer();
+  while (flgTrackMouse && System::AwaitScreen()) {
     doTrackSysCursor();
     RuntimeBackgroundTask();
   }
+  if (!flgTrackMouse) return;
+  flgTrackMouse = false;
+  menuItem("mnuFollow").Checked = false;
 }
 
 bool frmVesk::mnuLockX() {
@@ -70,10 +80,7 @@ bool frmVesk::mnuLock() {
   flgLockX = lock;
   flgLockY = lock;
   menuItem("mnuLock").Checked = lock;
-  if (lock) {
-    varLastY = System::MouseY();
-    varLastX = System::MouseX();
-  }
+  if (lock) rememberPointer();
   return true;
 }
 
@@ -97,8 +104,14 @@ bool frmVesk::EditPaste() {
   return true;
 }
 
+// The window may be closed before the user has picked a colour.
+bool frmVesk::requestScreen() {
+  return System::RequestScreen([window = Ref<frmVesk>(this)](Color c) { window->setColor(c, false); });
+}
+
 // The locks hold the preview, not the colour that is taken.
 bool frmVesk::mnuPokeColor() {
+  if (!requestScreen()) return true;
   const Int32 x = System::MouseX();
   const Int32 y = System::MouseY();
   setColor(System::Pixel(x, y), false);

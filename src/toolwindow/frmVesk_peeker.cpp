@@ -106,22 +106,32 @@ void frmVesk::slZoom_ValueChanged() {
   imgScreen.Refresh(true);
 }
 
+// Cells show their colours by themselves; all else takes the screen, and the user repeats a press that had to ask for it.
 bool frmVesk::imgScreen_MouseDown(Int32, Int32) {
+  pressTakes_ = !shownCells_.empty() || requestScreen();
   return static_cast<bool>(zoomImage);
 }
 
 // A drag that has left the preview is an eye-dropper for the whole screen.
 void frmVesk::imgScreen_MouseDrag(Int32 x, Int32 y) {
-  if (x < 0 || x > imgScreen.Width || y < 0 || y > imgScreen.Height) doTrackSysCursor();
+  const bool hasLeft = x < 0 || x > imgScreen.Width || y < 0 || y > imgScreen.Height;
+  if (hasLeft && System::CanReadScreen()) doTrackSysCursor();
 }
 
-void frmVesk::imgScreen_MouseUp(Int32, Int32) {
-  take(System::Pixel(System::MouseX(), System::MouseY()));
+void frmVesk::imgScreen_MouseUp(Int32 x, Int32 y) {
+  if (!pressTakes_) return;
+  if (const auto under = colorUnderPointer(x, y)) take(*under);
 }
 
-void frmVesk::imgScreen_MouseMove(Int32, Int32) {
+void frmVesk::imgScreen_MouseMove(Int32 x, Int32 y) {
   if (flgTrackMouse) return;
-  view0_lblColor.Text = getStdColorString(System::Pixel(System::MouseX(), System::MouseY()));
+  if (const auto under = colorUnderPointer(x, y)) view0_lblColor.Text = getStdColorString(*under);
+}
+
+std::optional<Color> frmVesk::colorUnderPointer(Int32 x, Int32 y) {
+  if (System::CanReadScreen()) return System::Pixel(System::MouseX(), System::MouseY());
+  if (x < 0 || x >= imgScreen.Width || y < 0 || y >= imgScreen.Height) return std::nullopt;
+  return imgScreen.Graphics().Pixel(x, y);
 }
 
 }  // namespace tavrelkin

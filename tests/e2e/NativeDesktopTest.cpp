@@ -68,7 +68,7 @@ TEST(LostConnectionTest, IsToldOnceHoweverItIsFound) {
       EXPECT_EQ(reader->pixel({10, 10}), 0U);
       EXPECT_EQ(reader->pointer(), (ScreenPoint{123, 45}));
       EXPECT_FALSE(reader->optionKey());
-      reader->watchPointer(turn % 2 == 0 ? [] {} : std::function<void()>());
+      reader->watch(turn % 2 == 0 ? [] {} : std::function<void()>());
       QCoreApplication::processEvents();
     }
     EXPECT_EQ(losses.size(), 1U);

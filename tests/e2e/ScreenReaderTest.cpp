@@ -111,12 +111,12 @@ TEST_F(ScreenReaderTest, FollowsThePointerAndTheAltKey) {
 TEST_F(ScreenReaderTest, TellsOfMovementsWhileWatching) {
   for (const bool again : {false, true}) {
     calls_ = 0;
-    reader_->watchPointer([this] { ++calls_; });
+    reader_->watch([this] { ++calls_; });
     reader_->optionKey();  // waits until the server has begun to watch
     client_.movePointer(20, 30);
     EXPECT_TRUE(eventually([this] { return calls_ > 0; })) << again;
 
-    reader_->watchPointer({});
+    reader_->watch({});
     reader_->optionKey();
     ASSERT_TRUE(eventually(isIdle));
     calls_ = 0;
@@ -143,7 +143,7 @@ TEST_F(ScreenReaderTest, TellsOfMovementsThatArriveDuringARead) {
       [this] { reader_->pointer(); },
       [this] { reader_->optionKey(); },
   };
-  reader_->watchPointer([this] { ++calls_; });
+  reader_->watch([this] { ++calls_; });
   int x = 100;
   for (const auto& read : reads) {
     reader_->optionKey();
@@ -160,8 +160,8 @@ TEST_F(ScreenReaderTest, TellsOfMovementsThatArriveDuringARead) {
 }
 
 TEST_F(ScreenReaderTest, AWatcherMayEndItsWatch) {
-  reader_->watchPointer([this] {
-    reader_->watchPointer({});
+  reader_->watch([this] {
+    reader_->watch({});
     ++calls_;
   });
   for (const int x : {20, 30}) {

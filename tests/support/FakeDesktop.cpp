@@ -30,7 +30,11 @@ class FakeDesktop::FakeAlarm : public Alarm {
 
 void FakeDesktop::movePointer(ScreenPoint to) {
   pointerAt = to;
-  if (moved_) moved_();
+  changeScreen();
+}
+
+void FakeDesktop::changeScreen() {
+  if (changed_) changed_();
 }
 
 std::unique_ptr<Alarm> FakeDesktop::newAlarm(std::function<void()> ring) {

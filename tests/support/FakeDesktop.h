@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "runtime/desktop/Desktop.h"
@@ -13,13 +14,17 @@ namespace tavrelkin {
 
 // A desktop that a test plays: the screen is a function of the place, the pointer and the clock stand where the test
 // puts them, and messages are recorded in place of being shown.
-class FakeDesktop : public Desktop {
+class FakeDesktop : public Desktop, public ScreenReader {
  public:
   // What the test plays.
   std::function<std::uint32_t(ScreenPoint)> screen = [](ScreenPoint) { return 0u; };
   ScreenPoint pointerAt;
   bool optionHeld = false;
-  bool readable = true;
+  ScreenState screenState = ScreenState::live;
+  bool tellsChanges = false;
+  bool canPick = false;
+  // What the desktop does when the program asks for the screen.
+  std::function<void(Picked)> requested = [](Picked) {};
   // What the user does in the colour dialog, given the colour that it begins at: nothing is giving up.
   std::function<std::optional<std::uint32_t>(std::uint32_t)> colourChoice = [](std::uint32_t) { return std::nullopt; };
   // What the user does in the save dialog, given the name that it begins with: a path, or nothing for giving up.
@@ -36,7 +41,7 @@ class FakeDesktop : public Desktop {
   std::vector<std::string> colourPrompts;
   std::vector<std::string> saveNames;
   int turns = 0;
-  bool watchesPointer() const { return static_cast<bool>(moved_); }
+  bool watchesScreen() const { return static_cast<bool>(changed_); }
 
   // Moves the pointer, and tells whoever watches it.
   void movePointer(ScreenPoint to);
@@ -47,12 +52,18 @@ class FakeDesktop : public Desktop {
   // The time until the next alarm, or none.
   std::optional<std::chrono::nanoseconds> nextAlarm() const;
 
-  bool canReadScreen() const override { return readable; }
-  std::string whyNoScreen() const override { return readable ? "" : "The screen can't be read here."; }
+  // Tells whoever watches the screen that it has changed.
+  void changeScreen();
+
+  ScreenReader& screenReader() override { return *this; }
+  ScreenState state() const override { return screenState; }
+  void request(Picked picked) override { requested(std::move(picked)); }
+  bool canPickColor() const override { return canPick; }
   void beginTurn() override { ++turns; }
   std::uint32_t pixel(ScreenPoint at) override { return screen(pixelsRead.emplace_back(at)); }
   ScreenPoint pointer() override { return pointerAt; }
-  void watchPointer(std::function<void()> moved) override { moved_ = std::move(moved); }
+  void watch(std::function<void()> changed) override { changed_ = std::move(changed); }
+  bool tellsEachChange() const override { return tellsChanges; }
   bool optionKey() override { return optionHeld; }
   TimePoint now() const override { return now_ += costOfLook; }
   std::chrono::nanoseconds frameInterval() const override { return frame; }
@@ -76,7 +87,7 @@ class FakeDesktop : public Desktop {
   FakeAlarm* next(TimePoint until) const;
 
   mutable TimePoint now_{std::chrono::seconds(1000)};
-  std::function<void()> moved_;
+  std::function<void()> changed_;
   std::vector<FakeAlarm*> alarms_;
 };
 

@@ -134,7 +134,7 @@ TEST_F(FollowTest, AFollowingWindowCanBeClosedAnyTime) {
       fake().advance(50ms);
       EXPECT_EQ(MortalVesk::ended, 1);
       EXPECT_FALSE(fake().nextAlarm());
-      EXPECT_FALSE(fake().watchesPointer());
+      EXPECT_FALSE(fake().watchesScreen());
       processEvents();
     }
   }

@@ -43,7 +43,7 @@ void Scheduler::start(Thread& thread, Ref<Window> owner) {
                                          static_cast<std::size_t>(std::max(thread.StackSize, 0)));
   entry->due = desktop().now();
   entries_.push_back(std::move(entry));
-  if (!std::exchange(watching_, true)) desktop().watchPointer([this] { pointerMoved(); });
+  watchWhileSeen();
   setAlarm();
 }
 
@@ -60,6 +60,24 @@ void Scheduler::kill(Thread& thread) {
 
 bool Scheduler::runs(const Thread& thread) const {
   return std::any_of(entries_.begin(), entries_.end(), isFor(thread));
+}
+
+void Scheduler::beginMainTurn() {
+  mainTurnBegan_ = desktop().now();
+  for (const auto& entry : entries_)
+    if (entry->due == kNotByTime && !entry->waits) hasten(*entry, mainTurnBegan_ + desktop().frameInterval());
+}
+
+bool Scheduler::waitForScreen() {
+  if (!current_ || handlers_ > 0) return false;
+  current_->waits = true;
+  Fiber::suspend();
+  return true;
+}
+
+void Scheduler::windowSeen() {
+  watchWhileSeen();
+  screenChanged();
 }
 
 void Scheduler::lookAtClock() {
@@ -79,16 +97,17 @@ void Scheduler::runDueThread() {
 }
 
 void Scheduler::runTurn(Entry& entry) {
-  desktop().beginTurn();
+  desktop().screenReader().beginTurn();
   turnBegan_ = desktop().now();
   current_ = &entry;
   drew_ = false;
   const int outerHandlers = std::exchange(handlers_, 0);
+  entry.waits = false;
   entry.fiber->resume();
   handlers_ = outerHandlers;
   entry.paced = std::exchange(drew_, false);
   current_ = nullptr;
-  desktop().beginTurn();
+  desktop().screenReader().beginTurn();
   if (entry.fiber->finished()) {
     remove(*entry.thread);
   } else {
@@ -98,8 +117,14 @@ void Scheduler::runTurn(Entry& entry) {
 
 void Scheduler::planNextTurn(Entry& entry) {
   if (std::exchange(entry.forPointer, false)) entry.lastPointerTurn = turnBegan_;
-  if (!entry.paced) {
+  if (!entry.paced && !entry.waits) {
     entry.due = desktop().now();
+    return;
+  }
+  const bool isSeen = entry.owner->isSeen();
+  if (!isSeen) watchWhileSeen();
+  if (entry.waits || !isSeen || desktop().screenReader().tellsEachChange()) {
+    entry.due = kNotByTime;
     return;
   }
   // Frames follow each other in step, however long the turns take. While the pointer moves, its movements set the pace
@@ -110,19 +135,36 @@ void Scheduler::planNextTurn(Entry& entry) {
   entry.due = pointerLeads ? turnBegan_ + frame * 5 / 4 : inStep > turnBegan_ ? inStep : turnBegan_ + frame;
 }
 
-void Scheduler::pointerMoved() {
+// A window that nobody sees takes no part: it would only look at what it can't show.
+void Scheduler::screenChanged() {
   const TimePoint now = desktop().now();
   for (const auto& entry : entries_) {
+    if (!entry->waits && !(entry->paced && entry->owner->isSeen())) continue;
     const TimePoint soonest = std::max(now, entry->lastPointerTurn + kPointerGap);
-    if (!entry->paced || entry->due <= soonest) continue;
-    entry->due = soonest;
+    if (entry->due <= soonest) continue;
     entry->forPointer = true;
+    hasten(*entry, soonest);
   }
+}
+
+void Scheduler::hasten(Entry& entry, TimePoint due) {
+  entry.due = due;
   setAlarm();
 }
 
+// The pointer's movements and the changes of the screen are watched while they can cause a turn.
+void Scheduler::watchWhileSeen() {
+  const auto isSeen = [](const auto& entry) { return entry->owner->isSeen(); };
+  if (std::none_of(entries_.begin(), entries_.end(), isSeen)) {
+    watch_.reset();
+  } else if (!watch_) {
+    watch_.emplace([this] { screenChanged(); });
+  }
+}
+
 void Scheduler::setAlarm() {
-  if (const Entry* next = earliest()) {
+  const Entry* next = earliest();
+  if (next && next->due != kNotByTime) {
     alarm_->set(next->due - desktop().now());
   } else {
     alarm_->cancel();
@@ -140,7 +182,7 @@ void Scheduler::remove(const Thread& thread) {
   // Taken out first: letting go of the owner may end its window, and with it the thread.
   const std::unique_ptr<Entry> gone = std::move(*found);
   entries_.erase(found);
-  if (entries_.empty() && std::exchange(watching_, false)) desktop().watchPointer({});
+  watchWhileSeen();
 }
 
 }  // namespace tavrelkin

@@ -2,11 +2,13 @@
 
 #include <chrono>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "runtime/base/Ref.h"
 #include "runtime/concurrency/Fiber.h"
 #include "runtime/desktop/Desktop.h"
+#include "runtime/system/ScreenWatch.h"
 
 namespace tavrelkin {
 
@@ -17,7 +19,8 @@ class Window;
 // thread at its own yields when it has been at work for long. A turn ends when its time is over or when the thread has
 // drawn on a canvas: a thread that draws faster than the display shows would only burn power. It goes on when the next
 // frame is due, or at once when the pointer has moved, so that a preview neither lags behind the hand nor misses a
-// screen that changes under a still pointer.
+// screen that changes under a still pointer. Where the desktop tells of each change on the screen, or where nobody sees
+// the thread's window, it doesn't wait for the frame, but for such a change or for the window to be seen again.
 class Scheduler {
  public:
   using TimePoint = Desktop::TimePoint;
@@ -50,8 +53,15 @@ class Scheduler {
   // A canvas is being drawn on, by whoever runs.
   void canvasDrawn() { drew_ = current_ != nullptr; }
 
-  // A handler is entered from the event loop.
-  void beginMainTurn() { mainTurnBegan_ = desktop().now(); }
+  // A handler is entered from the event loop. It may change what a thread is to draw, so that each gets a turn soon.
+  void beginMainTurn();
+
+  // The thread that runs gives way until the desktop tells of a change of the screen or of its state. False, and no
+  // waiting, outside of a thread.
+  bool waitForScreen();
+
+  // A window has come into sight, or gone out of it.
+  void windowSeen();
 
   // Held while the toolkit runs a handler. A thread may have made it do so, by showing a control for instance; it gives
   // way only afterwards, so that no half-done work of the toolkit waits on its stack, or is unwound.
@@ -74,13 +84,19 @@ class Scheduler {
     TimePoint lastPointerTurn{};
     bool paced = false;       // it has drawn and waits for the next frame or a movement of the pointer
     bool forPointer = false;  // the turn it waits for was asked for by a movement
+    bool waits = false;       // it gave way in waitForScreen()
   };
+
+  // When a thread is due that waits for something else than the time.
+  static constexpr TimePoint kNotByTime = TimePoint::max();
 
   void lookAtClock();
   void runDueThread();
   void runTurn(Entry& entry);
   void planNextTurn(Entry& entry);
-  void pointerMoved();
+  void screenChanged();
+  void hasten(Entry& entry, TimePoint due);
+  void watchWhileSeen();
   void setAlarm();
   Entry* earliest();
   void remove(const Thread& thread);
@@ -93,7 +109,7 @@ class Scheduler {
   unsigned yields_ = 0;
   TimePoint turnBegan_{};
   TimePoint mainTurnBegan_{};
-  bool watching_ = false;
+  std::optional<ScreenWatch> watch_;
 };
 
 }  // namespace tavrelkin

@@ -8,15 +8,9 @@
 #include <string>
 
 #include "runtime/desktop/Offer.h"
+#include "runtime/desktop/ScreenReader.h"
 
 namespace tavrelkin {
-
-// A position in the screen's own pixels, over all monitors. May be negative, and may lie off every monitor.
-struct ScreenPoint {
-  std::int32_t x = 0;
-  std::int32_t y = 0;
-  friend bool operator==(ScreenPoint, ScreenPoint) = default;
-};
 
 // A call that is made once, later, from the event loop. Destroying or cancelling it before then takes it back.
 class Alarm {
@@ -43,28 +37,8 @@ class Desktop {
   Desktop& operator=(const Desktop&) = delete;
   virtual ~Desktop() = default;
 
-  // Whether pixel() can give what is on screen. Where it can't, whyNoScreen() is a text for the user that says so and
-  // what helps; else it is empty.
-  virtual bool canReadScreen() const = 0;
-  virtual std::string whyNoScreen() const = 0;
-
-  // The program's code is entered anew: what pointer() and pixel() keep for speed is stale from here on. Cheap.
-  virtual void beginTurn() = 0;
-
-  // The pixel at `at` as 0xRRGGBB, whichever window shows there. Black off the screen. Within one turn the answers may
-  // come from one capture, which is never older than a few milliseconds. Meaningless where canReadScreen() is false.
-  virtual std::uint32_t pixel(ScreenPoint at) = 0;
-
-  // Where the pointer is, also when the program is not in front.
-  virtual ScreenPoint pointer() = 0;
-
-  // While on, `moved` is called from the event loop soon after each movement of the pointer, wherever it is. A backend
-  // that can't watch never calls it. Off at first; an empty function turns it off, and an idle program leaves it off,
-  // since every movement wakes the process.
-  virtual void watchPointer(std::function<void()> moved) = 0;
-
-  // Whether the Option (Alt) key is held down now.
-  virtual bool optionKey() = 0;
+  // The screen, the pointer and the Option key. It lives as long as the desktop.
+  virtual ScreenReader& screenReader() = 0;
 
   // A clock that only goes forward.
   virtual TimePoint now() const = 0;

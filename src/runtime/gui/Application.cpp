@@ -6,7 +6,6 @@
 #include <QCoreApplication>
 #include <QMetaObject>
 
-#include "runtime/desktop/Desktop.h"
 #include "runtime/qt/Delivery.h"
 
 namespace tavrelkin {
@@ -67,13 +66,6 @@ void Application::enable(const std::vector<Ref<MenuItem>>& items) {
     const bool taken = (front && front->menuHandlers().has(item->Name())) || handlers_.has(item->Name());
     item->Enabled = taken || item->answersItself();
   }
-}
-
-// From the event loop, since a thread may be asking, whose stack can't hold a dialog's loop.
-void Application::tellWhyNoScreen() {
-  if (std::exchange(toldWhyNoScreen_, true)) return;
-  QMetaObject::invokeMethod(
-      QCoreApplication::instance(), [] { desktop().messageBox(desktop().whyNoScreen()); }, Qt::QueuedConnection);
 }
 
 void Application::windowInFront(Window& window) {

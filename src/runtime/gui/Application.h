@@ -64,9 +64,6 @@ class Application : public Object {
     return made;
   }
 
-  // Has the user told, at the first call, why the screen can't be read.
-  void tellWhyNoScreen();
-
   // For windows: one comes to the front, or goes.
   void windowInFront(Window& window);
   void windowClosed(Window& window);
@@ -82,7 +79,6 @@ class Application : public Object {
   MenuHandlers handlers_;
   std::vector<Ref<Window>> openWindows_;
   std::map<std::type_index, Window*> defaults_;
-  bool toldWhyNoScreen_ = false;
 };
 
 }  // namespace tavrelkin

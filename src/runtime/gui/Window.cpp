@@ -55,6 +55,10 @@ void Window::SetFocus() {
   if (open_) native_->showInFront();
 }
 
+bool Window::isSeen() const {
+  return native_->isSeen();
+}
+
 Control* Window::control(const String& name, Int32 index) const {
   for (Control* each : controls_) {
     if (each->Name() == name && each->Index == index) return each;

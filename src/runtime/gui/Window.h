@@ -57,6 +57,9 @@ class Window : public Object {
 
   bool isOpen() const { return open_; }
 
+  // False while the machine has said that nothing of the window is in sight, as when it is minimised.
+  bool isSeen() const;
+
   // The control of that name and index, or null.
   Control* control(const String& name, Int32 index = 0) const;
 

@@ -1,5 +1,6 @@
 #include "runtime/qt/CanvasWidget.h"
 
+#include <chrono>
 #include <cstring>
 #include <utility>
 
@@ -9,6 +10,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 
+#include "runtime/desktop/Desktop.h"
 #include "runtime/gui/Canvas.h"
 #include "runtime/gui/Window.h"
 #include "runtime/qt/Delivery.h"
@@ -47,6 +49,13 @@ void takeCopy(QDropEvent& event) {
 CanvasWidget::CanvasWidget(Canvas& canvas) : canvas_(&canvas) {
   setAttribute(Qt::WA_OpaquePaintEvent);
   setMouseTracking(true);
+  restingPointer_.setSingleShot(true);
+  restingPointer_.callOnTimeout(this, &CanvasWidget::followScreenNoMore);
+}
+
+void CanvasWidget::detach() {
+  canvas_ = nullptr;
+  followScreenNoMore();
 }
 
 void CanvasWidget::showSoon() {
@@ -146,17 +155,37 @@ void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
   if (!canvas_) return;
   // A drag out of the canvas takes the release with it.
   if (!(event->buttons() & Qt::LeftButton)) granted_ = false;
-  const QPoint at = pixelUnder(*event);
-  deliver(canvas_->ownerWindow(), [&] {
+  movedTo_ = pixelUnder(*event);
+  movedWithoutButton_ = event->buttons() == Qt::NoButton;
+  followScreen();
+  tellMovement();
+}
+
+void CanvasWidget::tellMovement() {
+  deliver(canvas_->ownerWindow(), [this] {
     if (granted_) {
-      canvas_->Event_MouseDrag(at.x(), at.y());
-    } else if (event->buttons() == Qt::NoButton && canvas_->Enabled) {
-      canvas_->Event_MouseMove(at.x(), at.y());
+      canvas_->Event_MouseDrag(movedTo_.x(), movedTo_.y());
+    } else if (movedWithoutButton_ && canvas_->Enabled) {
+      canvas_->Event_MouseMove(movedTo_.x(), movedTo_.y());
     }
   });
 }
 
+void CanvasWidget::followScreen() {
+  constexpr std::chrono::milliseconds settled(200);
+  if (!canvas_->FollowsScreen || !desktop().screenReader().tellsEachChange()) return;
+  if (!watch_) watch_.emplace([this] { tellMovement(); });
+  restingPointer_.stop();
+  if (movedWithoutButton_) restingPointer_.start(settled);
+}
+
+void CanvasWidget::followScreenNoMore() {
+  restingPointer_.stop();
+  watch_.reset();
+}
+
 void CanvasWidget::mouseReleaseEvent(QMouseEvent* event) {
+  followScreenNoMore();
   if (!canvas_ || event->button() != Qt::LeftButton || !std::exchange(granted_, false)) return;
   const QPoint at = pixelUnder(*event);
   deliver(canvas_->ownerWindow(), [&] { canvas_->Event_MouseUp(at.x(), at.y()); });
@@ -167,6 +196,7 @@ void CanvasWidget::enterEvent(QEnterEvent*) {
 }
 
 void CanvasWidget::leaveEvent(QEvent*) {
+  followScreenNoMore();
   if (canvas_) deliver(canvas_->ownerWindow(), [&] { canvas_->Event_MouseExit(); });
 }
 

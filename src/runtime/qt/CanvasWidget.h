@@ -1,9 +1,13 @@
 #pragma once
 
+#include <optional>
+
 #include <QImage>
+#include <QTimer>
 #include <QWidget>
 
 #include "runtime/drawing/Surface.h"
+#include "runtime/system/ScreenWatch.h"
 
 namespace tavrelkin {
 
@@ -16,7 +20,7 @@ class CanvasWidget : public QWidget {
   explicit CanvasWidget(Canvas& canvas);
 
   // The canvas goes; what still comes from the toolkit is ignored.
-  void detach() { canvas_ = nullptr; }
+  void detach();
 
   // The canvas, or null when it is gone.
   Canvas* canvas() const { return canvas_; }
@@ -46,15 +50,24 @@ class CanvasWidget : public QWidget {
   // Whether the window need not paint beneath. It must at a scale that is no whole number, where the toolkit may leave
   // out pixels between two widgets.
   void setOpaque(bool opaque);
+  // Raises the MouseDrag or MouseMove of the last movement.
+  void tellMovement();
+  // Has it raised again with each change of the screen, while the button is held or for a moment.
+  void followScreen();
+  void followScreenNoMore();
   // The pixel of the canvas that shows under the pointer, also left of and above it.
   QPoint pixelUnder(const QMouseEvent& event) const;
 
   Canvas* canvas_;
+  QPoint movedTo_;  // the canvas's pixel that the last movement led to
+  bool movedWithoutButton_ = false;
   bool granted_ = false;           // the press now held was accepted by the canvas
   Surface surface_{0, 0, kWhite};  // as it was last shown
   QImage enlarged_;                // for the screen it is on; none where that takes no enlargement, or not made yet
   qreal enlargedBy_ = 1;
   bool showPosted_ = false;
+  std::optional<ScreenWatch> watch_;  // while movements are raised again
+  QTimer restingPointer_;
 };
 
 }  // namespace tavrelkin

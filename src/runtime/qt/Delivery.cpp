@@ -35,7 +35,7 @@ void forgetFault() {
 
 bool enterProgram() {
   if (ending) return false;
-  desktop().beginTurn();
+  desktop().screenReader().beginTurn();
   Scheduler::instance().beginMainTurn();
   return true;
 }

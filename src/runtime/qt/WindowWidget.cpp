@@ -9,7 +9,9 @@
 #include <QMenuBar>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <QWindow>
 
+#include "runtime/concurrency/Scheduler.h"
 #include "runtime/gui/Window.h"
 #include "runtime/qt/Convert.h"
 #include "runtime/qt/Delivery.h"
@@ -123,6 +125,20 @@ void WindowWidget::keyPressEvent(QKeyEvent* event) {
   } else {
     QWidget::keyPressEvent(event);
   }
+}
+
+void WindowWidget::showEvent(QShowEvent* event) {
+  QWidget::showEvent(event);
+  windowHandle()->installEventFilter(this);
+}
+
+// On Wayland this is the only sign that a window was minimised.
+bool WindowWidget::eventFilter(QObject* watched, QEvent* event) {
+  if (watched == windowHandle() && event->type() == QEvent::Expose) {
+    const bool isSeen = windowHandle()->isExposed();
+    if (std::exchange(isSeen_, isSeen) != isSeen) Scheduler::instance().windowSeen();
+  }
+  return QWidget::eventFilter(watched, event);
 }
 
 void WindowWidget::closeEvent(QCloseEvent* event) {

@@ -28,7 +28,12 @@ class WindowWidget : public QWidget {
   void setMenuBar(const Ref<MenuBar>& bar);
   void showInFront();
 
+  // False while the toolkit says that no part of the window is in sight. Before the window is shown first it is true.
+  bool isSeen() const { return isSeen_; }
+
  protected:
+  bool eventFilter(QObject* watched, QEvent* event) override;
+  void showEvent(QShowEvent* event) override;
   bool focusNextPrevChild(bool next) override;
   void keyPressEvent(QKeyEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
@@ -43,6 +48,7 @@ class WindowWidget : public QWidget {
   QWidget* content_;
   qreal scale_ = 1;  // of the screen it was on when it was last resized
   QTimer rescaled_;
+  bool isSeen_ = true;
 };
 
 }  // namespace tavrelkin

@@ -5,7 +5,7 @@
 namespace tavrelkin::Keyboard {
 
 bool AsyncOptionKey() {
-  return desktop().optionKey();
+  return desktop().screenReader().optionKey();
 }
 
 }  // namespace tavrelkin::Keyboard

@@ -1,22 +1,52 @@
 #include "runtime/system/System.h"
 
+#include <utility>
+
+#include "runtime/concurrency/Scheduler.h"
 #include "runtime/desktop/Desktop.h"
-#include "runtime/gui/Application.h"
+#include "runtime/qt/Delivery.h"
 
 namespace tavrelkin::System {
 
 Int32 MouseX() {
-  return desktop().pointer().x;
+  return desktop().screenReader().pointer().x;
 }
 
 Int32 MouseY() {
-  return desktop().pointer().y;
+  return desktop().screenReader().pointer().y;
 }
 
 Color Pixel(Int32 x, Int32 y) {
-  Desktop& screen = desktop();
-  if (!screen.canReadScreen()) Application::current().tellWhyNoScreen();
-  return Color{screen.pixel({x, y})};
+  return Color{desktop().screenReader().pixel({x, y})};
+}
+
+bool CanReadScreen() {
+  const ScreenReader& reader = desktop().screenReader();
+  switch (reader.state()) {
+    case ScreenState::live:
+    case ScreenState::idle:
+      return true;
+    case ScreenState::unavailable:
+      return !reader.canPickColor();
+    default:
+      return false;
+  }
+}
+
+bool RequestScreen(std::function<void(Color)> picked) {
+  ScreenReader::Picked take;
+  if (picked) take = [picked = std::move(picked)](std::uint32_t rgb) { deliver([&] { picked(Color{rgb}); }); };
+  const bool canRead = CanReadScreen();
+  desktop().screenReader().request(std::move(take));
+  return canRead;
+}
+
+bool AwaitScreen() {
+  const ScreenReader& reader = desktop().screenReader();
+  const auto isComing = [&] { return reader.state() == ScreenState::asking || reader.state() == ScreenState::idle; };
+  while (isComing() && Scheduler::instance().waitForScreen()) {
+  }
+  return CanReadScreen();
 }
 
 }  // namespace tavrelkin::System

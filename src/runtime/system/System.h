@@ -1,5 +1,7 @@
 #pragma once
 
+#include <functional>
+
 #include "runtime/base/Number.h"
 #include "runtime/drawing/Color.h"
 
@@ -11,8 +13,20 @@ Int32 MouseX();
 Int32 MouseY();
 
 // The colour on screen at a place, whichever window shows there, the program's own included. Black off the screen.
-// Where the desktop lets no program read the screen, the user is told so once, and the result is a pattern of greys
-// that can't be taken for the screen.
+// Where the screen can't be read, the result is a pattern of greys that can't be taken for the screen.
 Color Pixel(Int32 x, Int32 y);
+
+// Whether Pixel gives what is on screen. Also true on a desktop that gives the screen to no program: Pixel explains that
+// to the user, once, and gives the greys.
+bool CanReadScreen();
+
+// Asks for the screen where the desktop lets a program read it with the user's permission only. True where it can be
+// read already; else the desktop asks the user, who has to repeat the gesture then. On a desktop that gives no more than
+// single colours the user picks one, which `picked` gets later, from the event loop.
+bool RequestScreen(std::function<void(Color)> picked = {});
+
+// For a thread: waits until the user has answered and the desktop shows the screen. Gives whether it can be read. On the
+// main thread it does not wait.
+bool AwaitScreen();
 
 }  // namespace tavrelkin::System

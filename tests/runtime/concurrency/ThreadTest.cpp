@@ -97,7 +97,7 @@ TEST_F(ThreadTest, KillUnwindsAThreadWhoseDestructorsYieldWhoeverCallsIt) {
     ASSERT_TRUE(window->thread.IsRunning()) << row.killer;
     row.kill();
     EXPECT_EQ(log, row.log) << row.killer;
-    EXPECT_FALSE(window->thread.IsRunning() || fake().watchesPointer()) << row.killer;
+    EXPECT_FALSE(window->thread.IsRunning() || fake().watchesScreen()) << row.killer;
   }
   window->thread.Run();
   kill();

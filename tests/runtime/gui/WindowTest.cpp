@@ -10,7 +10,6 @@
 #include "runtime/gui/PushButton.h"
 #include "runtime/gui/Slider.h"
 #include "runtime/qt/WindowWidget.h"
-#include "runtime/system/System.h"
 #include "support/Gestures.h"
 #include "support/RuntimeTest.h"
 
@@ -137,18 +136,6 @@ TEST_F(WindowTest, TheContentHasTheWindowsSizeBelowTheMenuBar) {
   EXPECT_GT(bar, 0);
   EXPECT_EQ(host->content().geometry(), QRect(0, bar, 100, 200));
   EXPECT_EQ(host->native().size(), QSize(100, 200 + bar));
-}
-
-TEST_F(WindowTest, AnUnreadableScreenIsToldOnceInEachRunOfTheProgram) {
-  fake().readable = false;
-  for (const std::size_t run : {1u, 2u}) {
-    start(New<Application>());
-    System::Pixel(0, 0);
-    System::Pixel(1, 1);
-    EXPECT_EQ(fake().messages.size(), run - 1) << "a thread may be asking";
-    processEvents();
-    EXPECT_EQ(fake().messages.size(), run);
-  }
 }
 
 TEST_F(WindowTest, AFaultInAHandlerIsToldOnceAndEndsTheProgramWithStatusOne) {

@@ -55,13 +55,6 @@ bool isWaylandSession() {
   return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || QGuiApplication::platformName().startsWith("wayland");
 }
 
-std::unique_ptr<ScreenReader> makeScreenReader() {
-  if (isWaylandSession()) return std::make_unique<NoScreenReader>(kWhyNotOnWayland);
-  if (QGuiApplication::platformName() == "xcb")
-    if (auto reader = makeX11ScreenReader(endProgram)) return reader;
-  return std::make_unique<NoScreenReader>(kWhyNotHere);
-}
-
 // A dialog that has just been closed may still count as active, though it goes soon, and would take one over it along.
 QWidget* frontWindow() {
   QWidget* window = QApplication::activeWindow();
@@ -100,17 +93,11 @@ class NativeAlarm final : public Alarm {
 
 class NativeDesktop final : public Desktop {
  public:
-  NativeDesktop() : reader_(makeScreenReader()), canReadScreen_(reader_->whyNoScreen().empty()) {
+  NativeDesktop() : reader_(makeScreenReader()) {
     if (QGuiApplication::platformName() == "xcb") offers_ = std::make_unique<X11Offers>();
   }
 
-  bool canReadScreen() const override { return canReadScreen_; }
-  std::string whyNoScreen() const override { return reader_->whyNoScreen(); }
-  void beginTurn() override { reader_->beginTurn(); }
-  std::uint32_t pixel(ScreenPoint at) override { return reader_->pixel(at); }
-  ScreenPoint pointer() override { return reader_->pointer(); }
-  void watchPointer(std::function<void()> moved) override { reader_->watchPointer(std::move(moved)); }
-  bool optionKey() override { return reader_->optionKey(); }
+  ScreenReader& screenReader() override { return *reader_; }
 
   TimePoint now() const override { return std::chrono::steady_clock::now(); }
   std::chrono::nanoseconds frameInterval() const override;
@@ -127,10 +114,26 @@ class NativeDesktop final : public Desktop {
   std::unique_ptr<Offer> dropOffer() override { return offers_ ? offers_->drop() : nullptr; }
 
  private:
+  std::unique_ptr<ScreenReader> makeScreenReader();
+
+  // Shows a message from the event loop, since a thread may be asking, whose stack can't hold a dialog's loop.
+  void tellSoon(const std::string& text);
+
   std::unique_ptr<ScreenReader> reader_;
-  bool canReadScreen_;  // asked at each pixel
   std::unique_ptr<X11Offers> offers_;
+  QObject context_;  // takes back what is not told yet when the desktop goes
 };
+
+std::unique_ptr<ScreenReader> NativeDesktop::makeScreenReader() {
+  if (isWaylandSession()) return std::make_unique<NoScreenReader>([this] { tellSoon(kWhyNotOnWayland); });
+  if (QGuiApplication::platformName() == "xcb")
+    if (auto reader = makeX11ScreenReader(endProgram)) return reader;
+  return std::make_unique<NoScreenReader>([this] { tellSoon(kWhyNotHere); });
+}
+
+void NativeDesktop::tellSoon(const std::string& text) {
+  QMetaObject::invokeMethod(&context_, [this, text] { messageBox(text); }, Qt::QueuedConnection);
+}
 
 // Some displays state no rate, or a senseless one.
 std::chrono::nanoseconds NativeDesktop::frameInterval() const {

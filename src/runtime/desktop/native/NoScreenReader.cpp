@@ -1,6 +1,5 @@
 #include "runtime/desktop/native/NoScreenReader.h"
 
-#include <cassert>
 #include <utility>
 
 #include <QCursor>
@@ -8,14 +7,21 @@
 
 namespace tavrelkin {
 
-NoScreenReader::NoScreenReader(std::string why) : why_(std::move(why)) {
-  assert(!why_.empty());
-}
-
-std::uint32_t NoScreenReader::pixel(ScreenPoint at) {
+std::uint32_t patternOfGreys(ScreenPoint at) {
   constexpr std::int32_t kSquare = 8;
   const bool isDark = ((at.x ^ at.y) & kSquare) != 0;
   return isDark ? 0x999999 : 0xCCCCCC;
+}
+
+NoScreenReader::NoScreenReader(std::function<void()> tellWhy) : tellWhy_(std::move(tellWhy)) {}
+
+void NoScreenReader::request(Picked) {
+  if (const auto tell = std::exchange(tellWhy_, nullptr)) tell();
+}
+
+std::uint32_t NoScreenReader::pixel(ScreenPoint at) {
+  request({});
+  return patternOfGreys(at);
 }
 
 ScreenPoint NoScreenReader::pointer() {

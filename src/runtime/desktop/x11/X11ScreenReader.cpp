@@ -46,7 +46,7 @@ class X11ScreenReader final : public ScreenReader {
   }
 
   ScreenPoint pointer() override;
-  void watchPointer(std::function<void()> moved) override;
+  void watch(std::function<void()> changed) override;
   bool optionKey() override;
 
  private:
@@ -140,8 +140,8 @@ XcbPtr<xcb_query_pointer_reply_t> X11ScreenReader::askPointer() {
   return reply;
 }
 
-void X11ScreenReader::watchPointer(std::function<void()> moved) {
-  watch_.set(std::move(moved));
+void X11ScreenReader::watch(std::function<void()> changed) {
+  watch_.set(std::move(changed));
 }
 
 // Waiting for a reply, XCB may have read events as well. The socket stays silent about those.

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <functional>
+
+namespace tavrelkin {
+
+// While it lives, `changed` is called from the event loop after each change that the desktop's ScreenReader tells of.
+// Any number can live at a time.
+class ScreenWatch {
+ public:
+  explicit ScreenWatch(std::function<void()> changed);
+  ScreenWatch(const ScreenWatch&) = delete;
+  ScreenWatch& operator=(const ScreenWatch&) = delete;
+  ~ScreenWatch();
+
+ private:
+  static void callAll();
+
+  std::function<void()> changed_;
+};
+
+}  // namespace tavrelkin
