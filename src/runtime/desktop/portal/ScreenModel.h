@@ -66,7 +66,7 @@ class ScreenModel {
     std::int64_t frame = 1;
     std::int64_t logical = 1;
     bool operator<(const Scale& other) const { return frame * other.logical < other.frame * logical; }
-    std::int64_t times(std::int64_t length) const;
+    std::int32_t times(std::int32_t length) const;
   };
 
   struct Monitor {
@@ -84,12 +84,9 @@ class ScreenModel {
   };
 
   void arrange();
-  void arrangeByPosition();
-  void arrangeSideBySide();
-  const Monitor* find(ScreenPoint at);
 
   std::vector<Monitor> monitors_;
-  bool positioned_ = false;    // whether all streams say where they are
+  bool isSideBySide_ = false;
   std::size_t lastFound_ = 0;  // of monitors_: most reads are next to the one before
   std::size_t pointerOwner_ = 0;
   std::optional<ScreenPoint> pointerPlace_;  // in the owner's frame

@@ -11,13 +11,15 @@
 
 #include <QObject>
 
+#include "runtime/desktop/portal/PipeWireConnection.h"
 #include "runtime/desktop/portal/ScreenCast.h"
 #include "runtime/desktop/portal/ScreenModel.h"
+#include "runtime/desktop/portal/ScreenStream.h"
 
 namespace tavrelkin {
 
-// Receives the frames and the pointer of a screen cast by PipeWire, on a thread of its own. All operations are for the
-// thread of the event loop, which never holds that thread up.
+// Receives the frames and the pointer of a screen cast by PipeWire. A thread takes them out of the buffers that
+// PipeWire shares with the desktop, and never waits for the thread of the event loop, which all operations are for.
 class ScreenStreams {
  public:
   using Clock = std::chrono::steady_clock;
@@ -61,6 +63,52 @@ class ScreenStreams {
 
   // Blocks until the pointer has stayed in its place for `quiet`, counted from the call on; for `longest` at most.
   void waitForRest(std::chrono::milliseconds quiet, std::chrono::milliseconds longest) const;
+
+ private:
+  struct StreamStatus {
+    bool streaming = false;
+    bool pausedUnasked = false;
+    bool fresh = false;  // has had a frame since it was made active
+  };
+
+  // What the event loop has not been told yet.
+  struct News {
+    bool posted = false;
+    bool changed = false;
+    std::optional<bool> paused;
+    bool lost = false;
+  };
+
+  ScreenStreams(const std::vector<CastStream>& streams, Events events);
+  bool start(ScreenCast cast, std::uint32_t mostFrames);
+
+  // On the thread of the connection.
+  void arrived(std::size_t stream, const StreamArrival& arrival);
+  void stateChanged(std::size_t stream, StreamState state);
+  void ended();
+
+  void post();
+  void tell();
+  bool areFresh() const;
+
+  mutable std::mutex mutex_;  // for all that follows, up to the next blank line
+  mutable std::condition_variable arrival_;
+  ScreenModel model_;
+  std::vector<StreamStatus> statuses_;
+  bool active_ = true;
+  bool paused_ = false;
+  bool lost_ = false;
+  bool hasCursorProof_ = false;
+  std::uint64_t pointerCount_ = 0;
+  Clock::time_point lastPointerTime_;
+  Clock::time_point lastPointerMove_;
+  Clock::time_point lastFrameTime_;
+  News news_;
+
+  Events events_;
+  QObject context_;  // takes a posted call back when the streams are gone
+  std::unique_ptr<PipeWireConnection> connection_;
+  std::vector<std::unique_ptr<ScreenStream>> streams_;
 };
 
 }  // namespace tavrelkin
