@@ -11,8 +11,10 @@
 
 namespace tavrelkin {
 
-// Lets the user take one colour of the screen with the desktop's own picker, by the desktop portal. Nothing here blocks,
-// and all calls back come from the event loop.
+struct PortalInterface;
+
+// Lets the user take one colour of the screen with the desktop's own picker, by the desktop portal. Nothing here
+// blocks, and all calls back come from the event loop.
 class ColorPickerPortal {
  public:
   // `patience` is how long the portal may take for what it answers without the user. The user may take any time.
@@ -34,6 +36,9 @@ class ColorPickerPortal {
 
  private:
   struct Pick;
+
+  void ask(const PortalInterface& portal);
+  void finish(std::optional<std::uint32_t> colour);
 
   QDBusConnection bus_;
   std::chrono::milliseconds patience_;
