@@ -1,0 +1,68 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QObject>
+#include <QString>
+#include <QVariantList>
+#include <QVariantMap>
+
+#include "runtime/desktop/portal/DBusSignal.h"
+#include "runtime/desktop/portal/PortalInterface.h"
+#include "runtime/desktop/portal/PortalRequest.h"
+#include "runtime/desktop/portal/ScreenCastPortal.h"
+
+namespace tavrelkin {
+
+// One session of the portal's interface ScreenCast, from the first question to its end. The destructor closes it.
+class CastSession {
+ public:
+  using Done = std::function<void(ScreenCastPortal::Result)>;
+  using Ended = std::function<void(ScreenCastPortal::Ending)>;
+
+  // `token` reopens an earlier session without a dialog, if it is not empty. It is good for one session: the token for
+  // the next session takes its place, so it has to outlive this object. `done` is called once; `ended` once at most,
+  // after `done` gave a cast. Both are called from the event loop, and may destroy this object.
+  CastSession(const QDBusConnection& bus, std::chrono::milliseconds patience, QString& token, Done done, Ended ended);
+  CastSession(const CastSession&) = delete;
+  CastSession& operator=(const CastSession&) = delete;
+  ~CastSession();
+
+ private:
+  using Next = void (CastSession::*)(const QVariantMap& results);
+
+  // The steps, in their order.
+  void takePortal(const PortalInterface& portal);
+  void create();
+  void selectSources(const QVariantMap& created);
+  void start(const QVariantMap& selected);
+  void openRemote(const QVariantMap& started);
+  void takeRemote(const QDBusMessage& reply);
+
+  // Asks the portal; a refusal or a failure ends the session, anything else goes on with `next`.
+  void ask(const QString& method, const QVariantList& arguments, const QVariantMap& options,
+           PortalRequest::Answerer answerer, Next next);
+  void listen(const QString& path);
+  void finish(ScreenCastPortal::Result result);
+  void end(ScreenCastPortal::Ending ending);
+
+  QDBusConnection bus_;
+  std::chrono::milliseconds patience_;
+  QString& token_;
+  Done done_;
+  Ended ended_;
+  PortalInterface portal_;
+  QString path_;  // of the session's object; empty while there is none
+  std::vector<CastStream> streams_;
+  std::optional<PortalWatch> watch_;
+  std::optional<DBusSignal> closed_;
+  std::unique_ptr<PortalRequest> request_;
+  QObject context_;  // drops replies that are still due when the object ends
+};
+
+}  // namespace tavrelkin

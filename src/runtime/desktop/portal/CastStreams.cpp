@@ -1,0 +1,65 @@
+#include "runtime/desktop/portal/CastStreams.h"
+
+#include <QVariantMap>
+
+#include "runtime/desktop/portal/DBusCall.h"
+
+namespace tavrelkin {
+
+namespace {
+
+constexpr std::size_t mostStreams = 64;
+constexpr int farthest = 1 << 20;
+constexpr int largest = 1 << 16;
+
+struct Pair {
+  int first = 0;
+  int second = 0;
+
+  bool isWithin(int least, int most) const {
+    return first >= least && first <= most && second >= least && second <= most;
+  }
+};
+
+// The pair of integers `value`; nothing if it is something else, or one of them is out of range.
+std::optional<Pair> pairOf(const QVariant& value, int least, int most) {
+  auto argument = argumentOf(value, "(ii)");
+  if (!argument) return std::nullopt;
+  Pair result;
+  argument->beginStructure();
+  *argument >> result.first >> result.second;
+  argument->endStructure();
+  if (!result.isWithin(least, most)) return std::nullopt;
+  return result;
+}
+
+CastStream castStream(const QDBusArgument& argument) {
+  CastStream result;
+  QVariantMap properties;
+  argument.beginStructure();
+  argument >> result.node >> properties;
+  argument.endStructure();
+  if (const auto at = pairOf(properties.value(QStringLiteral("position")), -farthest, farthest))
+    result.position = ScreenPoint{at->first, at->second};
+  if (const auto size = pairOf(properties.value(QStringLiteral("size")), 1, largest))
+    result.size = CastStream::Size{size->first, size->second};
+  return result;
+}
+
+}  // namespace
+
+std::optional<std::vector<CastStream>> castStreams(const QVariant& value) {
+  const auto argument = argumentOf(value, "a(ua{sv})");
+  if (!argument) return std::nullopt;
+  std::vector<CastStream> result;
+  argument->beginArray();
+  while (!argument->atEnd()) {
+    if (result.size() == mostStreams) return std::nullopt;
+    result.push_back(castStream(*argument));
+  }
+  argument->endArray();
+  if (result.empty()) return std::nullopt;
+  return result;
+}
+
+}  // namespace tavrelkin

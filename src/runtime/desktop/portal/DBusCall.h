@@ -1,0 +1,24 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <optional>
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QObject>
+#include <QVariant>
+
+namespace tavrelkin {
+
+// Calls a method and returns at once. `done` takes the reply from the event loop: an error message where the bus is not
+// connected, the call fails, or no reply comes within `patience`. It is not called if `context` ends first, and may end
+// it.
+void callMethod(const QDBusConnection& bus, const QDBusMessage& call, std::chrono::milliseconds patience,
+                QObject& context, std::function<void(const QDBusMessage&)> done);
+
+// A structure or an array of the D-Bus type `signature` inside `value`; nothing if that holds anything else.
+std::optional<QDBusArgument> argumentOf(const QVariant& value, const char* signature);
+
+}  // namespace tavrelkin
