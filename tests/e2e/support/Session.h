@@ -74,6 +74,7 @@ struct Session {
   struct Options {
     XServer::Options server{};
     bool messageBus = false;
+    std::string busConfiguration{};  // of a message bus of its own kind; the usual one of a session where it is empty
     std::vector<std::string> environment{};  // more variables for the program, in the form NAME=value
     int dotsPerInch = 0;                     // as the desktop's settings say it; nothing where 0
     std::uint16_t leftMonitor = 0;           // the width of one beside the main one, if any

@@ -29,9 +29,8 @@ using Clock = std::chrono::steady_clock;
 constexpr auto kFramesAgain = 2s;
 // The stream goes on for so long after a read, since the next read often follows at once.
 constexpr auto kLinger = 1s;
-// The stream's pointer is up to date when it has rested for so long; a read waits for that no longer than kPointerWait.
-constexpr auto kPointerRest = 40ms;
-constexpr auto kPointerWait = 50ms;
+// How long the stream may be behind the pointer.
+constexpr auto kPointerDelay = 50ms;
 
 class PortalScreenReader final : public QObject, public ScreenReader {
  public:
@@ -189,7 +188,7 @@ ScreenPoint PortalScreenReader::pointer() {
   const bool mayBeLate = std::exchange(mayBeLate_, false);
   if (const auto place = merge_.place(streamPointer(), Clock::now())) return *place;
   ScreenStreams& frames = *session_.frames();
-  if (mayBeLate) frames.waitForRest(kPointerRest, kPointerWait);
+  if (mayBeLate) frames.waitForRest(kPointerDelay, kPointerDelay);
   return frames.pointer().value_or(ScreenPoint());
 }
 

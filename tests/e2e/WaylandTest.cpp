@@ -1,0 +1,182 @@
+// A Wayland session: the program's windows are on an X server as ever, but the screen that it reads is one that a
+// played desktop casts, and whose every pixel is known.
+
+#include <algorithm>
+#include <fstream>
+
+#include <gtest/gtest.h>
+
+#include "e2e/support/ToolWindow.h"
+#include "support/portal/PlayedScreen.h"
+
+namespace tavrelkin::test {
+namespace {
+
+using namespace std::chrono_literals;
+
+class WaylandTest : public testing::Test {
+ protected:
+  void SetUp() override { ASSERT_EQ(desktop_.firstLine(), "ready"); }
+
+  // Tells the desktop lines of portal_desktop; returns when it has done them.
+  void desktop(const std::vector<std::string>& lines) {
+    for (const std::string& line : lines) {
+      std::ofstream(fifo_) << line << std::endl;
+      ++lines_;
+      ASSERT_TRUE(waitUntil([this] { return answers() == lines_; })) << line << ": " << desktop_.errors();
+    }
+  }
+
+  long answers() {
+    const std::string said = desktop_.output();
+    return std::count(said.begin(), said.end(), '\n') - 1;
+  }
+
+  // A monitor of 1280 by 800 at the top left corner, unless told otherwise.
+  using Screen = std::function<std::uint32_t(int, int)>;
+  static Screen oneMonitor(std::uint32_t frame = 0) {
+    return [frame](int x, int y) {
+      return x >= 0 && x < 1280 && y >= 0 && y < 800 ? playedPixel(frame, 0, x, y) : 0U;
+    };
+  }
+
+  testing::AssertionResult shows(ScreenPoint at, const Screen& screen = oneMonitor()) {
+    return tool_.getsPreview({.screen = screen, .centre = at});
+  }
+
+  // Whether it follows once the keys are pressed again, which would end what still goes on.
+  testing::AssertionResult followsAgain() {
+    tool_.keys("Ctrl+F");
+    desktop({"pointer 640 400"});
+    return shows({640, 400});
+  }
+
+  // Waits for the message, and closes it.
+  void closeMessage() {
+    session_.bringToFront(session_.waitForWindow("Tavrelkin"));
+    session_.hand.keys("Return");
+    ASSERT_TRUE(waitUntil([this] { return session_.windows.all().size() == 1; }));
+  }
+
+  Session session_{{.messageBus = true,
+                    .busConfiguration = TAVRELKIN_BUS_CONFIGURATION,
+                    .environment = {"WAYLAND_DISPLAY=wayland-0", "QT_QPA_PLATFORM=xcb"}}};
+  const std::string fifo_ = session_.home.path() / "desktop";
+  Process desktop_{{TAVRELKIN_PORTAL_DESKTOP, fifo_}, session_.environment};
+  long lines_ = 0;
+  ToolWindow tool_{session_};
+};
+
+TEST_F(WaylandTest, FollowsAndPokesOnceTheUserHasAllowedIt) {
+  desktop({"undecided", "pointer 300 200"});
+  const Pixels before = tool_.preview();
+  tool_.keys("Ctrl+F");
+  ASSERT_TRUE(tool_.paste(0x102030)) << "it stays usable meanwhile";
+  EXPECT_EQ(tool_.preview(), before);
+  desktop({"decide"});
+  EXPECT_TRUE(shows({300, 200}));
+
+  desktop({"response 1", "pointer 0 799"});
+  EXPECT_TRUE(shows({0, 799}));
+  desktop({"frame 7"});
+  EXPECT_TRUE(shows({0, 799}, oneMonitor(7)));
+  tool_.keys("Ctrl+F");
+  desktop({"pointer 1279 0"});
+  tool_.keys("Ctrl+Alt+P");
+  EXPECT_TRUE(tool_.getsTitleOf(playedPixel(7, 0, 1279, 0))) << "without a second question";
+}
+
+TEST_F(WaylandTest, AFirstPokeOnlyAsks) {
+  tool_.keys("Ctrl+Alt+P");
+  ASSERT_TRUE(tool_.paste(0x102030));
+  desktop({"pointer 5 6"});
+  const auto takes = [this] {
+    tool_.keys("Ctrl+Alt+P");
+    return tool_.title() == titleOf(playedPixel(0, 0, 5, 6));
+  };
+  EXPECT_TRUE(waitUntil(takes));
+}
+
+// What the desktop does before the program asks, and while it follows; whether the user gets a message then, and what
+// the desktop does before they try again, if that can help.
+struct Ending {
+  const char* name;
+  std::vector<std::string> before;
+  std::vector<std::string> after;
+  bool isTold;
+  std::vector<std::string> mended;
+};
+
+class WaylandEndingTest : public WaylandTest, public testing::WithParamInterface<Ending> {};
+
+TEST_P(WaylandEndingTest, EndsFollowingAndTheNextFollowTriesAgain) {
+  const Ending& row = GetParam();
+  desktop(row.before);
+  tool_.keys("Ctrl+F");
+  if (!row.after.empty()) {
+    desktop({"pointer 100 100"});
+    ASSERT_TRUE(shows({100, 100}));
+    desktop(row.after);
+  }
+  if (row.isTold) closeMessage();
+  // The desktop's own end of a session may be followed by a change of monitors for a moment.
+  if (!row.isTold) std::this_thread::sleep_for(1s);
+  if (row.mended.empty()) return;
+  desktop(row.mended);
+  EXPECT_TRUE(followsAgain());
+  EXPECT_EQ(session_.windows.all().size(), 1U);
+}
+
+const Ending kEndings[] = {
+    {"Refused", {"response 1"}, {}, true, {"response 0"}},
+    {"Failed", {"response 2"}, {}, true, {"response 0"}},
+    {"ClosedByTheUser", {}, {"close"}, false, {"frame 1", "frame 0"}},
+    {"NoPointerSeen", {"gone"}, {}, true, {"pointer 1 1"}},
+    {"PipeWireGone", {}, {"crash"}, true, {}},
+    {"PortalGone", {}, {"leave"}, true, {}},
+    {"NoMetadata", {"modes 3", "picker 0"}, {}, true, {}},
+    {"NoScreenCast", {"version 0", "picker 0"}, {}, true, {}},
+};
+INSTANTIATE_TEST_SUITE_P(, WaylandEndingTest, testing::ValuesIn(kEndings),
+                         [](const auto& info) { return info.param.name; });
+
+TEST_F(WaylandTest, GoesOnWhenTheMonitorsChange) {
+  tool_.keys("Ctrl+F");
+  desktop({"pointer 100 100"});
+  ASSERT_TRUE(shows({100, 100}));
+  desktop({"monitors 400x300+0+0*2 480x600+400-100", "close"});
+  session_.client.resizeScreen(1280, 720);
+  // The largest scale is 2: the second monitor begins at twice its logical place, and leaves gaps.
+  const auto screen = [](int x, int y) {
+    if (x >= 0 && x < 800 && y >= 0 && y < 600) return playedPixel(0, 0, x, y);
+    if (x >= 800 && x < 1280 && y >= -200 && y < 400) return playedPixel(0, 1, x - 800, y + 200);
+    return 0U;
+  };
+  desktop({"pointer 790 590 0"});
+  EXPECT_TRUE(shows({790, 590}, screen));
+  desktop({"pointer 3 4 1"});
+  EXPECT_TRUE(shows({803, -196}, screen));
+}
+
+TEST_F(WaylandTest, PokeTakesThePickedColourWhereTheDesktopDoesNotTellThePointer) {
+  desktop({"modes 3", "picker 2", "pick 18 52 86"});
+  tool_.keys("Ctrl+Alt+P");
+  EXPECT_TRUE(tool_.getsTitleOf(0x123456));
+  desktop({"pick 1 2 3"});
+  tool_.keys("Ctrl+Alt+P");
+  EXPECT_TRUE(tool_.getsTitleOf(0x010203));
+  tool_.keys("Ctrl+F");
+  closeMessage();
+}
+
+TEST_F(WaylandTest, APortalThatNeverAnswersHoldsNothingUp) {
+  desktop({"mute CreateSession"});
+  tool_.keys("Ctrl+F");
+  EXPECT_TRUE(tool_.paste(0x123456));
+  tool_.keys("Ctrl+F");
+  tool_.keys("Ctrl+Q");
+  EXPECT_EQ(session_.program.waitForExit(), 0);
+}
+
+}  // namespace
+}  // namespace tavrelkin::test
