@@ -23,7 +23,7 @@ struct Pair {
 
 // The pair of integers `value`; nothing if it is something else, or one of them is out of range.
 std::optional<Pair> pairOf(const QVariant& value, int least, int most) {
-  auto argument = argumentOf(value, "(ii)");
+  const auto argument = argumentOf(value, "(ii)");
   if (!argument) return std::nullopt;
   Pair result;
   argument->beginStructure();
