@@ -1,0 +1,191 @@
+#include "runtime/desktop/portal/ScreenStreams.h"
+
+#include <algorithm>
+#include <utility>
+
+#include <QMetaObject>
+#include <QPointer>
+
+namespace tavrelkin {
+
+namespace {
+
+// More than any desk has. Each costs memory and a connection, and their number comes from another program.
+constexpr std::size_t kMostStreams = 16;
+
+}  // namespace
+
+std::unique_ptr<ScreenStreams> ScreenStreams::connect(ScreenCast cast, Events events, std::uint32_t mostFrames) {
+  if (cast.streams.empty() || cast.streams.size() > kMostStreams) return nullptr;
+  std::unique_ptr<ScreenStreams> streams(new ScreenStreams(cast.streams, std::move(events)));
+  return streams->start(std::move(cast), mostFrames) ? std::move(streams) : nullptr;
+}
+
+ScreenStreams::ScreenStreams(const std::vector<CastStream>& streams, Events events)
+    : model_(streams), statuses_(streams.size()), events_(std::move(events)) {}
+
+bool ScreenStreams::start(ScreenCast cast, std::uint32_t mostFrames) {
+  connection_ = PipeWireConnection::open(std::move(cast.pipeWire), [this] { ended(); });
+  if (!connection_) return false;
+  for (std::size_t i = 0; i < cast.streams.size(); ++i) {
+    ScreenStream::Events events{
+        .arrived = [this, i](const StreamArrival& arrival) { arrived(i, arrival); },
+        .stateChanged = [this, i](StreamState state) { stateChanged(i, state); },
+    };
+    streams_.push_back(ScreenStream::connect(connection_->core(), cast.streams[i].node, mostFrames, std::move(events)));
+    if (!streams_.back()) return false;
+  }
+  return connection_->start();
+}
+
+ScreenStreams::~ScreenStreams() {
+  if (connection_) connection_->stop();
+}
+
+void ScreenStreams::setActive(bool active) {
+  {
+    const std::lock_guard lock(mutex_);
+    if (active == std::exchange(active_, active)) return;
+    for (StreamStatus& status : statuses_) {
+      status.pausedUnasked = false;
+      if (active) status.fresh = false;
+    }
+    paused_ = false;
+    news_.paused.reset();
+  }
+  const PipeWireConnection::Lock lock(*connection_);
+  for (const auto& stream : streams_)
+    stream->setActive(active);
+}
+
+void ScreenStreams::arrived(std::size_t stream, const StreamArrival& arrival) {
+  const auto now = Clock::now();
+  {
+    const std::lock_guard lock(mutex_);
+    if (arrival.frame && model_.putFrame(stream, *arrival.frame)) {
+      statuses_[stream].fresh = true;
+      lastFrameTime_ = now;
+    }
+    if (arrival.pointerCount > 0) lastPointerTime_ = now;
+    pointerCount_ += arrival.pointerCount;
+    const auto before = model_.pointer();
+    if (arrival.pointer && model_.putPointer(stream, *arrival.pointer)) hasCursorProof_ = true;
+    if (model_.pointer() != before) lastPointerMove_ = now;
+    news_.changed = true;
+  }
+  arrival_.notify_all();
+  post();
+}
+
+void ScreenStreams::stateChanged(std::size_t stream, StreamState state) {
+  if (state == StreamState::ended) {
+    ended();
+    return;
+  }
+  {
+    const std::lock_guard lock(mutex_);
+    StreamStatus& status = statuses_[stream];
+    const bool wasStreaming = std::exchange(status.streaming, state == StreamState::streaming);
+    status.pausedUnasked = active_ && !status.streaming && (wasStreaming || status.pausedUnasked);
+    const bool paused =
+        std::any_of(statuses_.begin(), statuses_.end(), [](const StreamStatus& each) { return each.pausedUnasked; });
+    if (paused == std::exchange(paused_, paused)) return;
+    news_.paused = paused;
+  }
+  post();
+}
+
+void ScreenStreams::ended() {
+  {
+    const std::lock_guard lock(mutex_);
+    if (std::exchange(lost_, true)) return;
+    news_.lost = true;
+  }
+  arrival_.notify_all();
+  post();
+}
+
+void ScreenStreams::post() {
+  {
+    const std::lock_guard lock(mutex_);
+    if (std::exchange(news_.posted, true)) return;
+  }
+  QMetaObject::invokeMethod(
+      &context_, [this] { tell(); }, Qt::QueuedConnection);
+}
+
+// Copies, and a look after each call, since any of them may end the streams.
+void ScreenStreams::tell() {
+  News news;
+  {
+    const std::lock_guard lock(mutex_);
+    news = std::exchange(news_, {});
+  }
+  const Events events = events_;
+  const QPointer<QObject> alive(&context_);
+  if (news.changed && events.changed) events.changed();
+  if (alive && news.paused && events.paused) events.paused(*news.paused);
+  if (alive && news.lost && events.lost) events.lost();
+}
+
+std::uint32_t ScreenStreams::pixel(ScreenPoint at) {
+  const std::lock_guard lock(mutex_);
+  return model_.pixel(at);
+}
+
+std::optional<ScreenPoint> ScreenStreams::pointer() const {
+  const std::lock_guard lock(mutex_);
+  return model_.pointer();
+}
+
+double ScreenStreams::pointerScale() const {
+  const std::lock_guard lock(mutex_);
+  return model_.pointerScale();
+}
+
+bool ScreenStreams::hasFrames() const {
+  const std::lock_guard lock(mutex_);
+  return model_.hasFrames();
+}
+
+bool ScreenStreams::hasCursorProof() const {
+  const std::lock_guard lock(mutex_);
+  return hasCursorProof_;
+}
+
+std::uint64_t ScreenStreams::pointerCount() const {
+  const std::lock_guard lock(mutex_);
+  return pointerCount_;
+}
+
+ScreenStreams::Clock::time_point ScreenStreams::lastPointerTime() const {
+  const std::lock_guard lock(mutex_);
+  return lastPointerTime_;
+}
+
+ScreenStreams::Clock::time_point ScreenStreams::lastFrameTime() const {
+  const std::lock_guard lock(mutex_);
+  return lastFrameTime_;
+}
+
+bool ScreenStreams::areFresh() const {
+  return std::all_of(statuses_.begin(), statuses_.end(), [](const StreamStatus& status) { return status.fresh; });
+}
+
+bool ScreenStreams::waitForFrames(std::chrono::milliseconds longest) const {
+  std::unique_lock lock(mutex_);
+  arrival_.wait_for(lock, longest, [this] { return lost_ || areFresh(); });
+  return !lost_ && areFresh();
+}
+
+void ScreenStreams::waitForRest(std::chrono::milliseconds quiet, std::chrono::milliseconds longest) const {
+  const auto start = Clock::now();
+  std::unique_lock lock(mutex_);
+  for (;;) {
+    const auto until = std::min(std::max(start, lastPointerMove_) + quiet, start + longest);
+    if (Clock::now() >= until) return;
+    arrival_.wait_until(lock, until);
+  }
+}
+
+}  // namespace tavrelkin
