@@ -7,6 +7,7 @@ set(data "${CMAKE_SOURCE_DIR}/data")
 set(icons "${data}/icons")
 
 install(TARGETS tavrelkin COMPONENT program)
+install(TARGETS tavrelkin_wayland DESTINATION "${CMAKE_INSTALL_LIBDIR}/tavrelkin" COMPONENT program)
 install(FILES "${data}/tavrelkin.desktop" DESTINATION "${CMAKE_INSTALL_DATADIR}/applications" COMPONENT program)
 install(FILES "${data}/org.tavrelkin.tavrelkin.metainfo.xml" DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo"
   COMPONENT program)

@@ -46,7 +46,7 @@ it, palettes keep it in Adobe swatch files, and a simulator shows how people
 with a colour-vision deficiency see it. Colours travel as text through the
 clipboard and by drag.
 .
-Reading the colours of the screen needs a session on X11.")
+It reads the screen on X11, and on Wayland through the desktop's portal.")
 set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_CMAKE_PROJECTS "${CMAKE_BINARY_DIR};Tavrelkin;program;/;${CMAKE_BINARY_DIR};Tavrelkin;debian;/")
@@ -58,7 +58,10 @@ set(CPACK_DEBIAN_PACKAGE_VERSION "${CMAKE_MATCH_1}")
 set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Without it a Wayland session runs the program through its X server, blurred on scaled screens.
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
+# Without the toolkit's part a Wayland session runs the program through its X server, blurred on scaled screens. The rest
+# is what reading the screen takes there; the modules and the configuration are in packages that the library doesn't
+# name.
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
+  "qt6-wayland, libpipewire-0.3-modules, pipewire-bin, xdg-desktop-portal")
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 include(CPack)

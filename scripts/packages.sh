@@ -4,10 +4,10 @@
 packages_for() {
   case $1 in
     build)
-      echo cmake g++ libboost-context-dev libxcb-shm0-dev libxcb-xinput-dev libxcb1-dev ninja-build pkgconf qt6-base-dev
+      echo cmake g++ libboost-context-dev libpipewire-0.3-dev libxcb-shm0-dev libxcb-xinput-dev libxcb1-dev ninja-build pkgconf qt6-base-dev
       ;;
     run) echo fonts-dejavu-core ;;
-    wayland) echo qt6-wayland ;;
+    wayland) echo libpipewire-0.3-modules pipewire-bin qt6-wayland ;;
     display) echo imagemagick openbox x11-utils x11-xserver-utils xvfb ;;
     test)
       echo at-spi2-core dbus-daemon dbus-session-bus-common gir1.2-atspi-2.0 gir1.2-gtk-3.0 libgmock-dev libgtest-dev \

@@ -106,7 +106,8 @@ void frmVesk::slZoom_ValueChanged() {
   imgScreen.Refresh(true);
 }
 
-// Cells show their colours by themselves; all else takes the screen, and the user repeats a press that had to ask for it.
+// Cells show their colours by themselves; all else takes the screen, and the user repeats a press that had to ask for
+// it.
 bool frmVesk::imgScreen_MouseDown(Int32, Int32) {
   pressTakes_ = !shownCells_.empty() || requestScreen();
   return static_cast<bool>(zoomImage);

@@ -36,9 +36,8 @@ bool CanReadScreen() {
 bool RequestScreen(std::function<void(Color)> picked) {
   ScreenReader::Picked take;
   if (picked) take = [picked = std::move(picked)](std::uint32_t rgb) { deliver([&] { picked(Color{rgb}); }); };
-  const bool canRead = CanReadScreen();
   desktop().screenReader().request(std::move(take));
-  return canRead;
+  return CanReadScreen();
 }
 
 bool AwaitScreen() {

@@ -16,17 +16,17 @@ Int32 MouseY();
 // Where the screen can't be read, the result is a pattern of greys that can't be taken for the screen.
 Color Pixel(Int32 x, Int32 y);
 
-// Whether Pixel gives what is on screen. Also true on a desktop that gives the screen to no program: Pixel explains that
-// to the user, once, and gives the greys.
+// Whether Pixel gives what is on screen. Also true on a desktop that gives the screen to no program: Pixel explains
+// that to the user, once, and gives the greys.
 bool CanReadScreen();
 
 // Asks for the screen where the desktop lets a program read it with the user's permission only. True where it can be
-// read already; else the desktop asks the user, who has to repeat the gesture then. On a desktop that gives no more than
-// single colours the user picks one, which `picked` gets later, from the event loop.
+// read already; else the desktop asks the user, who has to repeat the gesture then. On a desktop that gives no more
+// than single colours the user picks one, which `picked` gets later, from the event loop.
 bool RequestScreen(std::function<void(Color)> picked = {});
 
-// For a thread: waits until the user has answered and the desktop shows the screen. Gives whether it can be read. On the
-// main thread it does not wait.
+// For a thread: waits until the user has answered and the desktop shows the screen. Gives whether it can be read. On
+// the main thread it does not wait.
 bool AwaitScreen();
 
 }  // namespace tavrelkin::System

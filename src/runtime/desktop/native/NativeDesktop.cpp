@@ -21,6 +21,7 @@
 #include "runtime/desktop/ScreenReader.h"
 #include "runtime/desktop/native/ApplicationDataFolder.h"
 #include "runtime/desktop/native/NoScreenReader.h"
+#include "runtime/desktop/native/WaylandModule.h"
 #include "runtime/desktop/x11/X11Offers.h"
 #include "runtime/desktop/x11/X11ScreenReader.h"
 
@@ -31,10 +32,11 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kWhyNotOnWayland =
-    "This desktop session runs on Wayland, where no program may read the colours of the screen in the way that "
-    "Tavrelkin does.\n\n"
-    "Following the mouse and Poke work in a session on X11 (X.Org). Many login screens offer one, often under the name "
-    "of the desktop with \"on Xorg\" or \"X11\" beside it.\n\n"
+    "This desktop session runs on Wayland, and the part of Tavrelkin that reads the screen there can't be loaded. It "
+    "needs "
+    "PipeWire (libpipewire-0.3).\n\n"
+    "Following the mouse and Poke also work in a session on X11 (X.Org). Many login screens offer one, often under the "
+    "name of the desktop with \"on Xorg\" or \"X11\" beside it.\n\n"
     "Mixing a colour on the bars, paste and copy work here as well.";
 
 constexpr auto kWhyNotHere =
@@ -125,14 +127,20 @@ class NativeDesktop final : public Desktop {
 };
 
 std::unique_ptr<ScreenReader> NativeDesktop::makeScreenReader() {
-  if (isWaylandSession()) return std::make_unique<NoScreenReader>([this] { tellSoon(kWhyNotOnWayland); });
+  if (isWaylandSession()) {
+    if (const WaylandModule* const module = loadWaylandModule())
+      return std::unique_ptr<ScreenReader>(
+          module->makeScreenReader([this](const std::string& text) { tellSoon(text); }));
+    return std::make_unique<NoScreenReader>([this] { tellSoon(kWhyNotOnWayland); });
+  }
   if (QGuiApplication::platformName() == "xcb")
     if (auto reader = makeX11ScreenReader(endProgram)) return reader;
   return std::make_unique<NoScreenReader>([this] { tellSoon(kWhyNotHere); });
 }
 
 void NativeDesktop::tellSoon(const std::string& text) {
-  QMetaObject::invokeMethod(&context_, [this, text] { messageBox(text); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      &context_, [this, text] { messageBox(text); }, Qt::QueuedConnection);
 }
 
 // Some displays state no rate, or a senseless one.

@@ -14,8 +14,8 @@ std::uint32_t patternOfGreys(ScreenPoint at);
 // to date only over the program's own windows, and its movements are not watched.
 class NoScreenReader final : public ScreenReader {
  public:
-  // `tellWhy` tells the user what is missing and what helps. It is called once, at the first read or request, maybe from
-  // a thread of the program, and must return at once.
+  // `tellWhy` tells the user what is missing and what helps. It is called once, at the first read or request, maybe
+  // from a thread of the program, and must return at once.
   explicit NoScreenReader(std::function<void()> tellWhy);
 
   ScreenState state() const override { return ScreenState::unavailable; }

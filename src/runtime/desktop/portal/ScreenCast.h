@@ -6,7 +6,7 @@
 
 #include <unistd.h>
 
-#include "runtime/desktop/Desktop.h"
+#include "runtime/desktop/ScreenReader.h"
 
 namespace tavrelkin {
 

@@ -163,6 +163,11 @@ ScreenStreams::Clock::time_point ScreenStreams::lastPointerTime() const {
   return lastPointerTime_;
 }
 
+ScreenStreams::Clock::time_point ScreenStreams::lastPointerMove() const {
+  const std::lock_guard lock(mutex_);
+  return lastPointerMove_;
+}
+
 ScreenStreams::Clock::time_point ScreenStreams::lastFrameTime() const {
   const std::lock_guard lock(mutex_);
   return lastFrameTime_;

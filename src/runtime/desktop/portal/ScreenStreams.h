@@ -33,7 +33,7 @@ class ScreenStreams {
 
   // Begins to receive, active. `mostFrames` is how many frames a second the desktop should send at most. Null where
   // PipeWire can't be used: its modules or its configuration are missing, or the descriptor is no connection to it.
-  static std::unique_ptr<ScreenStreams> connect(ScreenCast cast, Events events, std::uint32_t mostFrames = 60);
+  static std::unique_ptr<ScreenStreams> connect(ScreenCast cast, Events events, std::uint32_t mostFrames = 240);
 
   ScreenStreams(const ScreenStreams&) = delete;
   ScreenStreams& operator=(const ScreenStreams&) = delete;
@@ -55,6 +55,8 @@ class ScreenStreams {
   // when the last full frame came. The epoch of the clock where there was none.
   std::uint64_t pointerCount() const;
   Clock::time_point lastPointerTime() const;
+  // When the pointer last came to another place.
+  Clock::time_point lastPointerMove() const;
   Clock::time_point lastFrameTime() const;
 
   // Blocks until each stream has had a full frame since it was last made active. False where the time is over, or the

@@ -1,0 +1,30 @@
+#include "runtime/desktop/portal/PointerMerge.h"
+
+namespace tavrelkin {
+
+void PointerMerge::moved(std::uintptr_t window, ScreenPoint local, const std::optional<Stream>& stream, TimePoint now) {
+  learn(stream, now);
+  if (local_ && local_->window != window) window_.reset();
+  // A press or a release where the pointer already was does not end its rest.
+  const bool rests = local_ && local_->window == window && local_->at == local;
+  local_ = {window, local, rests ? local_->when : now};
+}
+
+void PointerMerge::forget() {
+  local_.reset();
+  window_.reset();
+}
+
+std::optional<ScreenPoint> PointerMerge::place(const std::optional<Stream>& stream, TimePoint now) {
+  learn(stream, now);
+  if (!local_ || !window_) return std::nullopt;
+  return ScreenPoint{window_->x + local_->at.x, window_->y + local_->at.y};
+}
+
+// Each rest is used, so that a place that was learnt wrong, or has changed unseen, is corrected.
+void PointerMerge::learn(const std::optional<Stream>& stream, TimePoint now) {
+  if (!local_ || !stream || now - local_->when < kRest || now - stream->since < kRest) return;
+  window_ = {stream->place.x - local_->at.x, stream->place.y - local_->at.y};
+}
+
+}  // namespace tavrelkin

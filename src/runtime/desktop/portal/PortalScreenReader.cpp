@@ -1,0 +1,285 @@
+#include "runtime/desktop/portal/PortalScreenReader.h"
+
+#include <chrono>
+#include <cmath>
+#include <cstdint>
+#include <optional>
+#include <utility>
+
+#include <QDBusConnection>
+#include <QGuiApplication>
+#include <QMouseEvent>
+#include <QTimer>
+#include <QWindow>
+
+#include "runtime/desktop/native/NoScreenReader.h"
+#include "runtime/desktop/portal/ColorPickerPortal.h"
+#include "runtime/desktop/portal/Messages.h"
+#include "runtime/desktop/portal/PointerMerge.h"
+#include "runtime/desktop/portal/ScreenSession.h"
+
+namespace tavrelkin {
+
+namespace {
+
+using namespace std::chrono_literals;
+using Clock = std::chrono::steady_clock;
+
+// After an idle stream is asked for frames. They take some 20 ms; a desktop that is busy may take much longer.
+constexpr auto kFramesAgain = 2s;
+// The stream goes on for so long after a read, since the next read often follows at once.
+constexpr auto kLinger = 1s;
+// The stream's pointer is up to date when it has rested for so long; a read waits for that no longer than kPointerWait.
+constexpr auto kPointerRest = 40ms;
+constexpr auto kPointerWait = 50ms;
+
+class PortalScreenReader final : public QObject, public ScreenReader {
+ public:
+  explicit PortalScreenReader(std::function<void(const std::string&)> tell);
+
+  ScreenState state() const override { return state_; }
+  void request(Picked picked) override;
+  bool canPickColor() const override { return canPick_; }
+  std::uint32_t pixel(ScreenPoint at) override;
+  ScreenPoint pointer() override;
+  void watch(std::function<void()> changed) override;
+  bool tellsEachChange() const override { return true; }
+  bool optionKey() override { return toolkit_.optionKey(); }
+
+  // Sees the events of all windows of the program.
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  void begun();
+  void changed();
+  void ended(ScreenSession::End how);
+  void fallBackToPicks(const char* orElse);
+  void pick(Picked picked);
+  void fail(ScreenState state, const char* message);
+  void become(ScreenState state);
+  void tellWatcher() const;
+
+  // Whether there are frames of this moment; an idle stream is woken for it.
+  bool isReadable();
+  void setActive(bool active);
+  void lingered();
+
+  void noteMouse(const QWindow& window, QPointF local);
+  std::optional<PointerMerge::Stream> streamPointer() const;
+
+  std::function<void(const std::string&)> tell_;
+  NoScreenReader toolkit_{[] {}};  // for what the toolkit knows
+  ScreenSession session_;
+  std::unique_ptr<ColorPickerPortal> picker_;
+  ScreenState state_ = ScreenState::notAsked;
+  bool canPick_ = false;
+  Picked wanted_;  // what the request is for that is under way
+  std::function<void()> watcher_;
+
+  bool isActive_ = false;
+  Clock::time_point activeSince_;
+  bool wasRead_ = false;  // since the lingering began
+  QTimer linger_;
+
+  PointerMerge merge_;
+  bool mayBeLate_ = false;  // a press, a release or a key has come, whose place the stream may not know yet
+};
+
+PortalScreenReader::PortalScreenReader(std::function<void(const std::string&)> tell)
+    : tell_(std::move(tell)),
+      session_({.begun = [this] { begun(); },
+                .changed = [this] { changed(); },
+                .interrupted = [this] { become(ScreenState::asking); },
+                .ended = [this](ScreenSession::End how) { ended(how); }}) {
+  linger_.setSingleShot(true);
+  linger_.callOnTimeout(this, [this] { lingered(); });
+  QCoreApplication::instance()->installEventFilter(this);
+}
+
+void PortalScreenReader::request(Picked picked) {
+  if (isReadable()) return;
+  if (state_ == ScreenState::unavailable) {
+    if (!canPick_) return;
+    if (picked) return pick(std::move(picked));
+    return tell_(message::kOnlyPicks);
+  }
+  wanted_ = std::move(picked);
+  if (state_ == ScreenState::asking) return;
+  become(ScreenState::asking);
+  session_.open();
+}
+
+void PortalScreenReader::begun() {
+  isActive_ = true;
+  activeSince_ = Clock::now();
+  wanted_ = {};
+  become(ScreenState::live);
+  if (!watcher_) linger_.start(kLinger);
+}
+
+void PortalScreenReader::changed() {
+  if (state_ == ScreenState::idle) {
+    if (!isActive_ || !session_.frames()->waitForFrames(0ms)) return;
+    state_ = ScreenState::live;
+  }
+  tellWatcher();
+}
+
+// By a copy: the call may end the watch.
+void PortalScreenReader::tellWatcher() const {
+  if (const auto watcher = watcher_) watcher();
+}
+
+void PortalScreenReader::ended(ScreenSession::End how) {
+  using End = ScreenSession::End;
+  const bool wasActive = std::exchange(isActive_, false);
+  switch (how) {
+    case End::refused:
+      return fail(ScreenState::refused, message::kRefused);
+    case End::byUser:
+      return become(ScreenState::notAsked);
+    case End::noPortal:
+      return fallBackToPicks(message::kNoPortal);
+    case End::noPointer:
+      return fallBackToPicks(message::kNoPointer);
+    case End::pointerNotSeen:
+      return fail(ScreenState::lost, message::kPointerNotSeen);
+    case End::failed:
+      return fail(ScreenState::lost, message::kFailed);
+    case End::lost:
+      // Nobody misses what nobody reads; the next request begins a new session.
+      return wasActive ? fail(ScreenState::lost, message::kLost) : become(ScreenState::lost);
+  }
+}
+
+void PortalScreenReader::fallBackToPicks(const char* orElse) {
+  picker_ = std::make_unique<ColorPickerPortal>(QDBusConnection::sessionBus());
+  picker_->askAvailable([this, orElse](bool isAvailable) {
+    canPick_ = isAvailable;
+    if (!isAvailable) return fail(ScreenState::unavailable, orElse);
+    if (!wanted_) return fail(ScreenState::unavailable, message::kOnlyPicks);
+    become(ScreenState::unavailable);
+    pick(std::exchange(wanted_, {}));
+  });
+}
+
+void PortalScreenReader::pick(Picked picked) {
+  picker_->pick([picked = std::move(picked)](std::optional<std::uint32_t> color) {
+    if (color) picked(*color);
+  });
+}
+
+// The windows learn it first, so that none shows the greys below the message.
+void PortalScreenReader::fail(ScreenState state, const char* message) {
+  wanted_ = {};
+  become(state);
+  tell_(message);
+}
+
+void PortalScreenReader::become(ScreenState state) {
+  if (std::exchange(state_, state) != state) tellWatcher();
+}
+
+std::uint32_t PortalScreenReader::pixel(ScreenPoint at) {
+  return isReadable() ? session_.frames()->pixel(at) : toolkit_.pixel(at);
+}
+
+ScreenPoint PortalScreenReader::pointer() {
+  if (!isReadable()) return toolkit_.pointer();
+  const bool mayBeLate = std::exchange(mayBeLate_, false);
+  if (const auto place = merge_.place(streamPointer(), Clock::now())) return *place;
+  ScreenStreams& frames = *session_.frames();
+  if (mayBeLate) frames.waitForRest(kPointerRest, kPointerWait);
+  return frames.pointer().value_or(ScreenPoint());
+}
+
+void PortalScreenReader::watch(std::function<void()> changed) {
+  watcher_ = std::move(changed);
+  if (!session_.frames()) return;
+  if (watcher_) {
+    setActive(true);
+  } else if (isActive_) {
+    linger_.start(kLinger);
+  }
+}
+
+bool PortalScreenReader::isReadable() {
+  if (state_ == ScreenState::idle) {
+    setActive(true);
+    if (session_.frames()->waitForFrames(kFramesAgain)) {
+      state_ = ScreenState::live;
+    } else {
+      session_.giveUp();
+    }
+  }
+  wasRead_ = true;
+  return state_ == ScreenState::live;
+}
+
+void PortalScreenReader::setActive(bool active) {
+  if (std::exchange(isActive_, active) == active) return;
+  session_.frames()->setActive(active);
+  if (!active) return void(state_ = ScreenState::idle);
+  activeSince_ = Clock::now();
+  linger_.start(kLinger);
+}
+
+void PortalScreenReader::lingered() {
+  if (watcher_ || !session_.frames()) return;
+  if (std::exchange(wasRead_, false)) return linger_.start(kLinger);
+  setActive(false);
+}
+
+bool PortalScreenReader::eventFilter(QObject* watched, QEvent* event) {
+  if (!watched->isWindowType()) return false;
+  const auto& window = static_cast<const QWindow&>(*watched);
+  switch (event->type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+      mayBeLate_ = true;
+      [[fallthrough]];
+    case QEvent::MouseMove:
+      noteMouse(window, static_cast<QMouseEvent&>(*event).position());
+      break;
+    case QEvent::Enter:
+      noteMouse(window, static_cast<QEnterEvent&>(*event).position());
+      break;
+    case QEvent::Leave:
+    case QEvent::Resize:
+    case QEvent::Hide:
+      merge_.forget();
+      break;
+    case QEvent::KeyPress:
+    case QEvent::ShortcutOverride:
+      mayBeLate_ = true;
+      break;
+    default:
+      break;
+  }
+  return false;
+}
+
+// In the pixels of the stream's frames, of which there may be several to a pixel of the toolkit.
+void PortalScreenReader::noteMouse(const QWindow& window, QPointF local) {
+  const double scale = session_.frames() ? session_.frames()->pointerScale() : 1;
+  const ScreenPoint at{static_cast<std::int32_t>(std::floor(local.x() * scale)),
+                       static_cast<std::int32_t>(std::floor(local.y() * scale))};
+  merge_.moved(reinterpret_cast<std::uintptr_t>(&window), at, streamPointer(), Clock::now());
+}
+
+// An idle stream knows nothing; a woken one knows the place from its first frame on.
+std::optional<PointerMerge::Stream> PortalScreenReader::streamPointer() const {
+  const ScreenStreams* const frames = session_.frames();
+  if (state_ != ScreenState::live || !frames) return std::nullopt;
+  const auto place = frames->pointer();
+  if (!place) return std::nullopt;
+  return PointerMerge::Stream{*place, std::max(activeSince_, frames->lastPointerMove())};
+}
+
+}  // namespace
+
+std::unique_ptr<ScreenReader> makePortalScreenReader(std::function<void(const std::string&)> tell) {
+  return std::make_unique<PortalScreenReader>(std::move(tell));
+}
+
+}  // namespace tavrelkin

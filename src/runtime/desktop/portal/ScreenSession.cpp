@@ -1,0 +1,143 @@
+#include "runtime/desktop/portal/ScreenSession.h"
+
+#include <utility>
+
+#include <QDBusConnection>
+#include <QGuiApplication>
+#include <QScreen>
+
+namespace tavrelkin {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+// From the portal's answer to the first frame of each monitor.
+constexpr auto kFirstFrames = 5s;
+// From there to the first place of the pointer: a desktop that has not told it by then won't do so.
+constexpr auto kFirstPlace = 1s;
+// A pause that nobody asked for is over by then, or the stream does not go on.
+constexpr auto kPause = 1s;
+// The desktop ends the cast when its monitors change, at about the time at which the toolkit learns of the change.
+constexpr auto kMonitorsChangedBefore = 3s;
+constexpr auto kMonitorsChangeAfter = 700ms;
+
+}  // namespace
+
+ScreenSession::ScreenSession(Events events) : events_(std::move(events)) {
+  limit_.setSingleShot(true);
+  limit_.callOnTimeout(&context_, [this] { end(orElse_); });
+}
+
+ScreenSession::~ScreenSession() = default;
+
+void ScreenSession::open() {
+  if (isOpening_ || streams_) return;
+  if (!portal_) {
+    portal_ = std::make_unique<ScreenCastPortal>(QDBusConnection::sessionBus());
+    portal_->closed = [this](ScreenCastPortal::Ending how) { closed(how); };
+    watchMonitors();
+  }
+  isOpening_ = true;
+  monitorsChanged_.reset();
+  portal_->open([this](ScreenCastPortal::Result answer) { answered(std::move(answer)); });
+}
+
+void ScreenSession::answered(ScreenCastPortal::Result answer) {
+  isOpening_ = false;
+  if (auto* const cast = std::get_if<ScreenCast>(&answer)) {
+    streams_ = ScreenStreams::connect(std::move(*cast), {.changed = [this] { streamChanged(); },
+                                                         .paused = [this](bool isPaused) { streamPaused(isPaused); },
+                                                         .lost = [this] { end(End::lost); }});
+    if (!streams_) return end(End::noPortal);
+    streams_->setActive(true);
+    return waitAtMost(kFirstFrames, End::failed);
+  }
+  switch (std::get<ScreenCastPortal::Failure>(answer)) {
+    case ScreenCastPortal::Failure::refused:
+      return end(End::refused);
+    case ScreenCastPortal::Failure::noPortal:
+      return end(End::noPortal);
+    case ScreenCastPortal::Failure::noPointer:
+      return end(End::noPointer);
+    case ScreenCastPortal::Failure::failed:
+      return end(End::failed);
+  }
+}
+
+void ScreenSession::streamChanged() {
+  if (hasBegun_) return events_.changed();
+  if (!streams_->hasFrames()) return;
+  if (streams_->pointer()) {
+    limit_.stop();
+    hasBegun_ = true;
+    events_.begun();
+  } else if (orElse_ != End::pointerNotSeen) {
+    waitAtMost(kFirstPlace, End::pointerNotSeen);
+  }
+}
+
+void ScreenSession::streamPaused(bool isPaused) {
+  if (!hasBegun_) return;
+  if (isPaused) {
+    waitAtMost(kPause, End::lost);
+  } else {
+    limit_.stop();
+  }
+}
+
+// The streams stay for a moment where the reason isn't known yet: the loss of PipeWire closes the session as well.
+void ScreenSession::closed(ScreenCastPortal::Ending how) {
+  if (!streams_) return;
+  if (how == ScreenCastPortal::Ending::portal) return end(End::lost);
+  if (monitorsChanged_ && Clock::now() - *monitorsChanged_ < kMonitorsChangedBefore) return reopen();
+  interrupt();
+  waitAtMost(kMonitorsChangeAfter, End::byUser);
+}
+
+void ScreenSession::watchMonitors() {
+  const auto watch = [this](QScreen* monitor) {
+    QObject::connect(monitor, &QScreen::geometryChanged, &context_, [this] { monitorsChanged(); });
+  };
+  for (QScreen* const monitor : QGuiApplication::screens())
+    watch(monitor);
+  QObject::connect(qGuiApp, &QGuiApplication::screenAdded, &context_, [this, watch](QScreen* monitor) {
+    watch(monitor);
+    monitorsChanged();
+  });
+  QObject::connect(qGuiApp, &QGuiApplication::screenRemoved, &context_, [this] { monitorsChanged(); });
+}
+
+void ScreenSession::monitorsChanged() {
+  monitorsChanged_ = Clock::now();
+  if (limit_.isActive() && orElse_ == End::byUser) reopen();
+}
+
+void ScreenSession::reopen() {
+  interrupt();
+  limit_.stop();
+  streams_.reset();
+  open();
+}
+
+void ScreenSession::interrupt() {
+  if (std::exchange(hasBegun_, false)) events_.interrupted();
+}
+
+void ScreenSession::end(End how) {
+  limit_.stop();
+  hasBegun_ = false;
+  streams_.reset();
+  if (portal_) {
+    portal_->close();
+    if (how == End::byUser) portal_->forgetToken();
+  }
+  events_.ended(how);
+}
+
+void ScreenSession::waitAtMost(std::chrono::milliseconds longest, End orElse) {
+  orElse_ = orElse;
+  limit_.start(longest);
+}
+
+}  // namespace tavrelkin

@@ -1,0 +1,77 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include <QObject>
+#include <QTimer>
+
+#include "runtime/desktop/portal/ScreenCastPortal.h"
+#include "runtime/desktop/portal/ScreenStreams.h"
+
+namespace tavrelkin {
+
+// A screen cast from the request to its end: the portal's permission, the first frames with a first place of the
+// pointer, and a new cast without a question where the desktop ends the old one because its monitors have changed.
+class ScreenSession {
+ public:
+  enum class End {
+    refused,         // the user said no
+    byUser,          // the user has ended it in the desktop
+    noPortal,        // nothing here shares a screen
+    noPointer,       // the desktop does not tell the pointer's place
+    pointerNotSeen,  // it should, but has not
+    failed,          // the portal gave an error, or no frames came
+    lost,            // frames have come, but PipeWire or the portal is gone, or the stream has stopped
+  };
+
+  // All from the event loop, but for the one that giveUp() causes.
+  struct Events {
+    std::function<void()> begun;        // frames() is there, and active
+    std::function<void()> changed;      // something in frames() is new
+    std::function<void()> interrupted;  // frames() is gone; the session begins once more, or ends
+    std::function<void(End)> ended;     // frames() is gone for good
+  };
+
+  explicit ScreenSession(Events events);
+  ScreenSession(const ScreenSession&) = delete;
+  ScreenSession& operator=(const ScreenSession&) = delete;
+  ~ScreenSession();
+
+  // Asks for the screen. Does nothing while the session is open or is being opened.
+  void open();
+
+  // Ends the session as lost: its frames have failed the reader.
+  void giveUp() { end(End::lost); }
+
+  // The frames and the pointer, or null before the session has begun and after its end.
+  ScreenStreams* frames() const { return hasBegun_ ? streams_.get() : nullptr; }
+
+ private:
+  using Clock = std::chrono::steady_clock;
+
+  void answered(ScreenCastPortal::Result answer);
+  void streamChanged();
+  void streamPaused(bool isPaused);
+  void closed(ScreenCastPortal::Ending how);
+  void watchMonitors();
+  void monitorsChanged();
+  void reopen();
+  void interrupt();
+  void end(End how);
+  void waitAtMost(std::chrono::milliseconds longest, End orElse);
+
+  Events events_;
+  std::unique_ptr<ScreenCastPortal> portal_;
+  std::unique_ptr<ScreenStreams> streams_;
+  bool isOpening_ = false;
+  bool hasBegun_ = false;
+  std::optional<Clock::time_point> monitorsChanged_;  // since the session was opened
+  End orElse_ = End::failed;
+  QTimer limit_;  // of what is being waited for
+  QObject context_;
+};
+
+}  // namespace tavrelkin
