@@ -1,29 +1,30 @@
 #pragma once
 
 #include <QDBusConnection>
-#include <QProcess>
 #include <QString>
+
+#include "e2e/support/Process.h"
 
 namespace tavrelkin::test {
 
-// A message bus of the test's own, which starts no services; it ends with the object, and with the test.
+// A message bus of the test's own, which starts no services, not even those of the machine.
 class MessageBus {
  public:
+  // Returns when it can be connected to. Throws where it doesn't start.
   MessageBus();
-  MessageBus(const MessageBus&) = delete;
-  MessageBus& operator=(const MessageBus&) = delete;
-  ~MessageBus() { stop(); }
 
   const QString& address() const { return address_; }
 
-  void stop();
+  // Ends it at once, as in a crash.
+  void kill() { process_.end(SIGKILL); }
 
  private:
-  QProcess process_;
+  Home home_;
+  Process process_;
   QString address_;
 };
 
-// A connection to the bus that ends with the object.
+// A connection to a bus that ends with the object.
 class BusConnection {
  public:
   explicit BusConnection(const QString& address);

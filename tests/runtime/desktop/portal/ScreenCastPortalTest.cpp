@@ -270,7 +270,7 @@ TEST_F(ScreenCastPortalTest, TellsOnceWhenTheSessionEnds) {
   } rows[] = {
       {"closed", [this] { portal->closeSession(); }, Ending::session},
       {"portal gone", [this] { portal.reset(); }, Ending::portal},
-      {"bus gone", [this] { bus.stop(); }, Ending::portal},
+      {"bus gone", [this] { bus.kill(); }, Ending::portal},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.what);
