@@ -23,7 +23,7 @@ bool hasPicker(const PortalInterface& portal) {
 
 // 0xRRGGBB of three numbers from 0 to 1, (ddd); nothing if `value` is anything else.
 std::optional<std::uint32_t> colourOf(const QVariant& value) {
-  auto argument = argumentOf(value, "(ddd)");
+  const auto argument = argumentOf(value, "(ddd)");
   if (!argument) return std::nullopt;
   std::uint32_t result = 0;
   argument->beginStructure();

@@ -25,9 +25,9 @@ void callMethod(const QDBusConnection& bus, const QDBusMessage& call, std::chron
   QObject::connect(watcher, &QDBusPendingCallWatcher::finished, &context, finish);
 }
 
-std::optional<QDBusArgument> argumentOf(const QVariant& value, const char* signature) {
+std::optional<const QDBusArgument> argumentOf(const QVariant& value, const char* signature) {
   if (value.metaType() != QMetaType::fromType<QDBusArgument>()) return std::nullopt;
-  auto argument = value.value<QDBusArgument>();
+  const auto argument = value.value<QDBusArgument>();
   if (argument.currentSignature() != QLatin1String(signature)) return std::nullopt;
   return argument;
 }

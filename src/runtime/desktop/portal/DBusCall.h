@@ -18,7 +18,8 @@ namespace tavrelkin {
 void callMethod(const QDBusConnection& bus, const QDBusMessage& call, std::chrono::milliseconds patience,
                 QObject& context, std::function<void(const QDBusMessage&)> done);
 
-// A structure or an array of the D-Bus type `signature` inside `value`; nothing if that holds anything else.
-std::optional<QDBusArgument> argumentOf(const QVariant& value, const char* signature);
+// The structure or array of the D-Bus type `signature` that `value` holds, for reading; nothing if it holds anything
+// else.
+std::optional<const QDBusArgument> argumentOf(const QVariant& value, const char* signature);
 
 }  // namespace tavrelkin

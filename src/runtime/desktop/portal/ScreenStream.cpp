@@ -7,6 +7,8 @@
 #include <spa/buffer/buffer.h>
 #include <spa/buffer/meta.h>
 
+#include "runtime/desktop/portal/StreamParameters.h"
+
 namespace tavrelkin {
 
 namespace {
@@ -81,8 +83,8 @@ bool ScreenStream::connect(std::uint32_t node, std::uint32_t mostFrames) {
   // Where the monitor goes, another node, as a camera, must not take its place.
   constexpr auto kFlags = static_cast<pw_stream_flags>(PW_STREAM_FLAG_AUTOCONNECT | PW_STREAM_FLAG_MAP_BUFFERS |
                                                        PW_STREAM_FLAG_DONT_RECONNECT);
-  return pw_stream_connect(stream_, PW_DIRECTION_INPUT, node, kFlags, offer.pods.data(),
-                           static_cast<std::uint32_t>(offer.pods.size())) == 0;
+  return pw_stream_connect(stream_, PW_DIRECTION_INPUT, node, kFlags, offer.data(),
+                           offer.count()) == 0;
 }
 
 ScreenStream::~ScreenStream() {
@@ -100,7 +102,7 @@ void ScreenStream::negotiate(const spa_pod* format) {
   if (!format_) return;
   StreamParameters offer;
   offerBuffers(offer);
-  pw_stream_update_params(stream_, offer.pods.data(), static_cast<std::uint32_t>(offer.pods.size()));
+  pw_stream_update_params(stream_, offer.data(), offer.count());
 }
 
 // A buffer that is kept makes the producer skip an update. So all are given back at once, and where several wait only

@@ -4,7 +4,8 @@
 #include <spa/buffer/meta.h>
 #include <spa/param/param.h>
 #include <spa/param/video/format-utils.h>
-#include <spa/pod/builder.h>
+
+#include "runtime/desktop/portal/StreamParameters.h"
 
 namespace tavrelkin {
 
@@ -15,25 +16,10 @@ constexpr int cursorBytes(int side) {
   return static_cast<int>(sizeof(spa_meta_cursor) + sizeof(spa_meta_bitmap)) + side * side * 4;
 }
 
-spa_pod_builder builderIn(StreamParameters& parameters) {
-  parameters.pods.clear();
-  spa_pod_builder builder{};
-  spa_pod_builder_init(&builder, parameters.memory.data(), static_cast<std::uint32_t>(parameters.memory.size()));
-  return builder;
-}
-
-// Adds an object of these properties, each a key and what an SPA_POD macro makes of its value.
-template <class... Properties>
-void add(StreamParameters& parameters, spa_pod_builder& builder, std::uint32_t type, std::uint32_t id,
-         Properties... properties) {
-  spa_pod_frame frame{};
-  spa_pod_builder_push_object(&builder, &frame, type, id);
-  spa_pod_builder_add(&builder, properties..., 0);
-  parameters.pods.push_back(static_cast<const spa_pod*>(spa_pod_builder_pop(&builder, &frame)));
-}
-
 }  // namespace
 
+// A key and its value on a line.
+// clang-format off
 void offerFormats(StreamParameters& parameters, std::uint32_t mostFrames) {
   constexpr std::uint32_t kLongestSide = ScreenModel::kLongestSide;
   const spa_rectangle usual{1920, 1080};
@@ -42,31 +28,30 @@ void offerFormats(StreamParameters& parameters, std::uint32_t mostFrames) {
   const spa_fraction onChange{0, 1};
   const spa_fraction most{mostFrames, 1};
 
-  spa_pod_builder builder = builderIn(parameters);
-  add(parameters, builder, SPA_TYPE_OBJECT_Format, SPA_PARAM_EnumFormat,                           //
-      SPA_FORMAT_mediaType, SPA_POD_Id(SPA_MEDIA_TYPE_video),                                      //
-      SPA_FORMAT_mediaSubtype, SPA_POD_Id(SPA_MEDIA_SUBTYPE_raw),                                  //
-      SPA_FORMAT_VIDEO_format,                                                                     //
-      SPA_POD_CHOICE_ENUM_Id(5, SPA_VIDEO_FORMAT_BGRx,                                             //
-                             SPA_VIDEO_FORMAT_BGRx, SPA_VIDEO_FORMAT_BGRA, SPA_VIDEO_FORMAT_RGBx,  //
-                             SPA_VIDEO_FORMAT_RGBA),                                               //
-      SPA_FORMAT_VIDEO_size, SPA_POD_CHOICE_RANGE_Rectangle(&usual, &least, &largest),             //
-      SPA_FORMAT_VIDEO_framerate, SPA_POD_CHOICE_RANGE_Fraction(&onChange, &onChange, &most),      //
+  parameters.add(SPA_TYPE_OBJECT_Format, SPA_PARAM_EnumFormat,
+      SPA_FORMAT_mediaType, SPA_POD_Id(SPA_MEDIA_TYPE_video),
+      SPA_FORMAT_mediaSubtype, SPA_POD_Id(SPA_MEDIA_SUBTYPE_raw),
+      SPA_FORMAT_VIDEO_format,
+      SPA_POD_CHOICE_ENUM_Id(5, SPA_VIDEO_FORMAT_BGRx,
+                             SPA_VIDEO_FORMAT_BGRx, SPA_VIDEO_FORMAT_BGRA, SPA_VIDEO_FORMAT_RGBx,
+                             SPA_VIDEO_FORMAT_RGBA),
+      SPA_FORMAT_VIDEO_size, SPA_POD_CHOICE_RANGE_Rectangle(&usual, &least, &largest),
+      SPA_FORMAT_VIDEO_framerate, SPA_POD_CHOICE_RANGE_Fraction(&onChange, &onChange, &most),
       SPA_FORMAT_VIDEO_maxFramerate, SPA_POD_CHOICE_RANGE_Fraction(&most, &onChange, &most));
 }
 
 void offerBuffers(StreamParameters& parameters) {
-  spa_pod_builder builder = builderIn(parameters);
-  add(parameters, builder, SPA_TYPE_OBJECT_ParamBuffers, SPA_PARAM_Buffers,  //
-      SPA_PARAM_BUFFERS_buffers, SPA_POD_CHOICE_RANGE_Int(3, 2, 4),          //
+  parameters.add(SPA_TYPE_OBJECT_ParamBuffers, SPA_PARAM_Buffers,
+      SPA_PARAM_BUFFERS_buffers, SPA_POD_CHOICE_RANGE_Int(3, 2, 4),
       SPA_PARAM_BUFFERS_dataType, SPA_POD_CHOICE_FLAGS_Int(1 << SPA_DATA_MemPtr | 1 << SPA_DATA_MemFd));
-  add(parameters, builder, SPA_TYPE_OBJECT_ParamMeta, SPA_PARAM_Meta,  //
-      SPA_PARAM_META_type, SPA_POD_Id(SPA_META_Header),                //
+  parameters.add(SPA_TYPE_OBJECT_ParamMeta, SPA_PARAM_Meta,
+      SPA_PARAM_META_type, SPA_POD_Id(SPA_META_Header),
       SPA_PARAM_META_size, SPA_POD_Int(int{sizeof(spa_meta_header)}));
-  add(parameters, builder, SPA_TYPE_OBJECT_ParamMeta, SPA_PARAM_Meta,  //
-      SPA_PARAM_META_type, SPA_POD_Id(SPA_META_Cursor),                //
+  parameters.add(SPA_TYPE_OBJECT_ParamMeta, SPA_PARAM_Meta,
+      SPA_PARAM_META_type, SPA_POD_Id(SPA_META_Cursor),
       SPA_PARAM_META_size, SPA_POD_CHOICE_RANGE_Int(cursorBytes(64), int{sizeof(spa_meta_cursor)}, cursorBytes(1024)));
 }
+// clang-format on
 
 std::optional<StreamFormat> parseFormat(const spa_pod* pod) {
   std::uint32_t type = 0;

@@ -1,10 +1,7 @@
 #pragma once
 
-#include <array>
-#include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <vector>
 
 #include "runtime/desktop/portal/ScreenModel.h"
 
@@ -12,16 +9,12 @@ struct spa_pod;
 
 namespace tavrelkin {
 
-// Parameters by which a stream is negotiated, and the memory that they are in. PipeWire changes none of them.
-struct StreamParameters {
-  alignas(8) std::array<std::byte, 1024> memory;
-  std::vector<const spa_pod*> pods;
-};
+class StreamParameters;
 
-// Sets the formats that can be read, at up to `mostFrames` frames a second. Only ones that lie in plain memory.
+// Adds the formats that can be read, at up to `mostFrames` frames a second. Only ones that lie in plain memory.
 void offerFormats(StreamParameters& parameters, std::uint32_t mostFrames);
 
-// Sets what is wanted of the buffers once the format is known: that they are few, and say where the pointer is.
+// Adds what is wanted of the buffers once the format is known: that they are few, and say where the pointer is.
 void offerBuffers(StreamParameters& parameters);
 
 struct StreamFormat {
