@@ -48,7 +48,7 @@ void ScreenSession::answered(ScreenCastPortal::Result answer) {
   if (auto* const cast = std::get_if<ScreenCast>(&answer)) {
     streams_ = ScreenStreams::connect(std::move(*cast), {.changed = [this] { streamChanged(); },
                                                          .paused = [this](bool isPaused) { streamPaused(isPaused); },
-                                                         .lost = [this] { end(End::lost); }});
+                                                         .lost = [this] { stopped(End::lost); }});
     if (!streams_) return end(End::noPortal);
     streams_->setActive(true);
     return waitAtMost(kFirstFrames, End::failed);
@@ -67,7 +67,7 @@ void ScreenSession::answered(ScreenCastPortal::Result answer) {
 
 void ScreenSession::streamChanged() {
   if (hasBegun_) return events_.changed();
-  if (!streams_->hasFrames()) return;
+  if (isStopped_ || !streams_->hasFrames()) return;
   if (streams_->pointer()) {
     limit_.stop();
     hasBegun_ = true;
@@ -86,13 +86,18 @@ void ScreenSession::streamPaused(bool isPaused) {
   }
 }
 
-// The streams stay for a moment where the reason isn't known yet: the loss of PipeWire closes the session as well.
 void ScreenSession::closed(ScreenCastPortal::Ending how) {
-  if (!streams_) return;
   if (how == ScreenCastPortal::Ending::portal) return end(End::lost);
+  stopped(End::byUser);
+}
+
+// The session and its streams may end one after the other; the first end says why.
+void ScreenSession::stopped(End how) {
+  if (!streams_ || isStopped_) return;
   if (monitorsChanged_ && Clock::now() - *monitorsChanged_ < kMonitorsChangedBefore) return reopen();
   interrupt();
-  waitAtMost(kMonitorsChangeAfter, End::byUser);
+  waitAtMost(kMonitorsChangeAfter, how);
+  isStopped_ = true;
 }
 
 void ScreenSession::watchMonitors() {
@@ -110,13 +115,14 @@ void ScreenSession::watchMonitors() {
 
 void ScreenSession::monitorsChanged() {
   monitorsChanged_ = Clock::now();
-  if (limit_.isActive() && orElse_ == End::byUser) reopen();
+  if (isStopped_) reopen();
 }
 
 void ScreenSession::reopen() {
   interrupt();
   limit_.stop();
   streams_.reset();
+  isStopped_ = false;
   open();
 }
 
@@ -127,6 +133,7 @@ void ScreenSession::interrupt() {
 void ScreenSession::end(End how) {
   limit_.stop();
   hasBegun_ = false;
+  isStopped_ = false;
   streams_.reset();
   if (portal_) {
     portal_->close();

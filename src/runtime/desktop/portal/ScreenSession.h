@@ -56,6 +56,7 @@ class ScreenSession {
   void streamChanged();
   void streamPaused(bool isPaused);
   void closed(ScreenCastPortal::Ending how);
+  void stopped(End how);
   void watchMonitors();
   void monitorsChanged();
   void reopen();
@@ -68,6 +69,7 @@ class ScreenSession {
   std::unique_ptr<ScreenStreams> streams_;
   bool isOpening_ = false;
   bool hasBegun_ = false;
+  bool isStopped_ = false;  // the desktop has ended it, and may tell of a change of its monitors next
   std::optional<Clock::time_point> monitorsChanged_;  // since the session was opened
   End orElse_ = End::failed;
   QTimer limit_;  // of what is being waited for

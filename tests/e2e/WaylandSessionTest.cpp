@@ -14,7 +14,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-class WaylandTest : public testing::Test {
+class WaylandSessionTest : public testing::Test {
  protected:
   void SetUp() override { ASSERT_EQ(desktop_.firstLine(), "ready"); }
 
@@ -35,9 +35,7 @@ class WaylandTest : public testing::Test {
   // A monitor of 1280 by 800 at the top left corner, unless told otherwise.
   using Screen = std::function<std::uint32_t(int, int)>;
   static Screen oneMonitor(std::uint32_t frame = 0) {
-    return [frame](int x, int y) {
-      return x >= 0 && x < 1280 && y >= 0 && y < 800 ? playedPixel(frame, 0, x, y) : 0U;
-    };
+    return [frame](int x, int y) { return x >= 0 && x < 1280 && y >= 0 && y < 800 ? playedPixel(frame, 0, x, y) : 0U; };
   }
 
   testing::AssertionResult shows(ScreenPoint at, const Screen& screen = oneMonitor()) {
@@ -67,7 +65,7 @@ class WaylandTest : public testing::Test {
   ToolWindow tool_{session_};
 };
 
-TEST_F(WaylandTest, FollowsAndPokesOnceTheUserHasAllowedIt) {
+TEST_F(WaylandSessionTest, FollowsAndPokesOnceTheUserHasAllowedIt) {
   desktop({"undecided", "pointer 300 200"});
   const Pixels before = tool_.preview();
   tool_.keys("Ctrl+F");
@@ -86,7 +84,7 @@ TEST_F(WaylandTest, FollowsAndPokesOnceTheUserHasAllowedIt) {
   EXPECT_TRUE(tool_.getsTitleOf(playedPixel(7, 0, 1279, 0))) << "without a second question";
 }
 
-TEST_F(WaylandTest, AFirstPokeOnlyAsks) {
+TEST_F(WaylandSessionTest, AFirstPokeOnlyAsks) {
   tool_.keys("Ctrl+Alt+P");
   ASSERT_TRUE(tool_.paste(0x102030));
   desktop({"pointer 5 6"});
@@ -107,7 +105,7 @@ struct Ending {
   std::vector<std::string> mended;
 };
 
-class WaylandEndingTest : public WaylandTest, public testing::WithParamInterface<Ending> {};
+class WaylandEndingTest : public WaylandSessionTest, public testing::WithParamInterface<Ending> {};
 
 TEST_P(WaylandEndingTest, EndsFollowingAndTheNextFollowTriesAgain) {
   const Ending& row = GetParam();
@@ -138,14 +136,14 @@ const Ending kEndings[] = {
     {"NoScreenCast", {"version 0", "picker 0"}, {}, true, {}},
 };
 INSTANTIATE_TEST_SUITE_P(, WaylandEndingTest, testing::ValuesIn(kEndings),
-                         [](const auto& info) { return info.param.name; });
+                         [](const auto& row) { return row.param.name; });
 
-TEST_F(WaylandTest, GoesOnWhenTheMonitorsChange) {
+TEST_F(WaylandSessionTest, GoesOnWhenTheMonitorsChange) {
   tool_.keys("Ctrl+F");
   desktop({"pointer 100 100"});
   ASSERT_TRUE(shows({100, 100}));
   desktop({"monitors 400x300+0+0*2 480x600+400-100", "close"});
-  session_.client.resizeScreen(1280, 720);
+  session_.client.splitScreen(400);
   // The largest scale is 2: the second monitor begins at twice its logical place, and leaves gaps.
   const auto screen = [](int x, int y) {
     if (x >= 0 && x < 800 && y >= 0 && y < 600) return playedPixel(0, 0, x, y);
@@ -158,7 +156,7 @@ TEST_F(WaylandTest, GoesOnWhenTheMonitorsChange) {
   EXPECT_TRUE(shows({803, -196}, screen));
 }
 
-TEST_F(WaylandTest, PokeTakesThePickedColourWhereTheDesktopDoesNotTellThePointer) {
+TEST_F(WaylandSessionTest, PokeTakesThePickedColourWhereTheDesktopDoesNotTellThePointer) {
   desktop({"modes 3", "picker 2", "pick 18 52 86"});
   tool_.keys("Ctrl+Alt+P");
   EXPECT_TRUE(tool_.getsTitleOf(0x123456));
@@ -169,7 +167,7 @@ TEST_F(WaylandTest, PokeTakesThePickedColourWhereTheDesktopDoesNotTellThePointer
   closeMessage();
 }
 
-TEST_F(WaylandTest, APortalThatNeverAnswersHoldsNothingUp) {
+TEST_F(WaylandSessionTest, APortalThatNeverAnswersHoldsNothingUp) {
   desktop({"mute CreateSession"});
   tool_.keys("Ctrl+F");
   EXPECT_TRUE(tool_.paste(0x123456));
