@@ -101,6 +101,7 @@ void ScreenProducer::addFormat(StreamParameters& offer) const {
 void ScreenProducer::offerBuffers(const spa_pod& format) {
   spa_video_info_raw info{};
   spa_format_video_raw_parse(&format, &info);
+  linker_.formatChanged();
   agreedSize_ = {static_cast<std::int32_t>(info.size.width), static_cast<std::int32_t>(info.size.height)};
 
   StreamParameters offer;
@@ -122,7 +123,7 @@ bool ScreenProducer::send(const Update& update, std::chrono::milliseconds longes
 // A buffer that follows before the last one has gone out overwrites it at the receiver.
 bool ScreenProducer::trySend(const Update& update) {
   const PipeWireConnection::Lock lock(*connection_);
-  if (!isReceived_ || isSending_ || agreedSize_ != size_) return false;
+  if (!isReceived_ || !linker_.isReady() || isSending_ || agreedSize_ != size_) return false;
   pw_buffer* const buffer = pw_stream_dequeue_buffer(stream_);
   if (!buffer) return false;
   fill(*buffer->buffer, update);

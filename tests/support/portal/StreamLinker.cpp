@@ -1,6 +1,6 @@
 #include "support/portal/StreamLinker.h"
 
-#include <cstdlib>
+#include <algorithm>
 #include <string>
 #include <string_view>
 
@@ -14,7 +14,8 @@ pw_proxy* proxyOf(void* object) {
 
 }  // namespace
 
-// A node that another program has made. What it asks for comes with its description.
+// A node that another program has made, and its link where it asks for the producer. What it asks for comes with its
+// description.
 struct StreamLinker::Node {
   Node(StreamLinker& owner, std::uint32_t id)
       : linker(owner),
@@ -22,26 +23,36 @@ struct StreamLinker::Node {
     events.version = PW_VERSION_NODE_EVENTS;
     events.info = [](void* data, const pw_node_info* info) { static_cast<Node*>(data)->note(*info); };
     pw_proxy_add_object_listener(proxy, &hook, &events, this);
+    linkEvents.version = PW_VERSION_LINK_EVENTS;
+    linkEvents.info = [](void* data, const pw_link_info* info) {
+      static_cast<Node*>(data)->isReady = info->state >= PW_LINK_STATE_PAUSED;
+    };
   }
   Node(const Node&) = delete;
   Node& operator=(const Node&) = delete;
   ~Node() {
     spa_hook_remove(&hook);
     pw_proxy_destroy(proxy);
+    if (!link) return;
+    spa_hook_remove(&linkHook);
+    pw_proxy_destroy(link);
   }
 
   void note(const pw_node_info& info) {
-    const char* const target = info.props ? spa_dict_lookup(info.props, PW_KEY_NODE_TARGET) : nullptr;
-    if (linked || info.n_input_ports == 0 || !target) return;
-    linked = std::to_string(linker.producer_) == target;
-    if (linked) linker.link(info.id);
+    const char* const target = info.props ? spa_dict_lookup(info.props, "node.target") : nullptr;
+    if (link || info.n_input_ports == 0 || !target || std::to_string(linker.producer_) != target) return;
+    link = linker.link(info.id);
+    pw_proxy_add_object_listener(link, &linkHook, &linkEvents, this);
   }
 
   StreamLinker& linker;
   pw_proxy* proxy;
   pw_node_events events{};
   spa_hook hook{};
-  bool linked = false;
+  pw_proxy* link = nullptr;
+  pw_link_events linkEvents{};
+  spa_hook linkHook{};
+  bool isReady = false;
 };
 
 StreamLinker::StreamLinker(const PipeWireConnection& connection)
@@ -64,12 +75,23 @@ void StreamLinker::add(std::uint32_t id) {
   nodes_.emplace(id, std::make_unique<Node>(*this, id));
 }
 
-void StreamLinker::link(std::uint32_t consumer) {
+bool StreamLinker::isReady() const {
+  return std::any_of(nodes_.begin(), nodes_.end(), [](const auto& node) { return node.second->isReady; });
+}
+
+void StreamLinker::formatChanged() {
+  for (const auto& [id, node] : nodes_)
+    node->isReady = false;
+}
+
+pw_proxy* StreamLinker::link(std::uint32_t consumer) const {
   pw_properties* const properties = pw_properties_new(nullptr, nullptr);
   pw_properties_setf(properties, PW_KEY_LINK_OUTPUT_NODE, "%u", producer_);
   pw_properties_setf(properties, PW_KEY_LINK_INPUT_NODE, "%u", consumer);
-  pw_core_create_object(core_, "link-factory", PW_TYPE_INTERFACE_Link, PW_VERSION_LINK, &properties->dict, 0);
+  void* const made =
+      pw_core_create_object(core_, "link-factory", PW_TYPE_INTERFACE_Link, PW_VERSION_LINK, &properties->dict, 0);
   pw_properties_free(properties);
+  return proxyOf(made);
 }
 
 }  // namespace tavrelkin::test

@@ -20,14 +20,20 @@ class StreamLinker {
   // The thread must have ended.
   ~StreamLinker();
 
-  // The node to link to, as soon as it is known. For the thread of the connection.
+  // The operations that follow are for the thread of the connection.
+  // The node to link to, as soon as it is known.
   void setProducer(std::uint32_t node) { producer_ = node; }
+
+  // Whether what the producer sends reaches a stream. After a change of the format it doesn't, until the link is made
+  // ready for the new buffers.
+  bool isReady() const;
+  void formatChanged();
 
  private:
   struct Node;
 
   void add(std::uint32_t id);
-  void link(std::uint32_t consumer);
+  pw_proxy* link(std::uint32_t consumer) const;
 
   pw_core* core_;
   pw_registry* registry_;

@@ -26,9 +26,9 @@ class ScreenStreams {
 
   // All are called from the event loop, and may destroy the object.
   struct Events {
-    std::function<void()> changed;            // frames or pointer places have arrived since the last call
-    std::function<void(bool paused)> paused;  // the desktop has paused a stream while active, or goes on
-    std::function<void()> lost;               // the connection or a stream has ended; nothing arrives any more
+    std::function<void()> changed{};            // frames or pointer places have arrived since the last call
+    std::function<void(bool paused)> paused{};  // the desktop has paused a stream while active, or goes on
+    std::function<void()> lost{};               // the connection or a stream has ended; nothing arrives any more
   };
 
   // Begins to receive, active. `mostFrames` is how many frames a second the desktop should send at most. Null where
