@@ -51,9 +51,10 @@ void MenuItem::chosen() {
   Application::current().dispatch(name_);
 }
 
-// The toolkit turns a check mark over by itself when the item is chosen; the mark is the program's.
+// The toolkit turns a check mark over by itself when the item is chosen; the mark is the program's. It also draws an
+// empty box for an item that is checkable and not checked.
 void MenuItem::applyChecked() {
-  if (Checked) action_->setCheckable(true);
+  action_->setCheckable(Checked);
   action_->setChecked(Checked);
 }
 
