@@ -4,6 +4,7 @@
 
 #include <QDrag>
 #include <QDropEvent>
+#include <QGuiApplication>
 #include <QMimeData>
 #include <QTest>
 
@@ -74,6 +75,14 @@ void shortcut(const Window& window, const String& keys) {
 void shortcut(const RectControl& control, const String& keys) {
   EXPECT_TRUE(QTest::qWaitForWindowActive(control.native().window()));
   QTest::keySequence(&control.native(), toKeySequence(keys));
+}
+
+void holdShortcut(const Window& window, const String& keys, int repeats) {
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&window.native()));
+  const QKeyCombination pressed = toKeySequence(keys)[0];
+  for (int i = 0; i <= repeats; ++i)
+    qt_handleKeyEvent(QGuiApplication::focusWindow(), QEvent::KeyPress, pressed.key(), pressed.keyboardModifiers(), {},
+                      i > 0);
 }
 
 void closeByFrame(const Window& window) {

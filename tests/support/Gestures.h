@@ -25,6 +25,9 @@ bool hasKeyboard(const RectControl& control);
 void shortcut(const Window& window, const String& keys);
 // The same while the control has the keyboard.
 void shortcut(const RectControl& control, const String& keys);
+// The keys of a shortcut are held down while the window is in front, until the keyboard has repeated them `repeats`
+// times.
+void holdShortcut(const Window& window, const String& keys, int repeats);
 
 // The user closes, or minimises, the window by its frame.
 void closeByFrame(const Window& window);

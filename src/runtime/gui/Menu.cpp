@@ -24,6 +24,7 @@ MenuItem::MenuItem(String name, String text, String shortcut)
   action_->setSeparator(isSeparator());
   action_->setMenuRole(QAction::NoRole);
   action_->setShortcut(toKeySequence(shortcut_));
+  action_->setAutoRepeat(false);
   action_->setEnabled(false);
   QObject::connect(action_.get(), &QAction::triggered, [this] {
     const Ref<MenuItem> keep(this);

@@ -46,5 +46,10 @@ TEST_F(MenuTest, AnItemThatIsUnmarkedAgainLooksAsBefore) {
   EXPECT_EQ(menu().grab().toImage(), unmarked);
 }
 
+TEST_F(MenuTest, AKeyThatIsHeldChoosesAnItemOnce) {
+  gesture::holdShortcut(*window, "Cmd+M", 3);
+  EXPECT_EQ(window->chosen, 1);
+}
+
 }  // namespace
 }  // namespace tavrelkin
