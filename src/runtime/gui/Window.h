@@ -40,6 +40,7 @@ class Window : public Object {
   ~Window() override;
 
   Property<String> Title;
+  // A control that has the keyboard, and that a change of size hides, gives it to one in sight.
   Property<Int32> Width;
   Property<Int32> Height;
   // The colour of the content where no control is. FillColor() of ThemeColors.h at first.

@@ -49,6 +49,12 @@ WindowWidget::WindowWidget(Window& window, const WindowDesign& design)
 void WindowWidget::setContentSize(int width, int height) {
   content_->setFixedSize(width, height);
   layout()->activate();
+  if (const QWidget* focus = focusWidget(); focus && !isInSight(*focus)) leaveFocus();
+}
+
+// To the control before, as Shift+Tab would: in front of what a window unfolds stands the control that folds it.
+void WindowWidget::leaveFocus() {
+  if (!focusNextPrevChild(false)) focusWidget()->clearFocus();
 }
 
 void WindowWidget::setBackColor(const QColor& c) {
@@ -115,7 +121,11 @@ void WindowWidget::takeSizeAgain() {
 
 bool WindowWidget::takesTabulator(const QWidget& control) const {
   if (!(control.focusPolicy() & Qt::TabFocus) || !control.isEnabled() || !control.isVisibleTo(this)) return false;
-  return control.window() == this && rect().intersects(QRect(control.mapTo(this, QPoint()), control.size()));
+  return control.window() == this && isInSight(control);
+}
+
+bool WindowWidget::isInSight(const QWidget& control) const {
+  return rect().intersects(QRect(control.mapTo(this, QPoint()), control.size()));
 }
 
 // Escape leaves a modal window as its close button does, whatever its buttons are.

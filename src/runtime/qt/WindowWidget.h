@@ -23,6 +23,7 @@ class WindowWidget : public QWidget {
 
   QWidget& content() const { return *content_; }
 
+  // A control that has the keyboard, and that the new size leaves no part of, gives it to one in sight.
   void setContentSize(int width, int height);
   void setBackColor(const QColor& c);
   void setMenuBar(const Ref<MenuBar>& bar);
@@ -42,7 +43,9 @@ class WindowWidget : public QWidget {
 
  private:
   void takeSizeAgain();
+  void leaveFocus();
   bool takesTabulator(const QWidget& control) const;
+  bool isInSight(const QWidget& control) const;
 
   Window* window_;
   QWidget* content_;
