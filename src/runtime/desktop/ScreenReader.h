@@ -58,14 +58,14 @@ class ScreenReader {
   virtual ScreenPoint pointer() = 0;
 
   // While on, `changed` is called from the event loop soon after each movement of the pointer, wherever it is, after
-  // each change of state() and, where tellsEachChange(), after each change of what is on screen. An empty function turns
-  // it off, as it is at first. A program that is idle leaves it off, since the changes wake the process.
+  // each change of state() and, where tellsEachChange(), after each change of what is on screen. An empty function
+  // turns it off, as it is at first. A program that is idle leaves it off, since the changes wake the process.
   virtual void watch(std::function<void()> changed) = 0;
 
   // Whether watch() tells of each change on the screen, so that nobody needs to look at it from time to time.
   virtual bool tellsEachChange() const { return false; }
 
-  // Whether the Option key is held down now.
+  // Whether the Option key is held down now: Alt or AltGr.
   virtual bool optionKey() = 0;
 };
 

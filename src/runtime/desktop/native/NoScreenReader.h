@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "runtime/desktop/ScreenReader.h"
+#include "runtime/desktop/native/ToolkitOptionKey.h"
 
 namespace tavrelkin {
 
@@ -14,8 +15,8 @@ std::uint32_t patternOfGreys(ScreenPoint at);
 // to date only over the program's own windows, and its movements are not watched.
 class NoScreenReader final : public ScreenReader {
  public:
-  // `tellWhy` tells the user what is missing and what helps. It is called once, at the first read or request, maybe from
-  // a thread of the program, and must return at once.
+  // `tellWhy` tells the user what is missing and what helps. It is called once, at the first read or request, maybe
+  // from a thread of the program, and must return at once.
   explicit NoScreenReader(std::function<void()> tellWhy);
 
   ScreenState state() const override { return ScreenState::unavailable; }
@@ -23,10 +24,11 @@ class NoScreenReader final : public ScreenReader {
   std::uint32_t pixel(ScreenPoint at) override;
   ScreenPoint pointer() override;
   void watch(std::function<void()>) override {}
-  bool optionKey() override;
+  bool optionKey() override { return optionKey_.isDown(); }
 
  private:
   std::function<void()> tellWhy_;  // empty once it was called
+  ToolkitOptionKey optionKey_;
 };
 
 }  // namespace tavrelkin
