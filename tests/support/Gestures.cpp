@@ -85,6 +85,31 @@ void holdShortcut(const Window& window, const String& keys, int repeats) {
                       i > 0);
 }
 
+void clickIn(const Window& window, Int32 x, Int32 y) {
+  const QPoint at = window.content().mapTo(&window.native(), QPoint(x, y));
+  QTest::mouseClick(window.native().windowHandle(), Qt::LeftButton, {}, at);
+}
+
+void keyIn(const Window& window, int qtKey) {
+  QTest::keyClick(window.native().windowHandle(), static_cast<Qt::Key>(qtKey));
+}
+
+void scrollIn(const Window& window) {
+  const QPointF at = window.native().rect().center();
+  QWheelEvent event(at, at, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(window.native().windowHandle(), &event);
+}
+
+void activate(const Window& window) {
+  window.native().activateWindow();
+  QCoreApplication::processEvents();
+}
+
+bool isInFront(const Window& window) {
+  QCoreApplication::processEvents();
+  return window.native().isActiveWindow() && !window.native().isMinimized();
+}
+
 void closeByFrame(const Window& window) {
   window.native().close();
 }

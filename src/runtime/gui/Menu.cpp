@@ -48,6 +48,12 @@ void MenuItem::attachTo(QMenuBar& bar) const {
   if (menu_) bar.addMenu(menu_.get());
 }
 
+void MenuItem::attachKeysTo(QWidget& window) const {
+  window.addAction(action_.get());
+  for (const Ref<MenuItem>& item : items_)
+    item->attachKeysTo(window);
+}
+
 void MenuItem::chosen() {
   Application::current().dispatch(name_);
 }
@@ -91,6 +97,11 @@ Ref<MenuItem> MenuBar::Child(const String& name) const {
 void MenuBar::attachTo(QMenuBar& bar) const {
   for (const Ref<MenuItem>& menu : menus_)
     menu->attachTo(bar);
+}
+
+void MenuBar::attachKeysTo(QWidget& window) const {
+  for (const Ref<MenuItem>& menu : menus_)
+    menu->attachKeysTo(window);
 }
 
 }  // namespace tavrelkin
