@@ -94,18 +94,30 @@ TEST_F(ScreenReaderTest, SeesChangesInTheNextTurnAndSoonWithoutOne) {
   EXPECT_TRUE(eventually([&] { return reader_->pixel(inside) == 0x0000FFU; }));
 }
 
-TEST_F(ScreenReaderTest, FollowsThePointerAndTheAltKey) {
+TEST_F(ScreenReaderTest, FollowsThePointer) {
   for (const ScreenPoint at : {ScreenPoint{300, 200}, ScreenPoint{0, 0}, ScreenPoint{right_, 7}}) {
     client_.movePointer(at.x, at.y);
     reader_->beginTurn();
     EXPECT_EQ(reader_->pointer(), at);
   }
+}
+
+// Layouts give the level-3 shift one modifier or another, and a user may change the layout.
+TEST_F(ScreenReaderTest, KnowsAltAndAltGrByTheKeyboardLayoutOfTheMoment) {
   Hand hand(client_);
-  EXPECT_FALSE(reader_->optionKey());
-  hand.press("Alt");
-  EXPECT_TRUE(reader_->optionKey());
-  hand.release("Alt");
-  EXPECT_FALSE(reader_->optionKey());
+  const auto holds = [&](const std::string& key) {
+    hand.press(key);
+    const bool result = reader_->optionKey();
+    hand.release(key);
+    return result;
+  };
+  for (const int modifier : {5, 3}) {
+    client_.setModifier(modifier, hand.keyCode("AltGr"));
+    for (const auto& [key, isOption] : {std::pair{"Alt", true}, {"AltGr", true}, {"Shift", false}, {"Ctrl", false}}) {
+      EXPECT_EQ(holds(key), isOption) << key << " while AltGr is Mod" << modifier;
+      EXPECT_FALSE(reader_->optionKey()) << key << " is up";
+    }
+  }
 }
 
 TEST_F(ScreenReaderTest, TellsOfMovementsWhileWatching) {

@@ -1,5 +1,8 @@
 // From the program's start to its end, by the keys and by the window manager.
 
+#include <functional>
+#include <utility>
+
 #include <gtest/gtest.h>
 
 #include "e2e/support/ToolWindow.h"
@@ -40,6 +43,30 @@ TEST_F(WindowsTest, OpenFoldedInTheFirstOnesColourAndEndTheProgramWithTheLastOne
   second.keys("Ctrl+W");
   EXPECT_EQ(session_.program.waitForExit(), 0);
   EXPECT_EQ(session_.program.errors(), "");
+}
+
+TEST_F(WindowsTest, AMinimisedAboutStaysSoUntilTheUserTurnsToAWindowThatWaitsForIt) {
+  constexpr int kViewMenu = 129;
+  const auto second = openAnother(tool_);
+  tool_.choose(kViewMenu, "Down");
+  const xcb_window_t about = session_.waitForWindow("About");
+  ASSERT_TRUE(waitUntil([&] { return session_.windows.hasKeyboard(about); }));
+  const std::pair<const char*, std::function<void()>> ways[] = {
+      {"click", [&] { tool_.click(100, 100); }},
+      {"key", [&] { session_.hand.keys("Right"); }},
+      {"task bar", [&] { session_.windows.activate(second.window()); }},
+  };
+  for (const auto& [name, turn] : ways) {
+    session_.windows.minimise(about);
+    ASSERT_TRUE(waitUntil([&] { return session_.windows.hasKeyboard(tool_.window()); })) << name;
+    session_.hand.rest();
+    EXPECT_TRUE(session_.windows.isMinimised(about)) << name;
+    turn();
+    EXPECT_TRUE(waitUntil([&] { return session_.windows.hasKeyboard(about); })) << name;
+    EXPECT_FALSE(session_.windows.isMinimised(about)) << name;
+  }
+  session_.hand.keys("Ctrl+Q");
+  EXPECT_EQ(session_.program.waitForExit(), 0);
 }
 
 TEST_F(WindowsTest, TenFollowAndQuit) {

@@ -1,5 +1,6 @@
 #include "e2e/X11Client.h"
 
+#include <algorithm>
 #include <bit>
 #include <cmath>
 #include <cstring>
@@ -114,6 +115,21 @@ void X11Client::fake(std::uint8_t type, std::uint8_t detail, int x, int y) {
   xcb_test_fake_input(connection(), type, detail, XCB_CURRENT_TIME, root(), static_cast<std::int16_t>(x),
                       static_cast<std::int16_t>(y), 0);
   sync();
+}
+
+void X11Client::setModifier(int mod, std::uint8_t keyCode) {
+  constexpr int kBeforeMod1 = 3;  // Shift, Lock and Control
+  const auto mapping = await(connection(), xcb_get_modifier_mapping(connection()), xcb_get_modifier_mapping_reply);
+  xcb_keycode_t* const keys = xcb_get_modifier_mapping_keycodes(mapping.get());
+  std::replace(keys, keys + xcb_get_modifier_mapping_keycodes_length(mapping.get()), keyCode, xcb_keycode_t{0});
+  const int perModifier = mapping->keycodes_per_modifier;
+  xcb_keycode_t* const first = keys + (kBeforeMod1 + mod - 1) * perModifier;
+  std::fill_n(first, perModifier, xcb_keycode_t{0});
+  *first = keyCode;
+  const auto cookie = xcb_set_modifier_mapping(connection(), mapping->keycodes_per_modifier, keys);
+  const auto reply = await(connection(), cookie, xcb_set_modifier_mapping_reply);
+  if (!reply || reply->status != XCB_MAPPING_STATUS_SUCCESS)
+    throw std::runtime_error("The modifiers stay as they are.");
 }
 
 void X11Client::tell(xcb_window_t receiver, std::uint32_t events, xcb_window_t window, const std::string& what,

@@ -48,6 +48,8 @@ class X11Client {
   void tell(xcb_window_t receiver, std::uint32_t events, xcb_window_t window, const std::string& what,
             std::uint32_t first, std::uint32_t second);
   void sync() const;
+  // Makes a key the only one of a modifier, Mod1 to Mod5, and of no other one.
+  void setModifier(int mod, std::uint8_t keyCode);
 
   xcb_atom_t atom(const std::string& name) const;
 

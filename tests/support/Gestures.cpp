@@ -4,6 +4,7 @@
 
 #include <QDrag>
 #include <QDropEvent>
+#include <QGuiApplication>
 #include <QMimeData>
 #include <QTest>
 
@@ -74,6 +75,39 @@ void shortcut(const Window& window, const String& keys) {
 void shortcut(const RectControl& control, const String& keys) {
   EXPECT_TRUE(QTest::qWaitForWindowActive(control.native().window()));
   QTest::keySequence(&control.native(), toKeySequence(keys));
+}
+
+void holdShortcut(const Window& window, const String& keys, int repeats) {
+  EXPECT_TRUE(QTest::qWaitForWindowActive(&window.native()));
+  const QKeyCombination pressed = toKeySequence(keys)[0];
+  for (int i = 0; i <= repeats; ++i)
+    qt_handleKeyEvent(QGuiApplication::focusWindow(), QEvent::KeyPress, pressed.key(), pressed.keyboardModifiers(), {},
+                      i > 0);
+}
+
+void clickIn(const Window& window, Int32 x, Int32 y) {
+  const QPoint at = window.content().mapTo(&window.native(), QPoint(x, y));
+  QTest::mouseClick(window.native().windowHandle(), Qt::LeftButton, {}, at);
+}
+
+void keyIn(const Window& window, int qtKey) {
+  QTest::keyClick(window.native().windowHandle(), static_cast<Qt::Key>(qtKey));
+}
+
+void scrollIn(const Window& window) {
+  const QPointF at = window.native().rect().center();
+  QWheelEvent event(at, at, {}, {0, 120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase, false);
+  QCoreApplication::sendEvent(window.native().windowHandle(), &event);
+}
+
+void activate(const Window& window) {
+  window.native().activateWindow();
+  QCoreApplication::processEvents();
+}
+
+bool isInFront(const Window& window) {
+  QCoreApplication::processEvents();
+  return window.native().isActiveWindow() && !window.native().isMinimized();
 }
 
 void closeByFrame(const Window& window) {

@@ -25,6 +25,20 @@ bool hasKeyboard(const RectControl& control);
 void shortcut(const Window& window, const String& keys);
 // The same while the control has the keyboard.
 void shortcut(const RectControl& control, const String& keys);
+// The keys of a shortcut are held down while the window is in front, until the keyboard has repeated them `repeats`
+// times.
+void holdShortcut(const Window& window, const String& keys, int repeats);
+
+// A click at a place of the window's content, a key and a turn of the wheel, as the display server sends them to the
+// window that lies there or has the keyboard.
+void clickIn(const Window& window, Int32 x, Int32 y);
+void keyIn(const Window& window, int qtKey);
+void scrollIn(const Window& window);
+
+// The user brings the window to the front by the desktop, as with a task bar.
+void activate(const Window& window);
+// Whether it has the keyboard and is not minimised, once all that is waiting is done.
+bool isInFront(const Window& window);
 
 // The user closes, or minimises, the window by its frame.
 void closeByFrame(const Window& window);

@@ -46,6 +46,20 @@ TEST_F(CoreTest, TheTabulatorVisitsWhatTakesKeysAndIsInSight) {
   visits({&window->cmdColor, &window->imgScreen, &window->DisclosureTriangle1, &window->cmdMakeWebSafe});
 }
 
+TEST_F(CoreTest, WhatIsFoldedAwayGivesTheKeyboardToTheTriangle) {
+  for (RectControl* control : std::initializer_list<RectControl*>{&window->cmdMixer[5], &window->slZoom}) {
+    window->Height = 400;
+    control->SetFocus();
+    ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(*control); }));
+    window->DisclosureTriangle1_Action();
+    EXPECT_TRUE(gesture::hasKeyboard(window->DisclosureTriangle1)) << control->Name();
+  }
+  window->imgScreen.SetFocus();
+  window->Height = 400;
+  window->Height = 262;
+  EXPECT_TRUE(gesture::hasKeyboard(window->imgScreen)) << "in sight all the time";
+}
+
 TEST_F(CoreTest, TheWebSafePairShowsForAnyOtherColour) {
   const std::tuple<std::uint32_t, bool, std::uint32_t> rows[] = {
       {0x70ABFF, true, 0x6699FF}, {0xFF9900, false, 0x6699FF}, {0xFF00FE, true, 0xFF00FF}};

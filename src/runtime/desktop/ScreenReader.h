@@ -65,7 +65,7 @@ class ScreenReader {
   // Whether watch() tells of each change on the screen, so that nobody needs to look at it from time to time.
   virtual bool tellsEachChange() const { return false; }
 
-  // Whether the Option key is held down now.
+  // Whether the Option key is held down now: Alt or AltGr.
   virtual bool optionKey() = 0;
 };
 

@@ -7,6 +7,7 @@
 #include <QMetaObject>
 
 #include "runtime/qt/Delivery.h"
+#include "runtime/qt/WindowWidget.h"
 
 namespace tavrelkin {
 
@@ -32,6 +33,7 @@ Application::Application() : MenuBar(nullptr, [this](const Ref<tavrelkin::MenuBa
 }
 
 Application::~Application() {
+  unblockAll();
   if (instance == this) instance = nullptr;
 }
 
@@ -40,7 +42,9 @@ Application& Application::current() {
   return *instance;
 }
 
+// The toolkit closes all windows first, and stays where one refuses.
 void Application::Quit() {
+  unblockAll();
   QCoreApplication::quit();
 }
 
@@ -68,6 +72,19 @@ void Application::enable(const std::vector<Ref<MenuItem>>& items) {
   }
 }
 
+void Application::unblockAll() {
+  for (const Ref<Window>& each : openWindows_)
+    each->setBlocker(nullptr);
+}
+
+void Application::windowShown(Window& window) {
+  window.setBlocker(nullptr);
+  for (const Ref<Window>& other : openWindows_)
+    if (window.isModal() && other.get() != &window && !other->blocker()) other->setBlocker(&window);
+  if (!window.MenuBar.get() && MenuBar.get()) MenuBar->attachKeysTo(window.native());
+  windowInFront(window);
+}
+
 void Application::windowInFront(Window& window) {
   Ref<Window> front(&window);
   const auto found = std::find(openWindows_.begin(), openWindows_.end(), front);
@@ -80,6 +97,9 @@ void Application::windowClosed(Window& window) {
   std::erase_if(defaults_, [&](const auto& entry) { return entry.second == &window; });
   std::erase(openWindows_, Ref<Window>(&window));
   enableMenuItems();
+  // A copy, since one may come to the front.
+  for (const Ref<Window>& other : std::vector(openWindows_))
+    if (other->blocker() == &window) other->unblock();
   if (openWindows_.empty() && !kStaysWithoutWindow) {
     QMetaObject::invokeMethod(QCoreApplication::instance(), quitIfNothingIsOpen, Qt::QueuedConnection);
   }

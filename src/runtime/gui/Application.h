@@ -33,7 +33,7 @@ class Application : public Object {
   // Raised once the event loop runs.
   virtual void Event_Open() {}
 
-  // Ends the program, without a question. Windows that are open just go.
+  // Ends the program, without a question. Windows that are open just go, also those that a modal one blocks.
   void Quit();
 
   // A menu command: the front window's handler goes first, then the application's. False where neither has handled it.
@@ -64,7 +64,8 @@ class Application : public Object {
     return made;
   }
 
-  // For windows: one comes to the front, or goes.
+  // For windows: one is shown, comes to the front, or goes.
+  void windowShown(Window& window);
   void windowInFront(Window& window);
   void windowClosed(Window& window);
 
@@ -74,6 +75,7 @@ class Application : public Object {
   }
 
  private:
+  void unblockAll();
   void enable(const std::vector<Ref<MenuItem>>& items);
 
   MenuHandlers handlers_;

@@ -60,9 +60,10 @@ class Canvas : public RectControl, private DrawingObserver {
 
   // The events, for the host. Coordinates count from the canvas's top left corner and may lie outside of it during a
   // drag. Only a MouseDown that returns true grants the MouseDrag and the MouseUp of that press; MouseMove comes while
-  // no button is held. KeyDown gets the key as one byte and returns true to keep it from the rest of the window; keys
-  // that stand for no character raise none, but for the arrows, and one that presses a button raises one however long
-  // it is held. DropObject comes only for what the canvas accepts; its number is 0.
+  // no button is held. KeyDown gets the key as one byte and returns true to keep it from the rest of the window. Keys
+  // that stand for no character raise none, but for the arrows; nor do Tab and Shift+Tab, which only move the focus. A
+  // key that presses a button raises one however long it is held. DropObject comes only for what the canvas accepts;
+  // its number is 0.
   Event<void()> Open;
   Event<void(tavrelkin::Graphics*)> Paint;
   Event<bool(Int32, Int32)> MouseDown;

@@ -24,6 +24,7 @@ MenuItem::MenuItem(String name, String text, String shortcut)
   action_->setSeparator(isSeparator());
   action_->setMenuRole(QAction::NoRole);
   action_->setShortcut(toKeySequence(shortcut_));
+  action_->setAutoRepeat(false);
   action_->setEnabled(false);
   QObject::connect(action_.get(), &QAction::triggered, [this] {
     const Ref<MenuItem> keep(this);
@@ -47,13 +48,20 @@ void MenuItem::attachTo(QMenuBar& bar) const {
   if (menu_) bar.addMenu(menu_.get());
 }
 
+void MenuItem::attachKeysTo(QWidget& window) const {
+  window.addAction(action_.get());
+  for (const Ref<MenuItem>& item : items_)
+    item->attachKeysTo(window);
+}
+
 void MenuItem::chosen() {
   Application::current().dispatch(name_);
 }
 
-// The toolkit turns a check mark over by itself when the item is chosen; the mark is the program's.
+// The toolkit turns a check mark over by itself when the item is chosen; the mark is the program's. It also draws an
+// empty box for an item that is checkable and not checked.
 void MenuItem::applyChecked() {
-  if (Checked) action_->setCheckable(true);
+  action_->setCheckable(Checked);
   action_->setChecked(Checked);
 }
 
@@ -89,6 +97,11 @@ Ref<MenuItem> MenuBar::Child(const String& name) const {
 void MenuBar::attachTo(QMenuBar& bar) const {
   for (const Ref<MenuItem>& menu : menus_)
     menu->attachTo(bar);
+}
+
+void MenuBar::attachKeysTo(QWidget& window) const {
+  for (const Ref<MenuItem>& menu : menus_)
+    menu->attachKeysTo(window);
 }
 
 }  // namespace tavrelkin

@@ -10,6 +10,7 @@
 class QAction;
 class QMenu;
 class QMenuBar;
+class QWidget;
 
 namespace tavrelkin {
 
@@ -40,8 +41,9 @@ class MenuItem : public Object {
   // Whether the platform itself answers the item, so that it needs no handler.
   virtual bool answersItself() const { return false; }
 
-  // For the menu bar: enters the item's menu.
+  // For the menu bar: enters the item's menu, or has the shortcuts of the item and of those below it act in a window.
   void attachTo(QMenuBar& bar) const;
+  void attachKeysTo(QWidget& window) const;
 
  protected:
   QAction& action() const { return *action_; }
@@ -85,8 +87,9 @@ class MenuBar : public Object {
   // The item of that name, at any depth; nil where there is none.
   Ref<MenuItem> Child(const String& name) const;
 
-  // For a window: enters all menus.
+  // For a window: enters all menus, or has their shortcuts act though the window shows no menus.
   void attachTo(QMenuBar& bar) const;
+  void attachKeysTo(QWidget& window) const;
 
  private:
   std::vector<Ref<MenuItem>> menus_;

@@ -15,14 +15,19 @@ class Slider : public RectControl {
   Property<Int32> Maximum;
   // Writing it raises nothing. What lies outside the range counts as the nearest bound.
   Property<Int32> Value;
-  // How far an arrow key moves the value, and how far the page keys and a press beside the handle do.
+  // How far an arrow key moves the value, and how far the page keys and a press beside the handle do. A press that is
+  // held moves it once.
   Property<Int32> LineStep;
   Property<Int32> PageStep;
-  // Whether ValueChanged comes at each step of a drag, or once when the user lets go.
+  // Whether ValueChanged comes at each step of a drag and with a press beside the handle, or once when the user lets
+  // go.
   Property<bool> LiveScroll;
 
   // The user has changed the value.
   Event<void()> ValueChanged;
+
+ private:
+  void moved();
 };
 
 }  // namespace tavrelkin

@@ -38,7 +38,7 @@ void Window::constructed() {
 
 void Window::Show() {
   open_ = true;
-  Application::current().windowInFront(*this);
+  Application::current().windowShown(*this);
   native_->showInFront();
 }
 
@@ -84,8 +84,33 @@ void Window::applySize() {
   native_->setContentSize(Width, Height);
 }
 
+bool Window::isModal() const {
+  return native_->isDialog();
+}
+
+void Window::setBlocker(Window* modal) {
+  blocker_ = modal;
+  native_->setBlocked(modal != nullptr);
+}
+
+// The toolkit doesn't tell again of an activation that came meanwhile.
+void Window::unblock() {
+  setBlocker(nullptr);
+  if (native_->isActiveWindow()) cameToFront();
+}
+
+void Window::recallBlocker() {
+  if (blocker_->blocker_) return blocker_->recallBlocker();
+  blocker_->SetFocus();
+}
+
+// A window manager gives the keyboard to some window when another one is minimised; that is nothing the user did to it.
 void Window::cameToFront() {
   if (!open_) return;
+  if (blocker_) {
+    if (!blocker_->native_->passesActivationOn()) recallBlocker();
+    return;
+  }
   deliver(*this, [this] {
     Application::current().windowInFront(*this);
     Event_Activate();

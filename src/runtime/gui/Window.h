@@ -40,13 +40,16 @@ class Window : public Object {
   ~Window() override;
 
   Property<String> Title;
+  // A control that has the keyboard, and that a change of size hides, gives it to one in sight.
   Property<Int32> Width;
   Property<Int32> Height;
   // The colour of the content where no control is. FillColor() of ThemeColors.h at first.
   Property<Color> BackColor;
+  // The menus that the window shows. Without them, the shortcuts of the application's menu bar act in it.
   Property<Ref<tavrelkin::MenuBar>> MenuBar;
 
-  // Opens the window, or brings it to the front where it is open.
+  // Opens the window, or brings it to the front where it is open, and unblocks it. A modal one blocks those that are
+  // open then, until it is closed; what the user does to them brings it to the front.
   void Show();
 
   // Closes the window and raises Close. Does nothing where it isn't open. Safe from any handler of its own.
@@ -56,6 +59,9 @@ class Window : public Object {
   void SetFocus();
 
   bool isOpen() const { return open_; }
+
+  // The modal window that has to be closed before this one takes anything from the user; null where there is none.
+  Window* blocker() const { return blocker_; }
 
   // False while the machine has said that nothing of the window is in sight, as when it is minimised.
   bool isSeen() const;
@@ -72,6 +78,11 @@ class Window : public Object {
   virtual void Event_Activate() {}
 
   const MenuHandlers& menuHandlers() const { return handlers_; }
+
+  // For the application.
+  bool isModal() const;
+  void setBlocker(Window* modal);
+  void unblock();
 
   // For controls, and for whatever else shows the window on the machine.
   QWidget& content() const;
@@ -96,11 +107,13 @@ class Window : public Object {
 
   void applySize();
   void cameToFront();
+  void recallBlocker();
 
   WindowWidget* native_;
   MenuHandlers handlers_;
   std::vector<Control*> controls_;
   bool open_ = false;
+  Window* blocker_ = nullptr;
 };
 
 }  // namespace tavrelkin

@@ -23,7 +23,7 @@ class LabelAccessible : public QAccessibleWidget {
 };
 
 QAccessible::Role roleOf(const WindowWidget& window) {
-  return window.isModal() ? QAccessible::Dialog : QAccessible::Window;
+  return window.isDialog() ? QAccessible::Dialog : QAccessible::Window;
 }
 
 // The toolkit takes over what is made, and asks by the class that it knows best for each object.

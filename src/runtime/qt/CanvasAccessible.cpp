@@ -37,8 +37,9 @@ bool isInSight(const QWidget& widget) {
 }
 
 bool canBeUsed(const CanvasWidget& widget) {
-  const QWidget* modal = QApplication::activeModalWidget();
-  return widget.canvas() && widget.canvas()->Enabled && isInSight(widget) && (!modal || modal == widget.window());
+  const Canvas* canvas = widget.canvas();
+  return canvas && canvas->Enabled && isInSight(widget) && !canvas->ownerWindow().blocker() &&
+         !QApplication::activeModalWidget();
 }
 
 }  // namespace

@@ -31,6 +31,9 @@ String asOneByte(const QKeyEvent& event) {
       return String(kUpArrow);
     case Qt::Key_Down:
       return String(kDownArrow);
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+      return {};
     default:
       // With the command key it is a command, taken or not, and its control character might pass for an arrow.
       if (event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier)) return {};
@@ -212,17 +215,12 @@ void CanvasWidget::dropEvent(QDropEvent* event) {
   if (canvas_->accepts(*item)) deliver(canvas_->ownerWindow(), [&] { canvas_->Event_DropObject(item, 0); });
 }
 
-// Keys are taken here, ahead of the tabulator's way to the next control, which would never let the canvas see it.
-bool CanvasWidget::event(QEvent* event) {
-  if (event->type() == QEvent::KeyPress && canvas_ && canvas_->Enabled) {
-    const auto& press = *static_cast<QKeyEvent*>(event);
-    const String key = asOneByte(press);
-    // A key that is held down presses once.
-    if (press.isAutoRepeat() && isPressKey(key)) return true;
-    const auto handler = [&] { return canvas_->Event_KeyDown(key); };
-    if (!key.empty() && deliver(canvas_->ownerWindow(), handler)) return true;
-  }
-  return QWidget::event(event);
+void CanvasWidget::keyPressEvent(QKeyEvent* event) {
+  const String key = asOneByte(*event);
+  if (!canvas_ || !canvas_->Enabled || key.empty()) return event->ignore();
+  // A key that is held down presses once.
+  if (event->isAutoRepeat() && isPressKey(key)) return;
+  event->setAccepted(deliver(canvas_->ownerWindow(), [&] { return canvas_->Event_KeyDown(key); }));
 }
 
 }  // namespace tavrelkin

@@ -41,7 +41,7 @@ class CanvasWidget : public QWidget {
   void leaveEvent(QEvent* event) override;
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
-  bool event(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   // Brings what is shown up to date; gives the part to be painted anew.

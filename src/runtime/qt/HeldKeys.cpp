@@ -7,6 +7,8 @@ namespace tavrelkin {
 
 namespace {
 
+constexpr Qt::KeyboardModifiers kCommand = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+
 // The same press, said to be one that the keyboard repeats.
 void sendAsHeld(QObject& receiver, const QKeyEvent& press) {
   QKeyEvent held(press.type(), press.key(), press.modifiers(), press.nativeScanCode(), press.nativeVirtualKey(),
@@ -25,17 +27,34 @@ bool HeldKeys::isHeld(const QKeyEvent& press) const {
 bool HeldKeys::eventFilter(QObject* receiver, QEvent* event) {
   // From the windows the events go on to the widgets.
   if (!receiver->isWindowType()) return false;
-  if (event->type() != QEvent::KeyPress && event->type() != QEvent::KeyRelease) return false;
-  const auto& key = *static_cast<QKeyEvent*>(event);
-  if (event->type() == QEvent::KeyRelease) {
-    releasedCode_ = key.nativeScanCode();
-    releasedAt_ = key.timestamp();
-    return false;
+  switch (event->type()) {
+    case QEvent::ShortcutOverride:
+      return overridesShortcut(*static_cast<QKeyEvent*>(event));
+    case QEvent::KeyPress:
+      return replacesPress(*receiver, *static_cast<QKeyEvent*>(event));
+    case QEvent::KeyRelease:
+      releasedCode_ = static_cast<QKeyEvent*>(event)->nativeScanCode();
+      releasedAt_ = static_cast<QKeyEvent*>(event)->timestamp();
+      return false;
+    default:
+      return false;
   }
-  if (!isHeld(key)) return false;
-  if (key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter) return true;
-  if (key.isAutoRepeat()) return false;
-  sendAsHeld(*receiver, key);
+}
+
+// The toolkit asks for each press whether it should look for a shortcut. Shortcuts ignore the auto-repeats that the
+// toolkit knows of.
+bool HeldKeys::overridesShortcut(QKeyEvent& press) const {
+  if (press.isAutoRepeat() || !isHeld(press)) return false;
+  press.accept();
+  return true;
+}
+
+bool HeldKeys::replacesPress(QObject& receiver, const QKeyEvent& press) const {
+  if (!isHeld(press)) return false;
+  if (press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter) return true;
+  if (press.isAutoRepeat()) return false;
+  // It would have been a shortcut's, had the toolkit looked for one.
+  if (!(press.modifiers() & kCommand)) sendAsHeld(receiver, press);
   return true;
 }
 

@@ -6,11 +6,12 @@ class QKeyEvent;
 
 namespace tavrelkin {
 
-// Has the keys that a user holds down be known as such, as a filter on the events of all windows. Such a key comes as a
-// release and a press of one time, by which it is told here where the toolkit, which looks for the press while it may
-// still be under way, has missed it. Return and Enter reach a window once however long they are held: a press may open
-// a dialog, whose own button the next would press. Two strokes within one millisecond, which no hand makes, count as
-// one key that is held.
+// Marks the presses of a key that is held down as auto-repeats, as a filter on the events of all windows. Auto-repeat
+// comes as a release and a press with the same timestamp. The toolkit misses it where it looks at the release before
+// the press has arrived. A press that it missed reaches the window as an auto-repeat, and no shortcut. With a command
+// key it is dropped: a command acts once for a press, however long. Return and Enter reach a window once, too: a press
+// may open a dialog, whose own button the next would press. Two strokes of a key within one millisecond, which no hand
+// makes, count as auto-repeat.
 class HeldKeys : public QObject {
  public:
   using QObject::QObject;
@@ -19,6 +20,8 @@ class HeldKeys : public QObject {
 
  private:
   bool isHeld(const QKeyEvent& press) const;
+  bool overridesShortcut(QKeyEvent& press) const;
+  bool replacesPress(QObject& receiver, const QKeyEvent& press) const;
 
   quint32 releasedCode_ = 0;
   quint64 releasedAt_ = 0;

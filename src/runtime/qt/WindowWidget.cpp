@@ -16,6 +16,7 @@
 #include "runtime/qt/Convert.h"
 #include "runtime/qt/Delivery.h"
 #include "runtime/qt/FocusRing.h"
+#include "runtime/qt/ModalBlock.h"
 
 namespace tavrelkin {
 
@@ -34,7 +35,6 @@ Qt::WindowFlags flagsOf(const WindowDesign& design) {
 
 WindowWidget::WindowWidget(Window& window, const WindowDesign& design)
     : QWidget(nullptr, flagsOf(design)), window_(&window), content_(new QWidget(this)) {
-  if (design.frame == WindowFrame::movableModal) setWindowModality(Qt::ApplicationModal);
   setWindowTitle(toQt(design.title));
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
@@ -46,9 +46,17 @@ WindowWidget::WindowWidget(Window& window, const WindowDesign& design)
   rescaled_.callOnTimeout(this, &WindowWidget::takeSizeAgain);
 }
 
+WindowWidget::~WindowWidget() = default;
+
 void WindowWidget::setContentSize(int width, int height) {
   content_->setFixedSize(width, height);
   layout()->activate();
+  if (const QWidget* focus = focusWidget(); focus && !isInSight(*focus)) leaveFocus();
+}
+
+// To the control before, as Shift+Tab would: in front of what a window unfolds stands the control that folds it.
+void WindowWidget::leaveFocus() {
+  if (!focusNextPrevChild(false)) focusWidget()->clearFocus();
 }
 
 void WindowWidget::setBackColor(const QColor& c) {
@@ -69,6 +77,18 @@ void WindowWidget::setMenuBar(const Ref<MenuBar>& bar) {
     bar->attachTo(*shown);
   }
   layout()->setMenuBar(shown);
+}
+
+void WindowWidget::setBlocked(bool blocked) {
+  block_.reset();
+  if (!blocked) return;
+  block_ = std::make_unique<ModalBlock>(*windowHandle(), [this] {
+    if (window_) window_->recallBlocker();
+  });
+}
+
+bool WindowWidget::passesActivationOn() {
+  return std::exchange(passesActivationOn_, false) && isMinimized();
 }
 
 void WindowWidget::showInFront() {
@@ -115,12 +135,16 @@ void WindowWidget::takeSizeAgain() {
 
 bool WindowWidget::takesTabulator(const QWidget& control) const {
   if (!(control.focusPolicy() & Qt::TabFocus) || !control.isEnabled() || !control.isVisibleTo(this)) return false;
-  return control.window() == this && rect().intersects(QRect(control.mapTo(this, QPoint()), control.size()));
+  return control.window() == this && isInSight(control);
+}
+
+bool WindowWidget::isInSight(const QWidget& control) const {
+  return rect().intersects(QRect(control.mapTo(this, QPoint()), control.size()));
 }
 
 // Escape leaves a modal window as its close button does, whatever its buttons are.
 void WindowWidget::keyPressEvent(QKeyEvent* event) {
-  if (windowModality() == Qt::ApplicationModal && event->matches(QKeySequence::Cancel)) {
+  if (isDialog() && event->matches(QKeySequence::Cancel)) {
     close();
   } else {
     QWidget::keyPressEvent(event);
@@ -152,6 +176,7 @@ void WindowWidget::changeEvent(QEvent* event) {
   if (event->type() == QEvent::ActivationChange && isActiveWindow()) window_->cameToFront();
   const bool changed = event->type() == QEvent::WindowStateChange;
   if (changed && isMinimized() && !(static_cast<QWindowStateChangeEvent*>(event)->oldState() & Qt::WindowMinimized)) {
+    passesActivationOn_ = true;
     deliver(*window_, [this] { window_->Event_Minimize(); });
   }
 }

@@ -17,8 +17,8 @@ constexpr std::uint32_t kToManager = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY | XCB_EV
 
 std::uint32_t keySymbol(const std::string& name) {
   static const std::map<std::string, std::uint32_t> kNamed{
-      {"Ctrl", 0xFFE3}, {"Shift", 0xFFE1}, {"Alt", 0xFFE9},   {"Return", 0xFF0D}, {"Escape", 0xFF1B},
-      {"Tab", 0xFF09},  {"Left", 0xFF51},  {"Right", 0xFF53}, {"Up", 0xFF52},     {"Down", 0xFF54}};
+      {"Ctrl", 0xFFE3}, {"Shift", 0xFFE1}, {"Alt", 0xFFE9},   {"AltGr", 0xFE03}, {"Return", 0xFF0D}, {"Escape", 0xFF1B},
+      {"Tab", 0xFF09},  {"Left", 0xFF51},  {"Right", 0xFF53}, {"Up", 0xFF52},    {"Down", 0xFF54}};
   if (name.size() == 1) return static_cast<std::uint32_t>(std::tolower(static_cast<unsigned char>(name[0])));
   return kNamed.at(name);
 }

@@ -61,9 +61,10 @@ class Hand {
   void press(const std::string& key) { client_.fake(XCB_KEY_PRESS, keyCode(key)); }
   void release(const std::string& key) { client_.fake(XCB_KEY_RELEASE, keyCode(key)); }
 
- private:
+  // The key's number on this keyboard; throws where it has none of that name.
   std::uint8_t keyCode(const std::string& name) const;
 
+ private:
   X11Client& client_;
 };
 

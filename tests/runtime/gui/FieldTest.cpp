@@ -3,6 +3,7 @@
 #include <string>
 #include <tuple>
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QFontMetrics>
 #include <QKeyEvent>
@@ -82,6 +83,21 @@ TEST_F(FieldTest, ASliderKeepsItsValueInItsRangeAndTellsOfTheHandOnly) {
     gesture::release(slider, 60, 10);
     EXPECT_EQ(window->log, log);
     EXPECT_GT(slider.Value, 0);
+  }
+}
+
+TEST_F(FieldTest, APressBesideTheHandleIsOneStepThatIsToldLikeADrag) {
+  Slider& slider = window->slider;
+  for (const auto& [live, log] : {std::pair{true, "slid ."}, {false, ".slid "}}) {
+    slider.Value = 0;
+    slider.LiveScroll = live;
+    window->log.clear();
+    gesture::press(slider, 70, 10);
+    EXPECT_TRUE(QAbstractEventDispatcher::instance()->registeredTimers(&slider.native()).isEmpty()) << "it repeats";
+    window->log += ".";
+    gesture::release(slider, 70, 10);
+    EXPECT_EQ(window->log, log);
+    EXPECT_EQ(slider.Value, 10);
   }
 }
 

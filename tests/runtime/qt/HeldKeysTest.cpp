@@ -24,10 +24,20 @@ class HeldKeysTest : public RuntimeTest {
  protected:
   HeldKeysTest() { QCoreApplication::instance()->installEventFilter(&filter); }
 
-  void send(QEvent::Type type, Qt::Key key, quint64 time, quint32 code = 65, bool isKnown = false) {
-    QKeyEvent event(type, key, Qt::NoModifier, code, 0, 0, {}, isKnown);
+  void send(QEvent::Type type, Qt::Key key, quint64 time, quint32 code = 65, bool isKnown = false,
+            Qt::KeyboardModifiers modifiers = {}) {
+    QKeyEvent event(type, key, modifiers, code, 0, 0, {}, isKnown);
     event.setTimestamp(time);
     QCoreApplication::sendEvent(&window, &event);
+  }
+
+  // As the toolkit does: whether it looks for a shortcut ahead of the press.
+  bool pressCommand(quint64 time) {
+    QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_N, Qt::ControlModifier, 57, 0, 0);
+    event.setTimestamp(time);
+    QCoreApplication::sendEvent(&window, &event);
+    send(QEvent::KeyPress, Qt::Key_N, time, 57, false, Qt::ControlModifier);
+    return !event.isAccepted();
   }
 
   HeldKeys filter;
@@ -52,6 +62,15 @@ TEST_F(HeldKeysTest, AHeldReturnPressesOnce) {
   send(QEvent::KeyRelease, Qt::Key_Return, 740, 65, true);
   send(QEvent::KeyPress, Qt::Key_Return, 740, 65, true);
   EXPECT_EQ(window.presses, "P");
+}
+
+TEST_F(HeldKeysTest, AHeldCommandIsNeitherAShortcutNorAKeyAgain) {
+  EXPECT_TRUE(pressCommand(100));
+  send(QEvent::KeyRelease, Qt::Key_N, 700, 57);
+  EXPECT_FALSE(pressCommand(700));
+  EXPECT_EQ(window.presses, "P");
+  send(QEvent::KeyRelease, Qt::Key_N, 740, 57);
+  EXPECT_TRUE(pressCommand(800)) << "pressed again";
 }
 
 TEST_F(HeldKeysTest, MadeUpKeysWithoutCodeAndTimeAreNotHeld) {

@@ -3,7 +3,6 @@
 #include <utility>
 
 #include <QCursor>
-#include <QGuiApplication>
 
 namespace tavrelkin {
 
@@ -27,10 +26,6 @@ std::uint32_t NoScreenReader::pixel(ScreenPoint at) {
 ScreenPoint NoScreenReader::pointer() {
   const QPoint position = QCursor::pos();
   return {position.x(), position.y()};
-}
-
-bool NoScreenReader::optionKey() {
-  return QGuiApplication::queryKeyboardModifiers().testFlag(Qt::AltModifier);
 }
 
 }  // namespace tavrelkin

@@ -4,6 +4,7 @@
 #include <functional>
 
 #include "runtime/desktop/ScreenReader.h"
+#include "runtime/desktop/native/ToolkitOptionKey.h"
 
 namespace tavrelkin {
 
@@ -23,10 +24,11 @@ class NoScreenReader final : public ScreenReader {
   std::uint32_t pixel(ScreenPoint at) override;
   ScreenPoint pointer() override;
   void watch(std::function<void()>) override {}
-  bool optionKey() override;
+  bool optionKey() override { return optionKey_.isDown(); }
 
  private:
   std::function<void()> tellWhy_;  // empty once it was called
+  ToolkitOptionKey optionKey_;
 };
 
 }  // namespace tavrelkin

@@ -7,6 +7,7 @@
 
 #include <QSocketNotifier>
 
+#include "runtime/desktop/x11/OptionKeys.h"
 #include "runtime/desktop/x11/PointerWatch.h"
 #include "runtime/desktop/x11/RootCapture.h"
 #include "runtime/desktop/x11/RootFormat.h"
@@ -72,6 +73,7 @@ class X11ScreenReader final : public ScreenReader {
   xcb_window_t root_;
   RootCapture capture_;
   PointerWatch watch_;
+  OptionKeys optionKeys_;
   QSocketNotifier notifier_;
 
   std::function<void(std::string)> connectionLost_;
@@ -90,6 +92,7 @@ X11ScreenReader::X11ScreenReader(XcbConnection connection, const xcb_screen_t& s
       root_(screen.root),
       capture_(connection_.get(), screen, format),
       watch_(connection_.get(), screen.root),
+      optionKeys_(connection_.get()),
       notifier_(xcb_get_file_descriptor(connection_.get()), QSocketNotifier::Read),
       connectionLost_(std::move(connectionLost)) {
   QObject::connect(&notifier_, &QSocketNotifier::activated, &notifier_, [this] {
@@ -131,7 +134,10 @@ ScreenPoint X11ScreenReader::pointer() {
 
 bool X11ScreenReader::optionKey() {
   const auto reply = askPointer();
-  return reply && (reply->mask & XCB_MOD_MASK_1) != 0;
+  if (!reply) return false;
+  const std::uint16_t wanted = optionKeys_.mask();
+  afterReply();
+  return (reply->mask & wanted) != 0;
 }
 
 XcbPtr<xcb_query_pointer_reply_t> X11ScreenReader::askPointer() {
@@ -153,6 +159,7 @@ void X11ScreenReader::afterReply() {
 void X11ScreenReader::takeEvents(Poll poll) {
   while (const XcbPtr<xcb_generic_event_t> event{poll(connection_.get())}) {
     watch_.note(*event);
+    optionKeys_.note(*event);
     if (kindOf(*event) != XCB_CONFIGURE_NOTIFY) continue;
     const auto& change = reinterpret_cast<const xcb_configure_notify_event_t&>(*event);
     if (change.window == root_) capture_.setRootSize(change.width, change.height);
