@@ -1,7 +1,6 @@
 // A pixel map as text, in both forms.
 
 #include <algorithm>
-#include <array>
 #include <set>
 #include <string>
 
@@ -92,11 +91,10 @@ void checkClipped(zrPixMap& map, const Picture& picture) {
 }
 
 void checkPicture(zrPixMap& map) {
-  constexpr std::array depths{1, 2, 4, 8, 16, 32};
-  const bool deep = map.MaskColorIdx != 0 || std::ranges::find(depths, map.depth) != depths.end();
   const Ref<Picture> picture = map.GetPicture32();
-  require(static_cast<bool>(picture) == (map.width > 0 && map.height > 0 && deep), "sizes and depth give a picture");
+  require(static_cast<bool>(picture) == (map.width > 0 && map.height > 0), "sizes give a picture");
   if (!picture) return;
+  require(picture->Depth() == map.depth && (map.MaskColorIdx == 0 || map.depth == 32), "its depth is the map's");
   checkPixels(map, *picture, *picture->Mask(false));
   checkClipped(map, *picture);
 }

@@ -86,7 +86,8 @@ TEST_F(AppTest, FavouritesThatCannotBeUsedAreTold) {
   choose("mnuMyFav");
   EXPECT_EQ(front<frmFav>().currFile->Name(), "Tavrelkin.aco");
   EXPECT_EQ(front<frmFav>().Title.get(), "Untitled Colors");
-  EXPECT_NE(fake().messages.at(0).find("The folder does not exist."), std::string::npos);
+  const std::string place = folder.path("missing/Tavrelkin.aco");
+  EXPECT_EQ(fake().messages.at(0), "The file \"" + place + "\" could not be made. The folder does not exist.");
   fake().applicationData = folder.path("");
   std::filesystem::create_directory(folder.path("Tavrelkin.aco"));
   choose("mnuMyFav");

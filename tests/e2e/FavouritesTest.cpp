@@ -3,6 +3,8 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
+#include <string>
 
 #include <gtest/gtest.h>
 
@@ -42,7 +44,24 @@ class Palette : public ProgramWindow {
   }
 };
 
-using FavouritesTest = ToolWindowTest;
+class FavouritesTest : public ToolWindowTest {
+ protected:
+  // In the dialog that is coming up.
+  void saveAs(const fs::path& path) {
+    session_.clipboard.copy(path);
+    session_.bringToFront(session_.waitForWindow("Save As"));
+    for (const char* keys : {"Ctrl+A", "Ctrl+V", "Return"})
+      session_.hand.keys(keys);
+  }
+
+  // What each file in the home folder holds.
+  std::map<fs::path, std::string> files() const {
+    std::map<fs::path, std::string> result;
+    for (const auto& entry : fs::recursive_directory_iterator(session_.home.path()))
+      if (entry.is_regular_file()) result[entry.path()] = bytesOf(entry.path());
+    return result;
+  }
+};
 
 // The window has its title once it has looked at the file.
 TEST_F(FavouritesTest, AreMadeWhenAbsentReadWhenEmptyAndKeptWhenSaved) {
@@ -79,11 +98,8 @@ TEST_F(FavouritesTest, ANewPaletteIsSavedUnderANameOfTheUsersAndColoursAreDragge
   palette.moveTo(600, 60);
   ASSERT_TRUE(palette.put("#123456", 0x123456, 0));
   const fs::path target = session_.home.path() / "mine.act";
-  session_.clipboard.copy(target);
   palette.keys("Ctrl+S");
-  session_.bringToFront(session_.waitForWindow("Save As"));
-  for (const char* keys : {"Ctrl+A", "Ctrl+V", "Return"})
-    session_.hand.keys(keys);
+  saveAs(target);
   ASSERT_TRUE(palette.getsTitle("mine.act"));
   EXPECT_EQ(bytesOf(target).substr(0, 14), std::string("\0\1\1\0\0\0\x12\x12\x34\x34\x56\x56\0\0", 14));
   ASSERT_TRUE(palette.put("#FEDCBA", 0xFEDCBA, 1));
@@ -99,6 +115,31 @@ TEST_F(FavouritesTest, ANewPaletteIsSavedUnderANameOfTheUsersAndColoursAreDragge
   tool_.unfold();
   session_.hand.drag(palette.onCell(100), tool_.onBar(0, 20));
   EXPECT_TRUE(tool_.getsTitleOf(0xFEABFF)) << "the colour that was selected before the press";
+}
+
+// The toolkit's dialogs have settings that other programs share.
+TEST_F(FavouritesTest, NothingIsWrittenButWhatTheUserSaves) {
+  fs::create_directory(session_.home.path() / "config");
+  std::ofstream(session_.home.path() / "config/QtProject.conf") << "[FileDialog]\nviewMode=List\n";
+  auto expected = files();
+  tool_.click(30, 16);
+  session_.bringToFront(session_.waitForWindow("Select Color"));
+  // Adds to the custom colours, once the button has looked pressed for a tenth of a second.
+  session_.hand.keys("Alt+A");
+  session_.hand.rest();
+  session_.hand.rest();
+  session_.hand.keys("Return");
+  ASSERT_TRUE(waitUntil([&] { return session_.windows.titled("Select Color").empty(); }));
+  tool_.keys("Ctrl+Shift+N");
+  Palette palette(session_, "Untitled Colors");
+  palette.keys("Ctrl+S");
+  const fs::path target = session_.home.path() / "mine.aco";
+  saveAs(target);
+  ASSERT_TRUE(palette.getsTitle("mine.aco"));
+  palette.keys("Ctrl+Q");
+  EXPECT_EQ(session_.program.waitForExit(), 0);
+  expected[target] = bytesOf(target);
+  EXPECT_EQ(files(), expected);
 }
 
 }  // namespace

@@ -1,8 +1,5 @@
 #include "runtime/drawing/Picture.h"
 
-#include <algorithm>
-#include <array>
-
 namespace tavrelkin {
 
 Picture::Picture(Int32 width, Int32 height, Int32 depth)
@@ -15,9 +12,8 @@ Ref<Picture> Picture::Mask(bool create) {
 
 Ref<Picture> NewPicture(Int32 width, Int32 height, Int32 depth) {
   constexpr Int32 largest = 32767;
-  constexpr std::array depths{1, 2, 4, 8, 16, 32};
   const auto fits = [](Int32 size) { return size >= 1 && size <= largest; };
-  if (!fits(width) || !fits(height) || std::find(depths.begin(), depths.end(), depth) == depths.end()) return nullptr;
+  if (!fits(width) || !fits(height)) return nullptr;
   return New<Picture>(width, height, depth);
 }
 

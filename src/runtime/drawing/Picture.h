@@ -39,7 +39,7 @@ class Picture : public Object {
   Ref<Picture> mask_;
 };
 
-// A new picture. Nil where a size is below 1 or above 32767 pixels, or a depth is none of 1, 2, 4, 8, 16 and 32 bits.
+// A new picture. Nil where a size is below 1 or above 32767 pixels. Any depth will do.
 Ref<Picture> NewPicture(Int32 width, Int32 height, Int32 depth);
 
 }  // namespace tavrelkin

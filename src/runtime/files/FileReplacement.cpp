@@ -2,12 +2,14 @@
 
 #include <cerrno>
 #include <system_error>
-#include <tuple>
 #include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
+
+#include "runtime/files/FileAttributes.h"
+#include "runtime/files/Overwrite.h"
 
 namespace tavrelkin {
 
@@ -24,23 +26,89 @@ fs::path behindLinks(fs::path path) {
   return path;
 }
 
-// Why the file with this state may not be replaced, as an error number, or 0.
+// Why the file with this state may not be written, as an error number, or 0.
 int refusal(const fs::path& path, const struct stat& old) {
   if (!S_ISREG(old.st_mode)) return EISDIR;
-  return access(path.c_str(), W_OK) == 0 ? 0 : errno;
+  return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
 }
 
-int writeAll(int descriptor, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t count = write(descriptor, bytes.data(), bytes.size());
-    if (count < 0 && errno != EINTR) return errno;
-    if (count > 0) bytes.remove_prefix(static_cast<std::size_t>(count));
+// Whether the old file may still take the bytes where a new one beside it could not.
+bool mayFitInPlace(int error) {
+  return error == ENOSPC || error == EDQUOT;
+}
+
+}  // namespace
+
+FileReplacement::FileReplacement(const std::string& path) : target_(behindLinks(path)) {
+  struct stat old {};
+  const bool exists = stat(target_.c_str(), &old) == 0;
+  if (exists)
+    error_ = refusal(target_, old);
+  else if (errno != ENOENT)
+    error_ = errno;
+  if (error_ != 0) return;
+  if (!exists || old.st_nlink == 1) openBeside();
+  if (!exists || (isOpen() && takeAttributes(descriptor_, target_, old))) return;
+  discard();
+  openInPlace();
+}
+
+FileReplacement::~FileReplacement() {
+  discard();
+}
+
+void FileReplacement::discard() {
+  if (isOpen()) close(std::exchange(descriptor_, -1));
+  if (!temporary_.empty()) unlink(temporary_.c_str());
+  temporary_.clear();
+}
+
+// The name is a short one of its own, since the target's may be as long as names can be. Left-overs of a program that
+// crashed are passed over.
+void FileReplacement::openBeside() {
+  constexpr int kMostTries = 1000;
+  const std::string stem = ".tavrelkin-" + std::to_string(getpid()) + "-";
+  for (int i = 0; i < kMostTries; ++i) {
+    const fs::path path = target_.parent_path() / (stem + std::to_string(i));
+    descriptor_ = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (isOpen()) return void(temporary_ = path);
+    error_ = errno;
+    if (error_ != EEXIST) return;
   }
-  return 0;
 }
 
-std::string reason(int error) {
-  switch (error) {
+void FileReplacement::openInPlace() {
+  descriptor_ = open(target_.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC);
+  error_ = isOpen() ? 0 : errno;
+}
+
+bool FileReplacement::commit(std::string_view bytes) {
+  if (!temporary_.empty()) replaceWhole(bytes);
+  if (isOpen()) writeInPlace(bytes);
+  return error_ == 0;
+}
+
+// The old file is left open for writing where that may still do: a folder can allow new files and no replacements.
+void FileReplacement::replaceWhole(std::string_view bytes) {
+  error_ = writeAll(descriptor_, bytes).error;
+  if (close(std::exchange(descriptor_, -1)) != 0 && error_ == 0) error_ = errno;
+  const bool isWritten = error_ == 0;
+  if (isWritten && rename(temporary_.c_str(), target_.c_str()) == 0) return temporary_.clear();
+  const int error = isWritten ? errno : error_;
+  discard();
+  if (isWritten || mayFitInPlace(error)) openInPlace();
+  if (!isOpen()) error_ = error;
+}
+
+void FileReplacement::writeInPlace(std::string_view bytes) {
+  const OverwriteResult result = overwrite(descriptor_, bytes);
+  error_ = result.error;
+  isDamaged_ = result.isDamaged;
+  discard();
+}
+
+std::string FileReplacement::reason() const {
+  switch (error_) {
     case ENOSPC:
       return "The disk is full.";
     case EDQUOT:
@@ -55,68 +123,13 @@ std::string reason(int error) {
     case EISDIR:
       return "Something that is no ordinary file has this name.";
     default:
-      return std::generic_category().message(error) + ".";
+      return std::generic_category().message(error_) + ".";
   }
-}
-
-}  // namespace
-
-FileReplacement::FileReplacement(const std::string& path) : target_(behindLinks(path)) {
-  struct stat old {};
-  const bool exists = stat(target_.c_str(), &old) == 0;
-  if (exists)
-    error_ = refusal(target_, old);
-  else if (errno != ENOENT)
-    error_ = errno;
-  if (error_ != 0) return;
-  openBeside();
-  if (exists && isOpen()) takeAfter(old);
-}
-
-FileReplacement::~FileReplacement() {
-  if (!isOpen()) return;
-  close(descriptor_);
-  unlink(temporary_.c_str());
-}
-
-// The name is a short one of its own, since the target's may be as long as names can be. Left-overs of a program that
-// crashed are passed over.
-void FileReplacement::openBeside() {
-  constexpr int kMostTries = 1000;
-  const std::string stem = ".tavrelkin-" + std::to_string(getpid()) + "-";
-  for (int i = 0; i < kMostTries; ++i) {
-    temporary_ = target_.parent_path() / (stem + std::to_string(i));
-    descriptor_ = open(temporary_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (isOpen()) return;
-    error_ = errno;
-    if (error_ != EEXIST) return;
-  }
-}
-
-// The group stays where the user belongs to it, the owner where the user may give files away. The rights of a group are
-// not for another one.
-void FileReplacement::takeAfter(const struct stat& old) const {
-  constexpr auto kSameOwner = static_cast<uid_t>(-1);
-  const bool keptGroup =
-      fchown(descriptor_, old.st_uid, old.st_gid) == 0 || fchown(descriptor_, kSameOwner, old.st_gid) == 0;
-  std::ignore = fchmod(descriptor_, old.st_mode & (keptGroup ? 0777U : 0707U));
-}
-
-bool FileReplacement::commit(std::string_view bytes) {
-  error_ = writeAll(descriptor_, bytes);
-  if (close(std::exchange(descriptor_, -1)) != 0 && error_ == 0) error_ = errno;
-  if (error_ == 0) {
-    std::error_code failed;
-    fs::rename(temporary_, target_, failed);
-    error_ = failed.value();
-  }
-  if (error_ != 0) unlink(temporary_.c_str());
-  return error_ == 0;
 }
 
 std::string FileReplacement::failure() const {
-  return "The file \"" + target_.filename().string() + "\" was not saved. " + reason(error_) +
-         "\n\nNothing in its folder has changed.";
+  const char* const state = isDamaged_ ? "What it held before is lost." : "Nothing in its folder has changed.";
+  return "The file \"" + target_.filename().string() + "\" was not saved. " + reason() + "\n\n" + state;
 }
 
 }  // namespace tavrelkin

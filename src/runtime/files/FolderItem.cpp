@@ -53,7 +53,7 @@ Ref<BinaryStream> FolderItem::OpenAsBinaryFile(bool forWriting) const {
 Ref<TextOutputStream> FolderItem::CreateTextFile() const {
   FileReplacement target(path_);
   if (target.isOpen() && target.commit({})) return New<TextOutputStream>();
-  MsgBox(target.failure());
+  MsgBox("The file \"" + path_ + "\" could not be made. " + target.reason());
   return nullptr;
 }
 

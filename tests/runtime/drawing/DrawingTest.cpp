@@ -186,10 +186,9 @@ TEST(GraphicsTest, AMaskLetsBlackThroughAndKeepsWhiteBack) {
     EXPECT_EQ(ground->Graphics().Pixel(x, 0), wanted[x]) << x;
 }
 
-TEST(PictureTest, IsNilForASizeOrDepthThatNoPictureHasAndBlackOutside) {
-  for (const auto& [width, height, depth] :
-       {std::array{0, 5, 32}, {5, -1, 32}, {32768, 1, 32}, {5, 5, 31}, {kMost, kMost, 32}})
-    EXPECT_FALSE(NewPicture(width, height, depth)) << width << " " << height << " " << depth;
+TEST(PictureTest, IsNilForASizeThatNoPictureHasAndBlackOutside) {
+  for (const auto& [width, height] : {std::array{0, 5}, {5, -1}, {32768, 1}, {kMost, kMost}})
+    EXPECT_FALSE(NewPicture(width, height, 32)) << width << " " << height;
   const Ref<Picture> picture = NewPicture(32767, 2, 32);
   const RGBSurface pixels = picture->RGBSurface();
   picture->Graphics().Pixel(32766, 1, kInk);

@@ -1,13 +1,17 @@
-// What is read of a file, places of files, and how a file is replaced: whole, or not at all.
+// What is read of a file, places of files, and how a file gets other contents: all of them, or none.
 
 #include <csignal>
 #include <filesystem>
 #include <functional>
+#include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/xattr.h>
+#include <unistd.h>
 
 #include "support/RuntimeTest.h"
 #include "support/TemporaryFolder.h"
@@ -17,6 +21,59 @@ namespace {
 
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
+
+// No file of this process grows beyond the limit: as on a full disk, a write fails half way.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t limit) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit lower{limit, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &lower);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+
+ private:
+  rlimit before_{};
+  void (*const handler_)(int) = std::signal(SIGXFSZ, SIG_IGN);
+};
+
+// A process of root's acts as a user without rights, for whom modes count.
+class PlainUser {
+ public:
+  static constexpr uid_t kNobody = 65534;
+
+  PlainUser() {
+    if (isRoot_ && (setegid(kNobody) != 0 || seteuid(kNobody) != 0)) throw std::runtime_error("There is no nobody.");
+  }
+  PlainUser(const PlainUser&) = delete;
+  PlainUser& operator=(const PlainUser&) = delete;
+  ~PlainUser() {
+    if (isRoot_) {
+      EXPECT_EQ(seteuid(0), 0);
+      EXPECT_EQ(setegid(0), 0);
+    }
+  }
+
+  // Makes root's file the user's own.
+  static void own(const fs::path& path) {
+    if (geteuid() == 0 && chown(path.c_str(), kNobody, kNobody) != 0) throw std::runtime_error("There is no nobody.");
+  }
+
+ private:
+  const bool isRoot_ = geteuid() == 0;
+};
+
+// Reading and writing for the owner and the user 12345, nothing for others.
+const std::string kAccessList(
+    "\2\0\0\0"
+    "\1\0\6\0\xFF\xFF\xFF\xFF\2\0\6\0\x39\x30\0\0\4\0\0\0\xFF\xFF\xFF\xFF"
+    "\x10\0\6\0\xFF\xFF\xFF\xFF\x20\0\0\0\xFF\xFF\xFF\xFF",
+    44);
 
 class FilesTest : public RuntimeTest {
  protected:
@@ -34,6 +91,19 @@ class FilesTest : public RuntimeTest {
     struct stat state {};
     EXPECT_EQ(stat(folder.path(name).c_str(), &state), 0);
     return state.st_mode & 07777;
+  }
+  ino_t node(const std::string& name) const {
+    struct stat state {};
+    EXPECT_EQ(stat(folder.path(name).c_str(), &state), 0);
+    return state.st_ino;
+  }
+  void setAttribute(const std::string& file, const char* name, const std::string& value) const {
+    ASSERT_EQ(setxattr(folder.path(file).c_str(), name, value.data(), value.size(), 0), 0) << name;
+  }
+  std::string attribute(const std::string& file, const char* name) const {
+    std::string value(1000, '\0');
+    const ssize_t size = getxattr(folder.path(file).c_str(), name, value.data(), value.size());
+    return size < 0 ? "none" : value.substr(0, static_cast<std::size_t>(size));
   }
   const TemporaryFolder folder;
 };
@@ -127,24 +197,93 @@ TEST_F(FilesTest, AnyNameThatTheDiskTakesIsAFileAndWhatIsNoFileIsLeftAlone) {
   EXPECT_FALSE(folder.item("file")->OpenAsBinaryFile(true)) << "in place";
 }
 
-TEST_F(FilesTest, AFailureOnClosingIsToldAndLeavesTheOldFile) {
+TEST_F(FilesTest, AnAccessListAndAttributesStay) {
+  folder.write("file", "old");
+  fs::permissions(folder.path("file"), fs::perms{0600});
+  setAttribute("file", "system.posix_acl_access", kAccessList);
+  setAttribute("file", "user.comment", std::string("red\0green", 9));
+  setAttribute("file", "user.empty", "");
+  const ino_t before = node("file");
+  replace("file");
+  EXPECT_NE(node("file"), before) << "replaced whole";
+  EXPECT_EQ(attribute("file", "system.posix_acl_access"), kAccessList);
+  EXPECT_EQ(attribute("file", "user.comment"), std::string("red\0green", 9));
+  EXPECT_EQ(attribute("file", "user.empty"), "");
+  EXPECT_EQ(permissions("file"), 0660U) << "the list says so";
+
+  folder.write("plain", "old");
+  fs::permissions(folder.path("plain"), fs::perms{0660});
+  setAttribute("", "system.posix_acl_default", kAccessList);
+  replace("plain");
+  EXPECT_EQ(attribute("plain", "system.posix_acl_access"), "none") << "not the folder's";
+  EXPECT_EQ(permissions("plain"), 0660U);
+}
+
+TEST_F(FilesTest, AFileOfSeveralNamesKeepsThem) {
   folder.write("file", "the old one");
-  const auto stream = folder.item("file")->CreateBinaryFile("Type");
-  for (int i = 0; i < 300000; ++i)
-    stream->WriteByte(i);
-  // No file of this process grows beyond the limit: as on a full disk, the write fails half way.
-  rlimit before{};
-  getrlimit(RLIMIT_FSIZE, &before);
-  const rlimit lower{100000, before.rlim_max};
-  const auto handler = std::signal(SIGXFSZ, SIG_IGN);
-  setrlimit(RLIMIT_FSIZE, &lower);
-  stream->Close();
-  setrlimit(RLIMIT_FSIZE, &before);
-  std::signal(SIGXFSZ, handler);
-  EXPECT_EQ(folder.read("file"), "the old one");
-  EXPECT_EQ(folder.names(), Names{"file"});
-  ASSERT_EQ(fake().messages.size(), 1U);
-  EXPECT_EQ(fake().messages[0].find("The file \"file\" was not saved. "), 0U) << fake().messages[0];
+  fs::create_hard_link(folder.path("file"), folder.path("other"));
+  replace("file");
+  EXPECT_EQ(folder.read("other"), "new");
+  EXPECT_EQ(folder.names(), (Names{"file", "other"}));
+}
+
+// The folder takes no new file, or lets no one replace the file of another user.
+TEST_F(FilesTest, WhatCannotBeReplacedIsWrittenInPlace) {
+  const struct {
+    const char* name;
+    mode_t folderMode;
+    mode_t fileMode;
+    bool isOwn;
+    bool isWritten;
+  } rows[] = {
+      {"no new file", 0555, 0644, true, true},
+      {"nor this one", 0555, 0444, true, false},
+      {"no replacement", 01777, 0666, false, true},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.name);
+    if (!row.isOwn && geteuid() != 0) continue;  // there is no way to another user's file
+    fs::permissions(folder.path(""), fs::perms{0755});
+    fs::remove(folder.path("file"));
+    folder.write("file", "the old one");
+    fs::permissions(folder.path("file"), fs::perms{row.fileMode});
+    if (row.isOwn) PlainUser::own(folder.path("file"));
+    fs::permissions(folder.path(""), fs::perms{row.folderMode});
+    const ino_t before = node("file");
+    const PlainUser user;
+    if (row.isWritten)
+      replace("file");
+    else
+      EXPECT_FALSE(folder.item("file")->CreateBinaryFile("Type"));
+    EXPECT_EQ(folder.read("file"), row.isWritten ? "new" : "the old one");
+    EXPECT_EQ(node("file"), before);
+    EXPECT_EQ(folder.names(), Names{"file"});
+  }
+  fs::permissions(folder.path(""), fs::perms::owner_all);
+  EXPECT_TRUE(fake().messages.empty());
+}
+
+TEST_F(FilesTest, AFailureOnClosingIsToldAndLeavesTheOldFile) {
+  const std::string longer(200000, 'o');
+  for (const auto& [old, names] : {std::pair{"the old one", 1}, {"the old one", 2}, {longer.c_str(), 2}}) {
+    SCOPED_TRACE(names);
+    folder.write("file", old);
+    fs::remove(folder.path("other"));
+    if (names == 2) fs::create_hard_link(folder.path("file"), folder.path("other"));
+    const Names before = folder.names();
+    const auto stream = folder.item("file")->CreateBinaryFile("Type");
+    for (int i = 0; i < 300000; ++i)
+      stream->WriteByte(i);
+    {
+      const FullDisk full(100000);
+      stream->Close();
+    }
+    EXPECT_EQ(folder.read("file"), old);
+    EXPECT_EQ(folder.names(), before);
+    EXPECT_EQ(fake().messages.back().find("The file \"file\" was not saved. "), 0U) << fake().messages.back();
+    EXPECT_NE(fake().messages.back().find("Nothing in its folder has changed."), std::string::npos);
+  }
+  EXPECT_EQ(fake().messages.size(), 3U);
 
   fs::create_directory(folder.path("sub"));
   replace("sub/file", [&] { fs::remove_all(folder.path("sub")); });

@@ -1,15 +1,19 @@
 // The machine's own save dialog, driven by hand as far as the offscreen platform allows, and the folder for data.
 
 #include <filesystem>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include <QApplication>
 #include <QDialogButtonBox>
 #include <QFileDialog>
+#include <QFileSystemModel>
 #include <QLineEdit>
+#include <QListView>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -22,23 +26,47 @@
 namespace tavrelkin {
 namespace {
 
-// The dialog keeps its settings and the desktop its data in the user's folders, here temporary ones.
+namespace fs = std::filesystem;
+
+// The desktop keeps its data in the user's folders, here temporary ones.
 class NativeFilesTest : public ::testing::Test {
  protected:
-  NativeFilesTest() {
-    qputenv("HOME", QByteArray::fromStdString(home.path("")));
-    qputenv("XDG_CONFIG_HOME", QByteArray::fromStdString(home.path("config")));
-  }
+  NativeFilesTest() { qputenv("HOME", QByteArray::fromStdString(home.path(""))); }
 
   const TemporaryFolder home;
   const std::unique_ptr<Desktop> desktop = makeNativeDesktop();
 };
 
-// Types a name and saves, refuses to overwrite where asked, and gives up then.
-struct User {
-  explicit User(QString typed) : name(std::move(typed)) { plan(); }
+QLineEdit& fieldOf(const QFileDialog& dialog) {
+  return *dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
+}
 
-  // The next act is planned first, since a question comes, and has to be answered, within the click that raises it.
+using Act = std::function<void(const QFileDialog&)>;
+
+Act type(const std::string& text) {
+  return [text](const QFileDialog& dialog) {
+    fieldOf(dialog).selectAll();
+    fieldOf(dialog).insert(QString::fromStdString(text));
+  };
+}
+
+Act select(const std::string& path) {
+  return [path](const QFileDialog& dialog) {
+    const auto* const list = dialog.findChild<QListView*>(QStringLiteral("listView"));
+    const QModelIndex item = qobject_cast<QFileSystemModel*>(list->model())->index(QString::fromStdString(path));
+    list->selectionModel()->setCurrentIndex(item, QItemSelectionModel::Select | QItemSelectionModel::Rows);
+  };
+}
+
+void save(const QFileDialog& dialog) {
+  dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+}
+
+// Does one act after the other, answers questions with no, and gives up in the end.
+struct User {
+  explicit User(std::vector<Act> steps) : acts(std::move(steps)) { plan(); }
+
+  // The next act is planned first, since a question comes, and has to be answered, within the act that raises it.
   void plan() {
     QTimer::singleShot(0, &hand, [this] {
       plan();
@@ -48,29 +76,53 @@ struct User {
 
   void act() {
     auto* const front = QApplication::activeModalWidget();
-    if (auto* const question = qobject_cast<QMessageBox*>(front)) return question->button(QMessageBox::No)->click();
+    if (auto* const question = qobject_cast<QMessageBox*>(front)) {
+      ++questions;
+      return question->reject();
+    }
     auto* const dialog = qobject_cast<QFileDialog*>(front);
     if (!dialog) return;
-    if (!begunWith.isNull()) return dialog->reject();
-    auto* const line = dialog->findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-    begunWith = line->text();
-    line->setText(name);
-    dialog->findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
+    if (next == 0) begunWith = fieldOf(*dialog).text().toStdString();
+    if (next == acts.size()) return dialog->reject();
+    acts[next++](*dialog);
   }
 
-  QString name;
-  QString begunWith;
+  std::vector<Act> acts;
+  std::size_t next = 0;
+  std::string begunWith;
+  int questions = 0;
   QObject hand;
 };
 
-TEST_F(NativeFilesTest, TheSaveDialogAsksBeforeItOverwritesAndAddsNothing) {
+TEST_F(NativeFilesTest, TheSaveDialogTakesWhatStandsInItsField) {
   home.write("old", "");
-  for (const auto& [typed, accepted] : {std::pair{"new.aco.txt", true}, {"old", false}}) {
-    const std::string path = home.path(typed);
-    const User user(QString::fromStdString(path));
-    const auto chosen = desktop->chooseSaveFile("Swatches (*.aco)", "Untitled.aco");
-    EXPECT_EQ(user.begunWith, "Untitled.aco");
-    EXPECT_EQ(chosen, accepted ? std::optional(path) : std::nullopt) << typed;
+  fs::create_directory(home.path("folder"));
+  const std::string at = home.path("");
+  const std::string folder = home.path("folder");
+  const struct {
+    const char* name;
+    std::vector<Act> acts;
+    std::optional<std::string> chosen;
+    int questions = 0;
+  } rows[] = {
+      {"nothing is added", {type(at + "new.aco.txt"), save}, at + "new.aco.txt"},
+      {"an old file", {type(at + "old"), save}, std::nullopt, 1},
+      {"a missing folder", {type(at + "none/new"), save, type(at + "new"), save}, at + "new", 1},
+      {"a file as folder", {type(at + "old/new"), save}, std::nullopt, 1},
+      {"home", {type("~/new"), save}, at + "new"},
+      {"quotes", {type(at + "a \"new\" one"), save}, at + "a \"new\" one"},
+      {"nothing", {type(""), save}, std::nullopt},
+      {"below a folder", {type(folder), type(folder + "/new"), save}, folder + "/new"},
+      {"more than the name of a file", {type(at + "old"), type(at + "older"), save}, at + "older"},
+      {"a folder, then what is proposed", {type(folder), save, save}, folder + "/Untitled.aco"},
+      {"a folder of the list", {type(at + "new"), select(folder), save, type("new"), save}, folder + "/new"},
+      {"a folder of the list, then a path", {select(folder), type(at + "new"), save}, at + "new"},
+  };
+  for (const auto& row : rows) {
+    const User user(row.acts);
+    EXPECT_EQ(desktop->chooseSaveFile("Swatches (*.aco)", "Untitled.aco"), row.chosen) << row.name;
+    EXPECT_EQ(user.begunWith, "Untitled.aco") << row.name;
+    EXPECT_EQ(user.questions, row.questions) << row.name;
   }
 }
 
@@ -80,7 +132,7 @@ TEST_F(NativeFilesTest, DataGoesBelowXdgDataHomeOrItsDefault) {
                                          {"relative", home.path(".local/share/tavrelkin")}}) {
     qputenv("XDG_DATA_HOME", QByteArray::fromStdString(dataHome));
     EXPECT_EQ(desktop->applicationDataFolder(), folder);
-    EXPECT_TRUE(std::filesystem::is_directory(folder));
+    EXPECT_TRUE(fs::is_directory(folder));
   }
 }
 

@@ -9,17 +9,13 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QColorDialog>
-#include <QFile>
-#include <QFileDialog>
-#include <QMessageBox>
 #include <QMetaObject>
-#include <QPointer>
 #include <QScreen>
 #include <QTimer>
 
 #include "runtime/desktop/ScreenReader.h"
 #include "runtime/desktop/native/ApplicationDataFolder.h"
+#include "runtime/desktop/native/Dialogs.h"
 #include "runtime/desktop/native/NoScreenReader.h"
 #include "runtime/desktop/native/WaylandModule.h"
 #include "runtime/desktop/x11/X11Offers.h"
@@ -57,23 +53,6 @@ bool isWaylandSession() {
   return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || QGuiApplication::platformName().startsWith("wayland");
 }
 
-// A dialog that has just been closed may still count as active, though it goes soon, and would take one over it along.
-QWidget* frontWindow() {
-  QWidget* window = QApplication::activeWindow();
-  while (window && !window->isVisible())
-    window = window->parentWidget();
-  return window;
-}
-
-// Shows a dialog until the user closes it, and gives whether they accept. It is of use then until the event loop runs
-// again. The window underneath can be closed meanwhile, which takes the dialog with it: that counts as giving up.
-template <class Dialog>
-bool run(const QPointer<Dialog>& dialog) {
-  const bool accepted = dialog->exec() == QDialog::Accepted;
-  if (dialog) dialog->deleteLater();
-  return accepted && dialog;
-}
-
 class NativeAlarm final : public Alarm {
  public:
   explicit NativeAlarm(std::function<void()> ring) {
@@ -108,9 +87,13 @@ class NativeDesktop final : public Desktop {
     return std::make_unique<NativeAlarm>(std::move(ring));
   }
 
-  void messageBox(const std::string& text) override;
-  std::optional<std::uint32_t> selectColor(std::uint32_t initial, const std::string& prompt) override;
-  std::optional<std::string> chooseSaveFile(const std::string& filter, const std::string& name) override;
+  void messageBox(const std::string& text) override { dialogs_.message(text); }
+  std::optional<std::uint32_t> selectColor(std::uint32_t initial, const std::string& prompt) override {
+    return dialogs_.color(initial, prompt);
+  }
+  std::optional<std::string> chooseSaveFile(const std::string& filter, const std::string& name) override {
+    return dialogs_.saveFile(filter, name);
+  }
   std::string applicationDataFolder() override { return makeApplicationDataFolder(); }
   std::unique_ptr<Offer> clipboardOffer() override;
   std::unique_ptr<Offer> dropOffer() override { return offers_ ? offers_->drop() : nullptr; }
@@ -123,6 +106,7 @@ class NativeDesktop final : public Desktop {
 
   std::unique_ptr<ScreenReader> reader_;
   std::unique_ptr<X11Offers> offers_;
+  Dialogs dialogs_;
   QObject context_;  // takes back what is not told yet when the desktop goes
 };
 
@@ -149,31 +133,6 @@ std::chrono::nanoseconds NativeDesktop::frameInterval() const {
   const double stated = screen ? screen->refreshRate() : 0;
   const double rate = stated > 1 && stated <= 1000 ? stated : 60;
   return std::chrono::duration_cast<std::chrono::nanoseconds>(std::chrono::duration<double>(1 / rate));
-}
-
-void NativeDesktop::messageBox(const std::string& text) {
-  const QPointer<QMessageBox> box(new QMessageBox(frontWindow()));
-  box->setWindowTitle("Tavrelkin");
-  box->setTextFormat(Qt::PlainText);
-  box->setText(QString::fromStdString(text));
-  box->setStandardButtons(QMessageBox::Ok);
-  run(box);
-}
-
-std::optional<std::uint32_t> NativeDesktop::selectColor(std::uint32_t initial, const std::string& prompt) {
-  const QPointer<QColorDialog> dialog(new QColorDialog(QColor::fromRgb(initial), frontWindow()));
-  dialog->setWindowTitle(QString::fromStdString(prompt));
-  if (!run(dialog)) return std::nullopt;
-  return dialog->selectedColor().rgb() & 0xFFFFFF;
-}
-
-std::optional<std::string> NativeDesktop::chooseSaveFile(const std::string& filter, const std::string& name) {
-  const QPointer<QFileDialog> dialog(new QFileDialog(frontWindow()));
-  dialog->setAcceptMode(QFileDialog::AcceptSave);
-  if (!filter.empty()) dialog->setNameFilter(QString::fromStdString(filter));
-  dialog->selectFile(QString::fromStdString(name));
-  if (!run(dialog)) return std::nullopt;
-  return QFile::encodeName(dialog->selectedFiles().constFirst()).toStdString();
 }
 
 std::unique_ptr<Offer> NativeDesktop::clipboardOffer() {
