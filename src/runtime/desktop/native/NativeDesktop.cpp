@@ -21,6 +21,7 @@
 #include "runtime/desktop/ScreenReader.h"
 #include "runtime/desktop/native/ApplicationDataFolder.h"
 #include "runtime/desktop/native/NoScreenReader.h"
+#include "runtime/desktop/wayland/WaylandOffers.h"
 #include "runtime/desktop/x11/X11Offers.h"
 #include "runtime/desktop/x11/X11ScreenReader.h"
 
@@ -62,6 +63,14 @@ std::unique_ptr<ScreenReader> makeScreenReader() {
   return std::make_unique<NoScreenReader>(kWhyNotHere);
 }
 
+// Qt on Wayland reads other programs by Wayland's own means, and through an X server by those of X.
+std::unique_ptr<OfferSource> makeOfferSource() {
+  const QString platform = QGuiApplication::platformName();
+  if (platform == "xcb") return std::make_unique<X11Offers>();
+  if (platform.startsWith("wayland")) return makeWaylandOffers();
+  return nullptr;
+}
+
 // A dialog that has just been closed may still count as active, though it goes soon, and would take one over it along.
 QWidget* frontWindow() {
   QWidget* window = QApplication::activeWindow();
@@ -100,9 +109,8 @@ class NativeAlarm final : public Alarm {
 
 class NativeDesktop final : public Desktop {
  public:
-  NativeDesktop() : reader_(makeScreenReader()), canReadScreen_(reader_->whyNoScreen().empty()) {
-    if (QGuiApplication::platformName() == "xcb") offers_ = std::make_unique<X11Offers>();
-  }
+  NativeDesktop()
+      : reader_(makeScreenReader()), canReadScreen_(reader_->whyNoScreen().empty()), offers_(makeOfferSource()) {}
 
   bool canReadScreen() const override { return canReadScreen_; }
   std::string whyNoScreen() const override { return reader_->whyNoScreen(); }
@@ -129,7 +137,7 @@ class NativeDesktop final : public Desktop {
  private:
   std::unique_ptr<ScreenReader> reader_;
   bool canReadScreen_;  // asked at each pixel
-  std::unique_ptr<X11Offers> offers_;
+  std::unique_ptr<OfferSource> offers_;
 };
 
 // Some displays state no rate, or a senseless one.
