@@ -55,7 +55,7 @@ bool waitForInput(int descriptor, TimePoint end) {
 
 std::optional<std::string> readThroughPipe(const std::function<void(int)>& request, std::size_t most, TimePoint end) {
   std::array<int, 2> ends;
-  if (pipe2(ends.data(), O_CLOEXEC) != 0) return std::nullopt;
+  if (std::chrono::steady_clock::now() >= end || pipe2(ends.data(), O_CLOEXEC) != 0) return std::nullopt;
   const PipeEnd source(ends[0]);
   request(ends[1]);
   close(ends[1]);

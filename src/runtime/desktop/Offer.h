@@ -22,7 +22,8 @@ class Offer {
   virtual ~Offer() = default;
 
   // The bytes under a MIME type, or under another name of a type that the desktop has; nothing where they are not
-  // offered, or don't come within the bounds. After a read that breaks the bounds all others of this offer give nothing.
+  // offered, or don't come within the bounds. After a read that breaks the bounds all others of this offer give
+  // nothing.
   virtual std::optional<std::string> bytes(const std::string& type) = 0;
 
   // The plain text, in well-formed UTF-8; nothing as above.

@@ -76,8 +76,7 @@ XcbPtr<xcb_generic_event_t> Selection::waitFor(IsWanted isWanted) {
 
 // False at the end of the patience and of the connection.
 bool Selection::waitForData() {
-  return !xcb_connection_has_error(connection_.get()) &&
-         waitForInput(xcb_get_file_descriptor(connection_.get()), end_);
+  return !xcb_connection_has_error(connection_.get()) && waitForInput(xcb_get_file_descriptor(connection_.get()), end_);
 }
 
 bool Selection::isConverted(xcb_atom_t target) {
