@@ -14,7 +14,7 @@ from program import Program, title_of
 
 GROUND = (1200, 1000)  # where no window is
 SWATCH = (29, 16)
-PATIENCE = 6.0  # seconds: two that a bad source may take, and what the session does by itself
+PATIENCE = 8.0  # seconds: two that a bad source may take, and what the session does by itself
 MEMORY = 30_000  # KiB
 
 
@@ -95,8 +95,9 @@ class Offers:
             return int(re.search(r"VmHWM:\s+(\d+)", status.read())[1])
 
     def try_whole(self, take):
+        self.paste_another()
         take("whole")
-        wait(lambda: self.takes(WHOLE), "the colour")
+        wait(lambda: self.desktop.look().pixel(*self.swatch) == WHOLE, "the colour on the button")
 
     def try_bad(self, take, kind):
         self.paste_another()
