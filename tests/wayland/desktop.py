@@ -1,112 +1,157 @@
-"""The user of a session that session.sh brought up: Desktop moves the pointer, presses buttons and keys, and looks.
+"""The user of a session that session.sh brought up: moves the pointer, presses buttons and keys, and looks.
 
-All places are global and in pixels; monitors have scale 1. Debian's own python3 runs it (python3-gi).
+All places are global and in pixels, and each monitor has scale 1. Debian's own python3 runs it.
 
     desktop = Desktop()
     desktop.move(100, 200)
     desktop.click()
     desktop.press("ctrl", "f")
-    picture = desktop.look()
-    picture.pixel(100, 200)  # (red, green, blue)
+    desktop.look().pixel(100, 200)  # (red, green, blue)
 """
 import time
 
 import gi
 
+gi.require_version("GdkPixbuf", "2.0")
 gi.require_version("Gst", "1.0")
-from gi.repository import Gio, GLib, Gst  # noqa: E402
+from gi.repository import GdkPixbuf, Gio, GLib, Gst  # noqa: E402
 
-MUTTER = "org.gnome.Mutter."
-HIDDEN = 0  # the pointer, in pictures
-BUTTONS = {"left": 0x110, "right": 0x111}
-# The kernel's codes, as for a US keyboard.
-KEYS = {"escape": 1, "tab": 15, "return": 28, "ctrl": 29, "f": 33, "shift": 42, "alt": 56, "space": 57, "p": 25}
-KEYS |= {"v": 47, "c": 46, "h": 35, "n": 49, "super": 125, "down": 108, "up": 103, "f4": 62, "f9": 67}
+PREFIX = "org.gnome.Mutter."
+HIDDEN = 0  # mutter's word for pictures without the pointer
+LEFT_BUTTON = 0x110
+# The kernel's codes, as on a US keyboard.
+KEYS = {"escape": 1, "tab": 15, "return": 28, "ctrl": 29, "shift": 42, "alt": 56, "space": 57, "super": 125}
+for first, letters in ((16, "qwertyuiop"), (30, "asdfghjkl"), (44, "zxcvbnm")):
+    KEYS |= {letter: first + index for index, letter in enumerate(letters)}
+
+
+def wait(happened, what, seconds=10.0):
+    """Waits until it has happened, and gives what that returned. Raises TimeoutError."""
+    end = time.monotonic() + seconds
+    while True:
+        while GLib.MainContext.default().iteration(False):
+            pass
+        result = happened()
+        if result:
+            return result
+        if time.monotonic() > end:
+            raise TimeoutError(f"{what}: not within {seconds:g} s")
+        time.sleep(0.01)
 
 
 class Picture:
-    """What all monitors show, without the pointer."""
+    """Pixels, row by row, three bytes each."""
 
     def __init__(self, width, height, data):
         self.width, self.height, self.data = width, height, data
 
     def pixel(self, x, y):
-        at = (y * self.width + x) * 3
-        return tuple(self.data[at : at + 3])
+        return tuple(self.row(x, y, 1))
 
     def row(self, x, y, width):
         at = (y * self.width + x) * 3
         return self.data[at : at + width * 3]
 
-    def save(self, path):
-        gi.require_version("GdkPixbuf", "2.0")
-        from gi.repository import GdkPixbuf
+    def part(self, x, y, width, height):
+        return Picture(width, height, b"".join(self.row(x, y + row, width) for row in range(height)))
 
-        size = (self.width, self.height, self.width * 3)
-        bytes_of = GLib.Bytes.new(self.data)
-        GdkPixbuf.Pixbuf.new_from_bytes(bytes_of, GdkPixbuf.Colorspace.RGB, False, 8, *size).savev(path, "png", [], [])
+    def save(self, path):
+        layout = (GdkPixbuf.Colorspace.RGB, False, 8, self.width, self.height, self.width * 3)
+        GdkPixbuf.Pixbuf.new_from_bytes(GLib.Bytes.new(self.data), *layout).savev(path, "png", [], [])
+
+
+class Service:
+    """One of mutter's own interfaces on the bus."""
+
+    def __init__(self, name):
+        self.bus = Gio.bus_get_sync(Gio.BusType.SESSION)
+        self.name = PREFIX + name
+        self.root = "/" + self.name.replace(".", "/")
+
+    def call(self, method, signature="()", *arguments, path=None, interface=""):
+        place = (self.name, path or self.root, self.name + interface, method)
+        return self.bus.call_sync(*place, GLib.Variant(signature, arguments), None, 0, 10000, None).unpack()
+
+
+class Recording:
+    """An area of the monitors, without the pointer, as a stream of pictures. `remote` is a remote desktop's session."""
+
+    def __init__(self, left, top, width, height, remote=None):
+        self.size = (width, height)
+        self.service = Service("ScreenCast")
+        options = {"remote-desktop-session-id": GLib.Variant("s", remote)} if remote else {}
+        (self.session,) = self.service.call("CreateSession", "(a{sv})", options)
+        area = (left, top, width, height, {"cursor-mode": GLib.Variant("u", HIDDEN)})
+        (self.path,) = self.service.call("RecordArea", "(iiiia{sv})", *area, path=self.session, interface=".Session")
+        self.node = None
+        signal = (None, PREFIX + "ScreenCast.Stream", "PipeWireStreamAdded", self.path, None, 0)
+        self.service.bus.signal_subscribe(*signal, self.added)
+
+    def added(self, *signal):
+        self.node = signal[-1].unpack()[0]
+
+    def start(self):
+        self.service.call("Start", path=self.session, interface=".Session")
+
+    def play(self):
+        """Starts a pipeline, which the caller must stop, and gives it with the sink that next() takes."""
+        wait(lambda: self.node, "a stream of pictures")
+        pipeline = Gst.parse_launch(
+            f"pipewiresrc path={self.node} always-copy=true ! videoconvert ! video/x-raw,format=RGB "
+            "! appsink name=sink sync=false")
+        pipeline.set_state(Gst.State.PLAYING)
+        return pipeline, pipeline.get_by_name("sink")
+
+    def next(self, sink, seconds=5.0):
+        """Gives the next picture, or None where none comes in this time."""
+        sample = sink.emit("try-pull-sample", int(seconds * Gst.SECOND))
+        if not sample:
+            return None
+        width, height = self.size
+        buffer = sample.get_buffer()
+        stride = (width * 3 + 3) // 4 * 4
+        data = buffer.extract_dup(0, buffer.get_size())
+        return Picture(width, height, b"".join(data[y * stride :][: width * 3] for y in range(height)))
+
+    def look(self):
+        """Takes one picture, as it is now."""
+        pipeline, sink = self.play()
+        try:
+            return self.next(sink) or self.next(sink)
+        finally:
+            pipeline.set_state(Gst.State.NULL)
 
 
 class Desktop:
+    """`monitors` are the rectangles (left, top, width, height) of all monitors."""
+
     def __init__(self):
         Gst.init(None)
-        self.bus = Gio.bus_get_sync(Gio.BusType.SESSION)
-        self.width, self.height = self.extent()
-        self.remote = self.call("RemoteDesktop", "/org/gnome/Mutter/RemoteDesktop", "", "CreateSession")[0]
-        (remote_id,) = self.call(
-            "RemoteDesktop", self.remote, "org.freedesktop.DBus.Properties", "Get",
-            GLib.Variant("(ss)", (MUTTER + "RemoteDesktop.Session", "SessionId")))
-        options = GLib.Variant("(a{sv})", ({"remote-desktop-session-id": GLib.Variant("s", remote_id)},))
-        cast = self.call("ScreenCast", "/org/gnome/Mutter/ScreenCast", "", "CreateSession", options)[0]
-        area = GLib.Variant("(iiiia{sv})", (0, 0, self.width, self.height, {"cursor-mode": GLib.Variant("u", HIDDEN)}))
-        self.stream = self.call("ScreenCast", cast, ".Session", "RecordArea", area)[0]
-        self.node = None
-        self.bus.signal_subscribe(
-            None, MUTTER + "ScreenCast.Stream", "PipeWireStreamAdded", self.stream, None, 0, self.stream_added)
-        self.call("RemoteDesktop", self.remote, ".Session", "Start")
-        self.wait(lambda: self.node is not None, "the stream of the pictures")
+        self.monitors = self.read_monitors()
+        self.remote = Service("RemoteDesktop")
+        (self.session,) = self.remote.call("CreateSession")
+        place = (self.remote.name, self.session, "org.freedesktop.DBus.Properties", "Get")
+        arguments = GLib.Variant("(ss)", (self.remote.name + ".Session", "SessionId"))
+        (session_id,) = self.remote.bus.call_sync(*place, arguments, None, 0, -1, None).unpack()
+        right = max(left + width for left, _, width, _ in self.monitors)
+        bottom = max(top + height for _, top, _, height in self.monitors)
+        self.recording = Recording(0, 0, right, bottom, session_id)
+        self.act("Start")
 
-    def call(self, service, path, interface, method, arguments=None):
-        if interface.startswith(".") or not interface:
-            interface = MUTTER + service + interface
-        answer = self.bus.call_sync(MUTTER + service, path, interface, method, arguments, None, 0, 10000, None)
-        return answer.unpack()
+    @staticmethod
+    def read_monitors():
+        _, monitors, layout, _ = Service("DisplayConfig").call("GetCurrentState")
+        sizes = {names[0]: mode[1:3] for names, modes, _ in monitors for mode in modes if mode[6].get("is-current")}
+        return [(left, top, *sizes[members[0][0]]) for left, top, _, _, _, members, _ in layout]
 
-    def stream_added(self, *signal):
-        self.node = signal[5].unpack()[0]
-
-    def wait(self, happened, what, seconds=10):
-        """Waits until it happened, and gives what that returned. Raises TimeoutError."""
-        end = time.monotonic() + seconds
-        while True:
-            while GLib.MainContext.default().iteration(False):
-                pass
-            result = happened()
-            if result:
-                return result
-            if time.monotonic() > end:
-                raise TimeoutError(what)
-            time.sleep(0.005)
-
-    def extent(self):
-        """The size of all monitors together."""
-        state = self.call("DisplayConfig", "/org/gnome/Mutter/DisplayConfig", "", "GetCurrentState")
-        sizes = {}
-        for (connector, *_), modes, _ in state[1]:
-            sizes[connector] = next(mode[1:3] for mode in modes if mode[6].get("is-current"))
-        self.monitors = []
-        for x, y, _, _, _, members, _ in state[2]:
-            self.monitors.append((x, y, *sizes[members[0][0]]))
-        return max(x + w for x, y, w, h in self.monitors), max(y + h for x, y, w, h in self.monitors)
-
-    def session(self, method, signature, *arguments):
-        self.call("RemoteDesktop", self.remote, ".Session", method, GLib.Variant(signature, arguments))
+    def act(self, method, signature="()", *arguments):
+        self.remote.call(method, signature, *arguments, path=self.session, interface=".Session")
 
     def move(self, x, y):
-        self.session("NotifyPointerMotionAbsolute", "(sdd)", self.stream, x, y)
+        self.act("NotifyPointerMotionAbsolute", "(sdd)", self.recording.path, x, y)
 
-    def button(self, pressed, name="left"):
-        self.session("NotifyPointerButton", "(ib)", BUTTONS[name], pressed)
+    def button(self, pressed):
+        self.act("NotifyPointerButton", "(ib)", LEFT_BUTTON, pressed)
 
     def click(self):
         self.button(True)
@@ -115,23 +160,10 @@ class Desktop:
     def press(self, *keys):
         """Presses the keys one after the other, and lets them go in the opposite order."""
         for key in keys:
-            self.session("NotifyKeyboardKeycode", "(ub)", KEYS[key], True)
+            self.act("NotifyKeyboardKeycode", "(ub)", KEYS[key], True)
         for key in reversed(keys):
-            self.session("NotifyKeyboardKeycode", "(ub)", KEYS[key], False)
+            self.act("NotifyKeyboardKeycode", "(ub)", KEYS[key], False)
 
     def look(self):
-        """Takes a Picture."""
-        pipeline = Gst.parse_launch(
-            f"pipewiresrc path={self.node} num-buffers=1 ! videoconvert ! video/x-raw,format=RGB ! appsink name=sink sync=false")
-        pipeline.set_state(Gst.State.PLAYING)
-        try:
-            sample = pipeline.get_by_name("sink").emit("try-pull-sample", 5 * Gst.SECOND)
-            if not sample:
-                raise TimeoutError("a picture of the monitors")
-            buffer = sample.get_buffer()
-            stride = (self.width * 3 + 3) // 4 * 4
-            data = buffer.extract_dup(0, buffer.get_size())
-            rows = (data[y * stride : y * stride + self.width * 3] for y in range(self.height))
-            return Picture(self.width, self.height, b"".join(rows))
-        finally:
-            pipeline.set_state(Gst.State.NULL)
+        """Takes a picture of all monitors. A gap between them is black."""
+        return self.recording.look()
