@@ -1,6 +1,6 @@
 """checks.py PROGRAM PICTURES: tries the program in a session with monitors of 1280x1024 and 1024x768.
 
-Says OK or what differs for each case, and leaves a picture of the monitors after each in the folder PICTURES.
+Says OK or what differs for each case, and leaves pictures of the monitors in the folder PICTURES.
 """
 import os
 import random
@@ -43,12 +43,15 @@ class Colours:
 
 
 class Checks:
-    def __init__(self, path):
+    def __init__(self, path, pictures):
+        self.pictures = pictures
         self.desktop = Desktop()
-        self.desktop.move(640, 900)
         self.colours = Colours(self.desktop)
         self.program = Program(self.desktop, path)
         self.random = random.Random(1)
+
+    def keep_picture(self, name):
+        self.desktop.look().save(os.path.join(self.pictures, f"{name}.png"))
 
     def screen_at(self, x, y):
         """The colour of the screen at a place where the program's window isn't."""
@@ -105,8 +108,10 @@ class Checks:
     def refused(self):
         self.desktop.press("ctrl", "f")
         await_dialog()
+        self.keep_picture("asked")
         refuse(self.desktop)
         wait(lambda: len(self.program.windows()) > 1, "a message", PATIENCE)
+        self.keep_picture("refused")
         self.expect(not self.program.follows(), "Follow mouse keeps its mark")
         self.desktop.press("return")
         wait(lambda: len(self.program.windows()) == 1, "the end of the message", PATIENCE)
@@ -125,6 +130,8 @@ class Checks:
         for place in PLACES:
             self.desktop.move(*place)
             self.await_preview(*place)
+            self.expect(self.program.shows("{%d, %d}" % place), f"the label of {place}")
+        self.keep_picture("two-monitors")
         self.expect(not dialogs(), "the desktop asks a second time")
 
     def follows_to_end_of_burst(self):
@@ -157,11 +164,10 @@ class Checks:
             self.desktop.button(False)
             self.await_title(colour_at(*end), "released right after a move")
 
-    def click_in_preview(self, preview, what):
+    def cell_of(self, preview):
+        """The place on screen of a cell of the preview, away from its frame and marker, and the cell's colour."""
         column, row = self.random.randrange(1, COLUMNS - 1), self.random.choice((*range(1, 22), *range(27, ROWS - 1)))
-        self.desktop.move(*self.program.preview_place(column, row))
-        self.desktop.click()
-        self.await_title(preview.pixel(column * 4 + 2, row * 4 + 2), what)
+        return self.program.preview_place(column, row), preview.pixel(column * 4 + 2, row * 4 + 2)
 
     def clicks(self):
         for locked in (False, True):
@@ -170,8 +176,12 @@ class Checks:
             self.await_preview(700, 700)
             self.desktop.press("ctrl", "l") if locked else self.follow(False)
             time.sleep(0.2)
+            preview = self.program.preview()
             for _ in range(10):
-                self.click_in_preview(self.program.preview(), "locked" if locked else "not following")
+                place, colour = self.cell_of(preview)
+                self.desktop.move(*place)
+                self.desktop.click()
+                self.await_title(colour, "locked" if locked else "not following")
         self.desktop.press("ctrl", "l")
 
     def hovers(self):
@@ -243,10 +253,9 @@ CASES = (
 
 
 def main():
-    path, pictures = sys.argv[1:]
-    checks = Checks(path)
+    checks = Checks(*sys.argv[1:])
     failures = 0
-    for number, (name, case) in enumerate(CASES, 1):
+    for name, case in CASES:
         start = time.monotonic()
         try:
             case(checks)
@@ -254,7 +263,7 @@ def main():
         except Exception as error:  # noqa: BLE001  # A case may fail in any way, and the next is tried all the same.
             failures += 1
             print(f"FAIL  {name}: {type(error).__name__}: {error}", flush=True)
-        checks.desktop.look().save(os.path.join(pictures, f"{number:02}.png"))
+            checks.keep_picture(f"failed-{failures}")
     return failures
 
 

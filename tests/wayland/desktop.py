@@ -137,6 +137,9 @@ class Desktop:
         bottom = max(top + height for _, top, _, height in self.monitors)
         self.recording = Recording(0, 0, right, bottom, session_id)
         self.act("Start")
+        # Clients see no pointer and no keyboard before their first use, and miss what that does.
+        self.move(right / 2, bottom / 2)
+        self.press("shift")
 
     @staticmethod
     def read_monitors():

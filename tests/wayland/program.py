@@ -53,6 +53,7 @@ class Program:
             self.process = subprocess.Popen([path], env=os.environ | settings, stdout=log, stderr=log)
         self.window = wait(self.tool_window, "the tool window's title")
         self.left, self.top = wait(self.find, "the tool window")
+        self.await_keyboard()
 
     def windows(self):
         return windows(lambda program: program.get_process_id() == self.process.pid)
@@ -74,6 +75,9 @@ class Program:
         """Gives the window the keyboard, by a click beside its controls."""
         self.desktop.move(self.left + 8, self.top + HEIGHT - 4)
         self.desktop.click()
+        self.await_keyboard()
+
+    def await_keyboard(self):
         wait(lambda: has_state(self.window, Atspi.StateType.ACTIVE), "the keyboard for the tool window")
 
     def title(self):
@@ -84,6 +88,13 @@ class Program:
         part = called(self.window, "label", "Color: ")
         part.clear_cache()
         return part.get_name()
+
+    def shows(self, text):
+        """Whether a label shows the text."""
+        try:
+            return bool(wait(lambda: called(self.window, "label", text), text, 1))
+        except TimeoutError:
+            return False
 
     def follows(self):
         """Whether the command Follow mouse has its mark."""
