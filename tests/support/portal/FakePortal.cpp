@@ -106,8 +106,8 @@ QVariantList FakePortal::replyTo(const QDBusMessage& call) {
   }
   QString path = pathOf(QStringLiteral("request"), call, given[QStringLiteral("handle_token")].toString());
   if (method == QLatin1String("CreateSession")) {
-    session_ = pathOf(QStringLiteral("session"), call, given[QStringLiteral("session_handle_token")].toString());
-    open << session_;
+    session = pathOf(QStringLiteral("session"), call, given[QStringLiteral("session_handle_token")].toString());
+    open << session;
   }
   if (reply != replies.end()) {
     path = reply->second.at(0).value<QDBusObjectPath>().path();
@@ -121,7 +121,7 @@ QVariantList FakePortal::replyTo(const QDBusMessage& call) {
 QVariantList FakePortal::responseOf(const QString& method) const {
   if (const auto found = responses.find(method); found != responses.end()) return found->second;
   QVariantMap results;
-  if (method == QLatin1String("CreateSession")) results[QStringLiteral("session_handle")] = session_;
+  if (method == QLatin1String("CreateSession")) results[QStringLiteral("session_handle")] = session;
   if (method == QLatin1String("PickColor")) results[QStringLiteral("color")] = QVariant::fromValue(colour);
   if (method == QLatin1String("Start")) {
     results[QStringLiteral("streams")] = QVariant::fromValue(streams);
@@ -137,8 +137,8 @@ void FakePortal::respond(const QString& method) {
 }
 
 void FakePortal::closeSession() {
-  open.removeAll(session_);
-  send(session_, QStringLiteral("Session"), QStringLiteral("Closed"), {QVariantMap()});
+  open.removeAll(session);
+  send(session, QStringLiteral("Session"), QStringLiteral("Closed"), {QVariantMap()});
 }
 
 void FakePortal::send(const QString& path, const QString& interface, const QString& name,

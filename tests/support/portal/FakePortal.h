@@ -59,6 +59,7 @@ class FakePortal : public QDBusVirtualObject {
   std::map<QString, QVariantMap> options;
   std::map<QString, int> calls;
   QStringList open;
+  QString session;  // the path of the last one
 
   // Sends the Response of the last call of the method.
   void respond(const QString& method);
@@ -76,7 +77,6 @@ class FakePortal : public QDBusVirtualObject {
 
   BusConnection connection_;
   std::map<QString, QString> requests_;  // the path of the last call of each method
-  QString session_;
 };
 
 }  // namespace tavrelkin::test

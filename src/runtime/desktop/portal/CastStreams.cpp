@@ -53,12 +53,10 @@ std::optional<std::vector<CastStream>> castStreams(const QVariant& value) {
   if (!argument) return std::nullopt;
   std::vector<CastStream> result;
   argument->beginArray();
-  while (!argument->atEnd()) {
-    if (result.size() == mostStreams) return std::nullopt;
+  while (!argument->atEnd() && result.size() <= mostStreams)
     result.push_back(castStream(*argument));
-  }
   argument->endArray();
-  if (result.empty()) return std::nullopt;
+  if (result.empty() || result.size() > mostStreams) return std::nullopt;
   return result;
 }
 

@@ -1,5 +1,6 @@
 #include "runtime/desktop/portal/ColorPickerPortal.h"
 
+#include <array>
 #include <cmath>
 #include <utility>
 
@@ -25,11 +26,12 @@ bool hasPicker(const PortalInterface& portal) {
 std::optional<std::uint32_t> colourOf(const QVariant& value) {
   const auto argument = argumentOf(value, "(ddd)");
   if (!argument) return std::nullopt;
-  std::uint32_t result = 0;
+  std::array<double, 3> channels{};
   argument->beginStructure();
-  for (int i = 0; i < 3; ++i) {
-    double channel = 0;
-    *argument >> channel;
+  *argument >> channels[0] >> channels[1] >> channels[2];
+  argument->endStructure();
+  std::uint32_t result = 0;
+  for (const double channel : channels) {
     if (!(channel >= 0 && channel <= 1)) return std::nullopt;  // as is the case with NaN
     result = (result << 8) | static_cast<std::uint32_t>(std::lround(channel * 255));
   }

@@ -18,8 +18,8 @@ namespace tavrelkin {
 void callMethod(const QDBusConnection& bus, const QDBusMessage& call, std::chrono::milliseconds patience,
                 QObject& context, std::function<void(const QDBusMessage&)> done);
 
-// The structure or array of the D-Bus type `signature` that `value` holds, for reading; nothing if it holds anything
-// else.
+// The structure or array of the D-Bus type `signature` that `value` holds; nothing if it holds anything else. Whoever
+// begins to read it has to end it, since the toolkit leaks what is left open.
 std::optional<const QDBusArgument> argumentOf(const QVariant& value, const char* signature);
 
 }  // namespace tavrelkin

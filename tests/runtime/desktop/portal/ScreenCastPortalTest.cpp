@@ -243,7 +243,13 @@ TEST_F(ScreenCastPortalTest, FollowsAPortalThatTakesNoTokensInPaths) {
       return portal->calls.size() > before;
     }));
   }
-  EXPECT_TRUE(gotCast());
+  ASSERT_TRUE(gotCast());
+
+  bool isClosed = false;
+  cast->closed = [&](Ending) { isClosed = true; };
+  portal->session = session;
+  portal->closeSession();
+  EXPECT_TRUE(waitUntil([&] { return isClosed; }));
 }
 
 TEST_F(ScreenCastPortalTest, LetsTheUserTakeAnyTime) {
