@@ -21,5 +21,5 @@ mkdir -p -- "$pictures"
 if [[ ${1:-} == --figures ]]; then
   exec "$in_session" --monitor 1280x1024 /usr/bin/python3 "$root/tests/wayland/figures.py" "$program"
 fi
-exec "$in_session" --monitor 1280x1024 --monitor 1024x768 \
+exec "$in_session" --monitor 1024x640 --monitor 800x480 \
   /usr/bin/python3 "$root/tests/wayland/checks.py" "$program" "$pictures"

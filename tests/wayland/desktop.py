@@ -70,7 +70,7 @@ class Service:
 
     def call(self, method, signature="()", *arguments, path=None, interface=""):
         place = (self.name, path or self.root, self.name + interface, method)
-        return self.bus.call_sync(*place, GLib.Variant(signature, arguments), None, 0, 10000, None).unpack()
+        return self.bus.call_sync(*place, GLib.Variant(signature, arguments), None, 0, 30000, None).unpack()
 
 
 class Recording:
@@ -94,7 +94,7 @@ class Recording:
         self.service.call("Start", path=self.session, interface=".Session")
 
     def play(self):
-        """Starts a pipeline, which the caller must stop, and gives it with the sink that next() takes."""
+        """Starts a pipeline, which the caller must stop(), and gives it with the sink that next() takes."""
         wait(lambda: self.node, "a stream of pictures")
         pipeline = Gst.parse_launch(
             f"pipewiresrc path={self.node} always-copy=true ! videoconvert ! video/x-raw,format=RGB "
@@ -113,13 +113,17 @@ class Recording:
         data = buffer.extract_dup(0, buffer.get_size())
         return Picture(width, height, b"".join(data[y * stride :][: width * 3] for y in range(height)))
 
+    @staticmethod
+    def stop(pipeline):
+        pipeline.set_state(Gst.State.NULL)
+
     def look(self):
         """Takes one picture, as it is now."""
         pipeline, sink = self.play()
         try:
             return self.next(sink) or self.next(sink)
         finally:
-            pipeline.set_state(Gst.State.NULL)
+            self.stop(pipeline)
 
 
 class Desktop:

@@ -6,12 +6,12 @@ import sys
 import time
 
 from assistive import allow, await_dialog
-from checks import Checks
 from colours import colour_at
 from desktop import Recording
-from program import PREVIEW, title_of
+from program import PREVIEW
+from user import User
 
-ROUNDS = int(os.environ.get("R", "50"))
+ROUNDS = 50
 CENTRE = (206, 98)  # in the preview, inside the marker
 
 
@@ -19,129 +19,82 @@ def row(what, figure):
     print(f"| {what} | {figure} |", flush=True)
 
 
-def percentiles(times):
-    ordered = sorted(times)
-    return f"{statistics.median(ordered):.0f} ms, {ordered[int(len(ordered) * 0.95)]:.0f} ms"
-
-
-class Figures(Checks):
-    """Runs on the checks' own means. `tap` is a stream of the preview's pixels, as they come on screen."""
-
-    def __init__(self, path):
-        super().__init__(path, None)
+class Figures(User):
+    def start_recording(self):
+        """Records the preview's pixels, as they come on screen."""
         place = (self.program.left + PREVIEW[0], self.program.top + PREVIEW[1])
-        self.tap = Recording(*place, *PREVIEW[2:])
-        self.tap.start()
-        self.pipeline, self.sink = self.tap.play()
-        self.tap.next(self.sink)
+        self.recording = Recording(*place, *PREVIEW[2:])
+        self.recording.start()
+        self.pipeline, self.sink = self.recording.play()
+        self.recording.next(self.sink)
 
     def await_centre(self, colour):
-        """Gives the time of the first picture whose preview has this colour in the centre, or None within two seconds."""
-        end = time.monotonic() + 2
-        while time.monotonic() < end:
-            picture = self.tap.next(self.sink, 0.1)
+        """Gives the time of the first picture whose preview has this colour in the centre, or None in two seconds."""
+        end = time.time() + 2
+        while time.time() < end:
+            picture = self.recording.next(self.sink, 0.1)
             if picture and picture.pixel(*CENTRE) == colour:
-                return time.monotonic()
+                return time.time()
         return None
 
     def start_following(self):
-        """Measures from the portal's answer, and what a stream takes."""
         before = self.program.memory()
-        place = (600, 900)
+        place = self.place_outside()
         self.desktop.move(*place)
-        self.program.desktop.press("ctrl", "f")
+        self.desktop.press("ctrl", "f")
         dialog = await_dialog()
-        answer = ("dbus-monitor", "--session", "--profile", "type='signal',interface='org.freedesktop.portal.Request'")
-        with subprocess.Popen(answer, stdout=subprocess.PIPE, text=True) as monitor:
+        self.start_recording()
+        filters = "type='signal',interface='org.freedesktop.portal.Request',member='Response'"
+        with subprocess.Popen(["dbus-monitor", "--profile", filters], stdout=subprocess.PIPE, text=True) as monitor:
             time.sleep(0.5)
             allow(dialog)
-            shown = self.await_centre(colour_at(*place)) + time.time() - time.monotonic()
+            shown = self.await_centre(colour_at(*place))
             monitor.terminate()
-            answered = [float(line.split()[1]) for line in monitor.stdout if "\\tResponse" in line or "Response" in line]
+            answered = [float(line.split()[1]) for line in monitor.stdout if line.startswith("sig") and "Response" in line]
         row("from the portal's answer to the first preview on screen", f"{(shown - answered[-1]) * 1000:.0f} ms")
         time.sleep(1)
         row("memory with a stream against none", f"{self.program.memory() - before:.0f} MiB more")
 
-    def latency(self):
+    def time_moves(self):
         times = []
         for _ in range(ROUNDS):
             place = self.place_outside()
-            start = time.monotonic()
+            start = time.time()
             self.desktop.move(*place)
-            shown = self.await_centre(colour_at(*place))
-            if shown:
-                times.append((shown - start) * 1000)
+            times.append((self.await_centre(colour_at(*place)) - start) * 1000)
             time.sleep(0.1)
-        row(f"from a move to the preview on screen, {len(times)} of {ROUNDS}: median, p95", percentiles(times))
+        figure = f"{statistics.median(times):.0f} ms, {statistics.quantiles(times, n=20)[-1]:.0f} ms"
+        row("from a move to the preview on screen, the compositor's share included: median, p95", figure)
 
-    def cpu(self):
-        self.move(600, 900)
-        time.sleep(1)
+    def count_previews(self):
+        previews, last, end = 0, None, time.time() + 3
+        while time.time() < end:
+            self.desktop.move(*self.place_outside())
+            picture = self.recording.next(self.sink, 0.01)
+            if picture and picture.data != last:
+                previews, last = previews + 1, picture.data
+        row("previews a second, pointer moving at 100 Hz", f"{previews / 3:.0f}")
+        self.recording.stop(self.pipeline)
+
+    def spend(self):
+        time.sleep(2)
         row("CPU, following, all still", f"{self.program.cpu(5) / 10:.2f} % of a core")
-        moves = self.program.cpu(5, lambda: self.desktop.move(*self.place_outside()))
-        row("CPU, following, pointer moving at 100 Hz", f"{moves / 10:.1f} % of a core")
+        spent = self.program.cpu(5, lambda: self.desktop.move(*self.place_outside()))
+        row("CPU, following, pointer moving at 100 Hz", f"{spent / 10:.1f} % of a core")
         self.follow(False)
-        time.sleep(1)
+        time.sleep(2)
         row("CPU, not following", f"{self.program.cpu(5):.2f} ms a second")
 
-    def rate(self):
-        previews, last, end = 0, None, time.monotonic() + 3
-        while time.monotonic() < end:
-            self.desktop.move(*self.place_outside())
-            picture = self.tap.next(self.sink, 0.01)
-            previews += bool(picture and picture.data != last)
-            last = picture.data if picture else last
-        row("previews a second, pointer moving at 100 Hz", f"{previews / 3:.0f}")
-
-    def count(self, what, take):
-        right = 0
-        for _ in range(ROUNDS):
-            colour = take()
-            end = time.monotonic() + 0.5
-            while time.monotonic() < end and self.program.title() != title_of(colour):
-                time.sleep(0.01)
-            right += self.program.title() == title_of(colour)
-            time.sleep(0.1)
-        row(f"colour right, {what} right after a move", f"{right} of {ROUNDS}")
-
-    def poke(self):
-        place = self.place_outside()
-        self.desktop.move(*place)
-        self.desktop.press("ctrl", "alt", "p")
-        return colour_at(*place)
-
-    def drag(self):
-        self.move(*self.program.preview_place(20, 20))
-        self.desktop.button(True)
-        self.desktop.move(*self.place_outside())
-        time.sleep(0.1)
-        place = self.place_outside()
-        self.desktop.move(*place)
-        self.desktop.button(False)
-        return colour_at(*place)
-
-    def click(self):
-        place, colour = self.cell_of(self.preview)
-        self.desktop.move(*place)
-        self.desktop.click()
-        return colour
-
-    def measure(self):
-        self.start_following()
-        self.latency()
-        self.rate()
-        self.cpu()
-        self.pipeline.set_state(1)  # Gst.State.NULL: the rest is counted, not timed
-        self.follow(True)
-        self.count("Poke", self.poke)
-        self.desktop.move(600, 900)
-        self.await_preview(600, 900)
+    def count_colours(self):
+        self.show_in_preview()
         self.follow(False)
-        self.preview = self.program.preview()
-        self.count("click in the preview", self.click)
-        self.count("drag released", self.drag)
+        for name, take in (("click", self.take_by_click), ("release", self.take_by_drag), ("Poke", self.take_by_poke)):
+            right, _ = self.take_often(take, ROUNDS)
+            row(f"colour taken by {name} right after a move", f"{right} of {ROUNDS} right")
 
 
-if __name__ == "__main__":
-    Figures(sys.argv[1]).measure()
-    os._exit(0)
+figures = Figures(sys.argv[1])
+for measure in (figures.start_following, figures.time_moves, figures.count_previews, figures.spend,
+                figures.count_colours):
+    measure()
+os._exit(0)  # The library of the assistive technologies may take its time to leave the bus.

@@ -84,21 +84,16 @@ class Program:
         self.window.clear_cache()
         return self.window.get_name()
 
-    def label(self):
-        part = called(self.window, "label", "Color: ")
-        part.clear_cache()
-        return part.get_name()
-
     def shows(self, text):
-        """Whether a label shows the text."""
+        """Whether a label comes to show the text."""
         try:
-            return bool(wait(lambda: called(self.window, "label", text), text, 1))
+            return bool(wait(lambda: called(self.window, "label", text), text, 2))
         except TimeoutError:
             return False
 
-    def follows(self):
-        """Whether the command Follow mouse has its mark."""
-        return has_state(called(self.window, "menu item", "Follow mouse"), Atspi.StateType.CHECKED)
+    def is_marked(self, command):
+        """Whether the menu's command has its mark."""
+        return has_state(called(self.window, "menu item", command), Atspi.StateType.CHECKED)
 
     def preview(self):
         left, top, width, height = PREVIEW
@@ -126,7 +121,3 @@ class Program:
         """Its resident memory in MiB."""
         status = open(f"/proc/{self.process.pid}/status").read()
         return int(status.split("VmRSS:")[1].split()[0]) / 1024
-
-    def stop(self):
-        self.process.terminate()
-        self.process.wait(10)

@@ -27,6 +27,7 @@ start() {
   local name=$1
   shift
   "${child[@]}" "$@" &>"$SESSION_LOGS/$name.log" </dev/null &
+  disown
 }
 
 # await WHAT COMMAND ...: waits until the command succeeds.
