@@ -38,9 +38,11 @@ struct StreamLinker::Node {
     pw_proxy_destroy(link);
   }
 
+  // The properties come with the first description only, and the port may come with a later one.
   void note(const pw_node_info& info) {
-    const char* const target = info.props ? spa_dict_lookup(info.props, "node.target") : nullptr;
-    if (link || info.n_input_ports == 0 || !target || std::to_string(linker.producer_) != target) return;
+    const char* const found = info.props ? spa_dict_lookup(info.props, "node.target") : nullptr;
+    if (found) target = found;
+    if (link || info.n_input_ports == 0 || target != std::to_string(linker.producer_)) return;
     link = linker.link(info.id);
     pw_proxy_add_object_listener(link, &linkHook, &linkEvents, this);
   }
@@ -49,6 +51,7 @@ struct StreamLinker::Node {
   pw_proxy* proxy;
   pw_node_events events{};
   spa_hook hook{};
+  std::string target;
   pw_proxy* link = nullptr;
   pw_link_events linkEvents{};
   spa_hook linkHook{};
