@@ -48,6 +48,7 @@ void ScreenStreams::setActive(bool active) {
     if (active == std::exchange(active_, active)) return;
     for (StreamStatus& status : statuses_) {
       status.pausedUnasked = false;
+      status.streaming = false;  // the pause that was asked for may arrive when the stream is active again
       if (active) status.fresh = false;
     }
     paused_ = false;
@@ -61,6 +62,7 @@ void ScreenStreams::setActive(bool active) {
 void ScreenStreams::arrived(std::size_t stream, const StreamArrival& arrival) {
   {
     const std::lock_guard lock(mutex_);
+    statuses_[stream].streaming = true;
     if (arrival.frame && model_.putFrame(stream, *arrival.frame)) statuses_[stream].fresh = true;
     pointerCount_ += arrival.pointerCount;
     const auto before = model_.pointer();
