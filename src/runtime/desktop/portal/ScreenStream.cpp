@@ -83,8 +83,7 @@ bool ScreenStream::connect(std::uint32_t node, std::uint32_t mostFrames) {
   // Where the monitor goes, another node, as a camera, must not take its place.
   constexpr auto kFlags = static_cast<pw_stream_flags>(PW_STREAM_FLAG_AUTOCONNECT | PW_STREAM_FLAG_MAP_BUFFERS |
                                                        PW_STREAM_FLAG_DONT_RECONNECT);
-  return pw_stream_connect(stream_, PW_DIRECTION_INPUT, node, kFlags, offer.data(),
-                           offer.count()) == 0;
+  return pw_stream_connect(stream_, PW_DIRECTION_INPUT, node, kFlags, offer.data(), offer.count()) == 0;
 }
 
 ScreenStream::~ScreenStream() {

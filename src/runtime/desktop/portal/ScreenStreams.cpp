@@ -165,12 +165,13 @@ bool ScreenStreams::waitForFrames(std::chrono::milliseconds longest) const {
   return !lost_ && areFresh();
 }
 
-void ScreenStreams::waitForRest(std::chrono::milliseconds quiet, std::chrono::milliseconds longest) const {
+void ScreenStreams::waitForPointer(std::chrono::milliseconds quiet, std::chrono::milliseconds longest) const {
   const auto start = Clock::now();
   std::unique_lock lock(mutex_);
   for (;;) {
-    const auto until = std::min(std::max(start, lastPointerMove_) + quiet, start + longest);
-    if (Clock::now() >= until) return;
+    const bool hasMoved = lastPointerMove_ > start;
+    const auto until = hasMoved ? std::min(lastPointerMove_ + quiet, start + longest) : start + longest;
+    if (lost_ || Clock::now() >= until) return;
     arrival_.wait_until(lock, until);
   }
 }

@@ -58,8 +58,8 @@ class ScreenStreams {
   // streams are lost.
   bool waitForFrames(std::chrono::milliseconds longest) const;
 
-  // Blocks until the pointer has stayed in its place for `quiet`, counted from the call on; for `longest` at most.
-  void waitForRest(std::chrono::milliseconds quiet, std::chrono::milliseconds longest) const;
+  // Blocks for `longest`; less where the pointer comes to another place meanwhile and then stays there for `quiet`.
+  void waitForPointer(std::chrono::milliseconds quiet, std::chrono::milliseconds longest) const;
 
  private:
   struct StreamStatus {
