@@ -61,7 +61,10 @@ std::uint32_t underPointer(ScreenModel& model) {
 
 void putFrame(ScreenModel& model, Words& words) {
   const auto stream = static_cast<std::size_t>(words.next() & 3);
-  ScreenFrame frame{.width = words.next(), .height = words.next(), .stride = words.next()};
+  ScreenFrame frame;
+  frame.width = words.next();
+  frame.height = words.next();
+  frame.stride = words.next();
   frame.order = (words.next() & 1) != 0 ? ChannelOrder::rgb : ChannelOrder::bgr;
   frame.bytes = words.take(static_cast<std::size_t>(words.next() & 0xFFF));
   const std::uint32_t before = underPointer(model);

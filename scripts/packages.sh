@@ -11,7 +11,13 @@ packages_for() {
     display) echo imagemagick openbox x11-utils x11-xserver-utils xvfb ;;
     test)
       echo at-spi2-core dbus-daemon dbus-session-bus-common gir1.2-atspi-2.0 gir1.2-gtk-3.0 libgmock-dev libgtest-dev \
-        libxcb-res0-dev libxcb-xtest0-dev openbox python3-gi ruby ruby-color x11-xserver-utils xclip xvfb
+        libpipewire-0.3-modules libxcb-res0-dev libxcb-xtest0-dev openbox pipewire-bin python3-gi ruby ruby-color \
+        x11-xserver-utils xclip xvfb
+      ;;
+    compositor)
+      echo at-spi2-core dbus-bin dbus-daemon dbus-session-bus-common gir1.2-atspi-2.0 gir1.2-gstreamer-1.0 \
+        gir1.2-gtk-3.0 gstreamer1.0-pipewire gstreamer1.0-plugins-base libglib2.0-bin libgl1-mesa-dri mutter \
+        pipewire-bin python3-gi qt6-wayland wireplumber xdg-desktop-portal xdg-desktop-portal-gnome
       ;;
     bench) echo libbenchmark-dev ;;
     guide) echo xdotool ;;

@@ -45,7 +45,7 @@ PipeWireDaemon::PipeWireDaemon() : process_({"pipewire", "-c", writeConfiguratio
 }
 
 std::filesystem::path PipeWireDaemon::writeConfiguration() const {
-  const std::filesystem::path path = home_.path() / "pipewire.conf";
+  std::filesystem::path path = home_.path() / "pipewire.conf";
   std::ofstream(path) << kConfiguration;
   return path;
 }

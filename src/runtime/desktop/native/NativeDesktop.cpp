@@ -18,6 +18,7 @@
 #include "runtime/desktop/native/Dialogs.h"
 #include "runtime/desktop/native/NoScreenReader.h"
 #include "runtime/desktop/native/WaylandModule.h"
+#include "runtime/desktop/wayland/WaylandOffers.h"
 #include "runtime/desktop/x11/X11Offers.h"
 #include "runtime/desktop/x11/X11ScreenReader.h"
 
@@ -53,6 +54,14 @@ bool isWaylandSession() {
   return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || QGuiApplication::platformName().startsWith("wayland");
 }
 
+// Qt on Wayland reads other programs by Wayland's own means, and through an X server by those of X.
+std::unique_ptr<OfferSource> makeOfferSource() {
+  const QString platform = QGuiApplication::platformName();
+  if (platform == "xcb") return std::make_unique<X11Offers>();
+  if (platform.startsWith("wayland")) return makeWaylandOffers();
+  return nullptr;
+}
+
 class NativeAlarm final : public Alarm {
  public:
   explicit NativeAlarm(std::function<void()> ring) {
@@ -74,9 +83,7 @@ class NativeAlarm final : public Alarm {
 
 class NativeDesktop final : public Desktop {
  public:
-  NativeDesktop() : reader_(makeScreenReader()) {
-    if (QGuiApplication::platformName() == "xcb") offers_ = std::make_unique<X11Offers>();
-  }
+  NativeDesktop() : reader_(makeScreenReader()), offers_(makeOfferSource()) {}
 
   ScreenReader& screenReader() override { return *reader_; }
 
@@ -105,7 +112,7 @@ class NativeDesktop final : public Desktop {
   void tellSoon(const std::string& text);
 
   std::unique_ptr<ScreenReader> reader_;
-  std::unique_ptr<X11Offers> offers_;
+  std::unique_ptr<OfferSource> offers_;
   Dialogs dialogs_;
   QObject context_;  // takes back what is not told yet when the desktop goes
 };

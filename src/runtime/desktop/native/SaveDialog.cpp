@@ -53,7 +53,7 @@ void SaveDialog::accept() {
   }
   if (file.exists() && !mayReplace(file.fileName())) return;
   chosenPath_ = path;
-  QDialog::accept();
+  done(Accepted);
 }
 
 bool SaveDialog::folderIsSelected() const {

@@ -23,7 +23,11 @@ std::optional<ScreenPoint> PointerMerge::place(const std::optional<Stream>& stre
 
 // Each rest is used, so that a place that was learnt wrong, or has changed unseen, is corrected.
 void PointerMerge::learn(const std::optional<Stream>& stream, TimePoint now) {
-  if (!local_ || !stream || now - local_->when < kRest || now - stream->since < kRest) return;
+  if (!local_ || !stream) return;
+  // A movement in a window has its event before the stream knows of it: without one the pointer is elsewhere.
+  if (stream->since - local_->when > kLatest) return forget();
+  // A stream that has not changed since the event does not know its place yet.
+  if (stream->since < local_->when || now - stream->since < kRest) return;
   window_ = {stream->place.x - local_->at.x, stream->place.y - local_->at.y};
 }
 

@@ -18,14 +18,15 @@ class PointerMerge {
  public:
   using TimePoint = std::chrono::steady_clock::time_point;
 
-  // What the stream knows, and since when the place has not changed.
+  // What the stream knows, and since when it has known that place.
   struct Stream {
     ScreenPoint place;
     TimePoint since;
   };
 
-  // How long both sources must rest until they count as agreeing: well above the stream's delay.
+  // How long the stream must rest after an event until the two count as agreeing, and how late it may be at the most.
   static constexpr std::chrono::milliseconds kRest{100};
+  static constexpr std::chrono::milliseconds kLatest{250};
 
   // An event of the pointer in a window, at `local` in screen pixels from its top left corner. The place may lie
   // outside of the window while a button is held. `stream` is what the stream knew when the event came, if anything.

@@ -29,8 +29,10 @@ using Clock = std::chrono::steady_clock;
 constexpr auto kFramesAgain = 2s;
 // The stream goes on for so long after a read, since the next read often follows at once.
 constexpr auto kLinger = 1s;
-// How long the stream may be behind the pointer.
-constexpr auto kPointerDelay = 50ms;
+// How long the stream may be behind the pointer. Where it is not up to date yet, it comes to another place within this
+// time: 20 ms are usual, 75 ms were seen on a desktop that draws in software. After that it must rest for some frames.
+constexpr auto kPointerDelay = 100ms;
+constexpr auto kPointerRest = 40ms;
 
 class PortalScreenReader final : public QObject, public ScreenReader {
  public:
@@ -188,7 +190,7 @@ ScreenPoint PortalScreenReader::pointer() {
   const bool mayBeLate = std::exchange(mayBeLate_, false);
   if (const auto place = merge_.place(streamPointer(), Clock::now())) return *place;
   ScreenStreams& frames = *session_.frames();
-  if (mayBeLate) frames.waitForRest(kPointerDelay, kPointerDelay);
+  if (mayBeLate) frames.waitForPointer(kPointerRest, kPointerDelay);
   return frames.pointer().value_or(ScreenPoint());
 }
 

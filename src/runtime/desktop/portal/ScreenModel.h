@@ -32,8 +32,8 @@ struct ScreenFrame {
 // their order; a single stream without a position is at 0, 0.
 class ScreenModel {
  public:
-  static constexpr std::int64_t kLongestSide = 16384;
-  static constexpr std::int64_t kMostPixels = 64 * 1024 * 1024;
+  static constexpr std::int32_t kLongestSide = 16384;
+  static constexpr std::int64_t kMostPixels = std::int64_t{64} * 1024 * 1024;
 
   explicit ScreenModel(const std::vector<CastStream>& streams);
 

@@ -22,7 +22,7 @@ const Meta* metaOf(const spa_buffer& buffer, std::uint32_t type) {
 bool hasPixels(const spa_buffer& buffer) {
   if (buffer.n_datas == 0 || !buffer.datas[0].data || !buffer.datas[0].chunk) return false;
   const spa_chunk& chunk = *buffer.datas[0].chunk;
-  if (chunk.size == 0 || (chunk.flags & SPA_CHUNK_FLAG_CORRUPTED) != 0) return false;
+  if (chunk.size == 0 || (static_cast<std::uint32_t>(chunk.flags) & SPA_CHUNK_FLAG_CORRUPTED) != 0) return false;
   const auto* const header = metaOf<spa_meta_header>(buffer, SPA_META_Header);
   return !header || (header->flags & SPA_META_HEADER_FLAG_CORRUPTED) == 0;
 }
@@ -83,8 +83,7 @@ bool ScreenStream::connect(std::uint32_t node, std::uint32_t mostFrames) {
   // Where the monitor goes, another node, as a camera, must not take its place.
   constexpr auto kFlags = static_cast<pw_stream_flags>(PW_STREAM_FLAG_AUTOCONNECT | PW_STREAM_FLAG_MAP_BUFFERS |
                                                        PW_STREAM_FLAG_DONT_RECONNECT);
-  return pw_stream_connect(stream_, PW_DIRECTION_INPUT, node, kFlags, offer.data(),
-                           offer.count()) == 0;
+  return pw_stream_connect(stream_, PW_DIRECTION_INPUT, node, kFlags, offer.data(), offer.count()) == 0;
 }
 
 ScreenStream::~ScreenStream() {

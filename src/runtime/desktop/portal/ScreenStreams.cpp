@@ -59,18 +59,13 @@ void ScreenStreams::setActive(bool active) {
 }
 
 void ScreenStreams::arrived(std::size_t stream, const StreamArrival& arrival) {
-  const auto now = Clock::now();
   {
     const std::lock_guard lock(mutex_);
-    if (arrival.frame && model_.putFrame(stream, *arrival.frame)) {
-      statuses_[stream].fresh = true;
-      lastFrameTime_ = now;
-    }
-    if (arrival.pointerCount > 0) lastPointerTime_ = now;
+    if (arrival.frame && model_.putFrame(stream, *arrival.frame)) statuses_[stream].fresh = true;
     pointerCount_ += arrival.pointerCount;
     const auto before = model_.pointer();
-    if (arrival.pointer && model_.putPointer(stream, *arrival.pointer)) hasCursorProof_ = true;
-    if (model_.pointer() != before) lastPointerMove_ = now;
+    if (arrival.pointer) model_.putPointer(stream, *arrival.pointer);
+    if (model_.pointer() != before) lastPointerMove_ = Clock::now();
     news_.changed = true;
   }
   arrival_.notify_all();
@@ -148,29 +143,14 @@ bool ScreenStreams::hasFrames() const {
   return model_.hasFrames();
 }
 
-bool ScreenStreams::hasCursorProof() const {
-  const std::lock_guard lock(mutex_);
-  return hasCursorProof_;
-}
-
 std::uint64_t ScreenStreams::pointerCount() const {
   const std::lock_guard lock(mutex_);
   return pointerCount_;
 }
 
-ScreenStreams::Clock::time_point ScreenStreams::lastPointerTime() const {
-  const std::lock_guard lock(mutex_);
-  return lastPointerTime_;
-}
-
 ScreenStreams::Clock::time_point ScreenStreams::lastPointerMove() const {
   const std::lock_guard lock(mutex_);
   return lastPointerMove_;
-}
-
-ScreenStreams::Clock::time_point ScreenStreams::lastFrameTime() const {
-  const std::lock_guard lock(mutex_);
-  return lastFrameTime_;
 }
 
 bool ScreenStreams::areFresh() const {
@@ -183,12 +163,13 @@ bool ScreenStreams::waitForFrames(std::chrono::milliseconds longest) const {
   return !lost_ && areFresh();
 }
 
-void ScreenStreams::waitForRest(std::chrono::milliseconds quiet, std::chrono::milliseconds longest) const {
+void ScreenStreams::waitForPointer(std::chrono::milliseconds quiet, std::chrono::milliseconds longest) const {
   const auto start = Clock::now();
   std::unique_lock lock(mutex_);
   for (;;) {
-    const auto until = std::min(std::max(start, lastPointerMove_) + quiet, start + longest);
-    if (Clock::now() >= until) return;
+    const bool hasMoved = lastPointerMove_ > start;
+    const auto until = hasMoved ? std::min(lastPointerMove_ + quiet, start + longest) : start + longest;
+    if (lost_ || Clock::now() >= until) return;
     arrival_.wait_until(lock, until);
   }
 }

@@ -48,23 +48,18 @@ class ScreenStreams {
   double pointerScale() const;
   bool hasFrames() const;
 
-  // Whether a stream has said where the pointer is. Some desktops promise to, and never do.
-  bool hasCursorProof() const;
-
-  // How many times a stream has said where the pointer is, or that it doesn't have it, and when the last time was; and
-  // when the last full frame came. The epoch of the clock where there was none.
+  // How many times a stream has said where the pointer is, or that it is elsewhere.
   std::uint64_t pointerCount() const;
-  Clock::time_point lastPointerTime() const;
-  // When the pointer last came to another place.
+
+  // When the pointer last came to another place. The epoch of the clock where it never did.
   Clock::time_point lastPointerMove() const;
-  Clock::time_point lastFrameTime() const;
 
   // Blocks until each stream has had a full frame since it was last made active. False where the time is over, or the
   // streams are lost.
   bool waitForFrames(std::chrono::milliseconds longest) const;
 
-  // Blocks until the pointer has stayed in its place for `quiet`, counted from the call on; for `longest` at most.
-  void waitForRest(std::chrono::milliseconds quiet, std::chrono::milliseconds longest) const;
+  // Blocks for `longest`; less where the pointer comes to another place meanwhile and then stays there for `quiet`.
+  void waitForPointer(std::chrono::milliseconds quiet, std::chrono::milliseconds longest) const;
 
  private:
   struct StreamStatus {
@@ -100,11 +95,8 @@ class ScreenStreams {
   bool active_ = true;
   bool paused_ = false;
   bool lost_ = false;
-  bool hasCursorProof_ = false;
   std::uint64_t pointerCount_ = 0;
-  Clock::time_point lastPointerTime_;
   Clock::time_point lastPointerMove_;
-  Clock::time_point lastFrameTime_;
   News news_;
 
   Events events_;

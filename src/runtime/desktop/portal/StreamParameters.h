@@ -13,9 +13,7 @@ namespace tavrelkin {
 // for those of one operation.
 class StreamParameters {
  public:
-  StreamParameters() {
-    spa_pod_builder_init(&builder_, memory_.data(), static_cast<std::uint32_t>(memory_.size()));
-  }
+  StreamParameters() { spa_pod_builder_init(&builder_, memory_.data(), static_cast<std::uint32_t>(memory_.size())); }
   StreamParameters(const StreamParameters&) = delete;
   StreamParameters& operator=(const StreamParameters&) = delete;
 

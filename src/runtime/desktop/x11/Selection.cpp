@@ -1,29 +1,21 @@
 #include "runtime/desktop/x11/Selection.h"
 
-#include <cerrno>
 #include <chrono>
 #include <string>
 #include <utility>
 
-#include <QString>
-
-#include <poll.h>
-
+#include "runtime/desktop/BoundedInput.h"
 #include "runtime/desktop/x11/Xcb.h"
 
 namespace tavrelkin {
 
 namespace {
 
-constexpr std::chrono::seconds kPatience(2);
-constexpr std::size_t kMostBytes = 1 << 20;
-
 class Selection final : public Offer {
  public:
   Selection(XcbConnection connection, std::string_view name, xcb_timestamp_t time);
 
   std::optional<std::string> bytes(const std::string& type) override;
-  std::optional<std::string> text() override;
 
  private:
   using Clock = std::chrono::steady_clock;
@@ -71,15 +63,6 @@ std::optional<std::string> Selection::bytes(const std::string& type) {
   return result;
 }
 
-// In the order of how well each names its encoding.
-std::optional<std::string> Selection::text() {
-  for (const char* type : {"UTF8_STRING", "text/plain;charset=utf-8"})
-    if (const auto utf8 = bytes(type)) return QString::fromUtf8(QByteArray::fromStdString(*utf8)).toStdString();
-  if (const auto latin1 = bytes("STRING")) return QString::fromLatin1(QByteArray::fromStdString(*latin1)).toStdString();
-  if (const auto local = bytes("text/plain")) return QString::fromUtf8(QByteArray::fromStdString(*local)).toStdString();
-  return std::nullopt;
-}
-
 template <class IsWanted>
 XcbPtr<xcb_generic_event_t> Selection::waitFor(IsWanted isWanted) {
   xcb_flush(connection_.get());
@@ -93,10 +76,7 @@ XcbPtr<xcb_generic_event_t> Selection::waitFor(IsWanted isWanted) {
 
 // False at the end of the patience and of the connection.
 bool Selection::waitForData() {
-  const auto left = std::chrono::ceil<std::chrono::milliseconds>(end_ - Clock::now()).count();
-  if (left <= 0 || xcb_connection_has_error(connection_.get())) return false;
-  pollfd socket{xcb_get_file_descriptor(connection_.get()), POLLIN, 0};
-  return poll(&socket, 1, static_cast<int>(left)) >= 0 || errno == EINTR;
+  return !xcb_connection_has_error(connection_.get()) && waitForInput(xcb_get_file_descriptor(connection_.get()), end_);
 }
 
 bool Selection::isConverted(xcb_atom_t target) {

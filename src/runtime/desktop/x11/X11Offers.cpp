@@ -22,11 +22,11 @@ X11Offers::~X11Offers() {
   qApp->removeNativeEventFilter(this);
 }
 
-std::unique_ptr<Offer> X11Offers::clipboard() const {
+std::unique_ptr<Offer> X11Offers::clipboard() {
   return openSelection("CLIPBOARD", XCB_CURRENT_TIME);
 }
 
-std::unique_ptr<Offer> X11Offers::drop() const {
+std::unique_ptr<Offer> X11Offers::drop() {
   return openSelection("XdndSelection", dropTime_);
 }
 

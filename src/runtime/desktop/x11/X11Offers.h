@@ -13,18 +13,13 @@ namespace tavrelkin {
 // for each form of the data that isn't sent, and takes in all that is. These keep to the bounds of an Offer.
 //
 // Made while the toolkit runs on X11; needed from before the first drop on.
-class X11Offers final : public QAbstractNativeEventFilter {
+class X11Offers final : public QAbstractNativeEventFilter, public OfferSource {
  public:
   X11Offers();
-  X11Offers(const X11Offers&) = delete;
-  X11Offers& operator=(const X11Offers&) = delete;
   ~X11Offers() override;
 
-  // Null where the display can't be reached. Whoever owns the clipboard must not be this program, which can't answer
-  // while it reads.
-  std::unique_ptr<Offer> clipboard() const;
-  // The drag that is being dropped, of another program; of use within the handler of the drop.
-  std::unique_ptr<Offer> drop() const;
+  std::unique_ptr<Offer> clipboard() override;
+  std::unique_ptr<Offer> drop() override;
 
   // Notes the time of a drop, by which its source knows which of its drags is asked for. Keeps a forged drag from the
   // toolkit that claims to come from one of its own windows: it would watch that window as another program's, and no

@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# tests/wayland.sh [--figures]: tries the built program against a real compositor and its portal, without a screen, and
+# says OK or what differs for each case; or measures what only such a session shows, and prints rows of a Markdown table.
+# Installs and builds what that takes. Leaves pictures in build/wayland. Fails if a case fails, or can't be tried here.
+set -euo pipefail
+root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
+# shellcheck source=scripts/packages.sh
+source "$root/scripts/packages.sh"
+# shellcheck source=scripts/build.sh
+source "$root/scripts/build.sh"
+program="$root/build/release/tavrelkin"
+pictures="$root/build/wayland"
+in_session="$root/tests/wayland/session.sh"
+
+require_packages build run wayland compositor
+is_configured release || configure release -DTAVRELKIN_TESTS=OFF
+cmake --build "$root/build/release" --target tavrelkin
+mkdir -p -- "$pictures"
+
+# Debian's own interpreter has the bindings.
+if [[ ${1:-} == --figures ]]; then
+  exec "$in_session" --monitor 1280x1024 /usr/bin/python3 "$root/tests/wayland/figures.py" "$program"
+fi
+exec "$in_session" --monitor 1024x640 --monitor 800x480 \
+  /usr/bin/python3 "$root/tests/wayland/checks.py" "$program" "$pictures"

@@ -1,0 +1,89 @@
+"""Another program, with a box for each thing that it offers: a click puts it on the clipboard, a drag takes it along.
+
+It says "copied" after a click, "dragged" when a drag begins, "accepted" when a target wants what is dragged, "asked"
+when the data of a clipboard or a drag are asked for, and "over" when a drag has ended, whatever became of it.
+"""
+import gi
+
+gi.require_version("Gdk", "4.0")
+gi.require_version("Gtk", "4.0")
+from gi.repository import Gdk, Gio, GLib, Gtk  # noqa: E402
+
+COLOUR = "application/x-color"
+TEXT = "text/plain;charset=utf-8"
+BOXES = {"whole": b"\x01\x02\x03", "silent": b"\x02\x03\x04", "endless": b"\x03\x04\x05", "huge": b"\x04\x05\x06"}
+WHOLE = (0xC0, 0x00, 0xFF)
+OPEN = []  # streams, which are closed when nothing holds them
+
+
+def say(word):
+    print(word, flush=True)
+
+
+def write(stream, data):
+    """Gives whether somebody still reads."""
+    try:
+        return stream.write_all(data, None)[0]
+    except GLib.Error:
+        return False
+
+
+class Offer(Gdk.ContentProvider):
+    def __init__(self, kind):
+        super().__init__()
+        self.kind = kind
+
+    def do_ref_formats(self):
+        return Gdk.ContentFormats.new([TEXT] if self.kind == "whole" else [COLOUR, TEXT])
+
+    # Never calls back: the toolkit closes the stream when it has no holder any more.
+    def do_write_mime_type_async(self, _type, stream, *_):
+        say("asked")
+        if self.kind == "whole":
+            write(stream, b"#%02X%02X%02X" % WHOLE)
+            stream.close(None)
+        elif self.kind == "endless":
+            GLib.timeout_add(300, write, stream, b" ")
+        elif self.kind == "huge":
+            write(stream, b"1,2,3.." + bytes(100_000_000))
+        else:
+            OPEN.append(stream)
+
+
+def box_of(kind):
+    box = Gtk.Box(name=kind, width_request=60, height_request=60)
+
+    def copy(*_):
+        box.get_clipboard().set_content(Offer(kind))
+        box.get_display().sync()  # the compositor refuses it when the keyboard is another window's by then
+        say("copied")
+
+    def begin(_, drag):
+        drag.connect("notify::selected-action", lambda *_: say("accepted") if drag.get_selected_action() else None)
+        say("dragged")
+
+    click = Gtk.GestureClick()
+    click.connect("released", copy)
+    box.add_controller(click)
+    source = Gtk.DragSource(actions=Gdk.DragAction.COPY)
+    source.connect("prepare", lambda *_: Offer(kind))
+    source.connect("drag-begin", begin)
+    source.connect("drag-end", lambda *_: say("over"))
+    box.add_controller(source)
+    return box
+
+
+def show(application):
+    style = Gtk.CssProvider()
+    style.load_from_data("".join(f"#{kind} {{ background: #{rgb.hex()}; }}" for kind, rgb in BOXES.items()).encode())
+    Gtk.StyleContext.add_provider_for_display(Gdk.Display.get_default(), style, Gtk.STYLE_PROVIDER_PRIORITY_USER)
+    row = Gtk.Box()
+    for kind in BOXES:
+        row.append(box_of(kind))
+    Gtk.ApplicationWindow(application=application, title="Offers", child=row).present()
+
+
+if __name__ == "__main__":
+    client = Gtk.Application(flags=Gio.ApplicationFlags.NON_UNIQUE)
+    client.connect("activate", show)
+    client.run()
