@@ -5,6 +5,7 @@
 #include <optional>
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -22,15 +23,17 @@ constexpr auto impatient = std::chrono::milliseconds(100);
 // A test against a played portal on a bus of its own.
 class PortalTest : public RuntimeTest {
  protected:
-  // Delivers events until `done` says so, and wakes with each of them. False after five seconds in vain.
+  // Delivers events until `done` says so, which is asked after each of them and every 20 ms. False after five seconds
+  // in vain.
   static bool waitUntil(const std::function<bool()>& done) {
-    bool isOver = false;
-    QTimer limit;
-    QObject::connect(&limit, &QTimer::timeout, [&] { isOver = true; });
-    limit.start(5000);
-    while (!done() && !isOver)
+    const QDeadlineTimer end(5000);
+    QTimer wake;
+    wake.start(20);
+    while (!done()) {
+      if (end.hasExpired()) return false;
       QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    return done();
+    }
+    return true;
   }
 
   MessageBus bus;

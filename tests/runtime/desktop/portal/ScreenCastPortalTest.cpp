@@ -131,7 +131,7 @@ std::vector<Wrong> wrongs() {
       badReply("Start", 5U),
       badReply("OpenPipeWireRemote", 5U),
       response("no results", "CreateSession", {0U}),
-      response("results are a text", "CreateSession", {0U, QStringLiteral("granted")}),
+      response("results are a text", "SelectSources", {0U, QStringLiteral("granted")}),
       response("no session", "CreateSession", {0U, QVariantMap()}),
       response("session is no path", "CreateSession", {0U, QVariantMap{{handle, QStringLiteral("/a//b c")}}}),
       response("sources refused", "SelectSources", {2U, QVariantMap()}),
