@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <bit>
 #include <cmath>
+#include <cstddef>
 #include <cstring>
 #include <stdexcept>
 
@@ -122,7 +123,7 @@ void X11Client::setModifier(int mod, std::uint8_t keyCode) {
   const auto mapping = await(connection(), xcb_get_modifier_mapping(connection()), xcb_get_modifier_mapping_reply);
   xcb_keycode_t* const keys = xcb_get_modifier_mapping_keycodes(mapping.get());
   std::replace(keys, keys + xcb_get_modifier_mapping_keycodes_length(mapping.get()), keyCode, xcb_keycode_t{0});
-  const int perModifier = mapping->keycodes_per_modifier;
+  const std::ptrdiff_t perModifier = mapping->keycodes_per_modifier;
   xcb_keycode_t* const first = keys + (kBeforeMod1 + mod - 1) * perModifier;
   std::fill_n(first, perModifier, xcb_keycode_t{0});
   *first = keyCode;
