@@ -102,6 +102,8 @@ check() {
   printf '%s\n' "$output"
 }
 
+check_compositor() { tests/wayland.sh; }
+
 require_packages build run test check
 check "build without warnings" check_build
 check "format (clang-format)" check_format
@@ -109,6 +111,7 @@ check "headers compile alone; public ones hide the libraries" check_headers
 check "scripts (shellcheck)" check_scripts
 check "desktop entry, metadata and man page" check_desktop
 check "code (clang-tidy)" check_tidy
+check "on a real Wayland compositor" check_compositor
 check "unit and window tests, for their coverage" check_coverage
 report_coverage
 ((failures == 0))

@@ -1,4 +1,6 @@
 """What an assistive technology sees of the session's windows, and the portal's dialog by its means."""
+import time
+
 import gi
 
 gi.require_version("Atspi", "2.0")
@@ -37,14 +39,20 @@ def has_state(part, state):
     return part.get_state_set().contains(state)
 
 
-def dialogs():
-    return windows(lambda program: program.get_name() == PORTAL)
+def await_dialog(asking):
+    """Waits until the portal asks which monitors to share, over the window that asked for it, and gives its dialog.
+
+    The portal of GNOME 43 may crash where it is looked at while its dialog opens or closes: the window that loses the
+    keyboard tells of that.
+    """
+    wait(lambda: not has_keyboard(asking), "the portal's dialog")
+    time.sleep(0.5)
+    dialogs = windows(lambda program: program.get_name() == PORTAL)
+    return next(dialog for dialog in dialogs if called(dialog, "push button", "Share"))
 
 
-def await_dialog():
-    """Waits until the portal asks which monitors to share, and gives its dialog."""
-    (dialog,) = wait(lambda: [each for each in dialogs() if called(each, "push button", "Share")], "the portal's dialog")
-    return dialog
+def has_keyboard(window):
+    return has_state(window, Atspi.StateType.ACTIVE)
 
 
 def allow(dialog):
@@ -55,9 +63,3 @@ def allow(dialog):
     share = called(dialog, "push button", "Share")
     wait(lambda: has_state(share, Atspi.StateType.SENSITIVE), "a button that shares")
     share.do_action(0)
-
-
-def refuse(desktop):
-    """Presses Escape in the dialog that is up."""
-    desktop.press("escape")
-    wait(lambda: not dialogs(), "the end of the portal's dialog")

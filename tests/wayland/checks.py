@@ -6,7 +6,7 @@ import os
 import sys
 import time
 
-from assistive import allow, await_dialog, dialogs, refuse
+from assistive import allow, await_dialog, has_keyboard
 from desktop import wait
 from user import PATIENCE, Differs, User
 
@@ -32,9 +32,9 @@ class Checks(User):
     def refused(self):
         """refused in the desktop's dialog"""
         self.desktop.press("ctrl", "f")
-        await_dialog()
+        await_dialog(self.program.window)
         self.keep_picture("asked")
-        refuse(self.desktop)
+        self.desktop.press("escape")
         wait(lambda: len(self.program.windows()) == 2, "a message", PATIENCE)
         time.sleep(0.5)
         self.keep_picture("refused")
@@ -46,8 +46,8 @@ class Checks(User):
         """a first Poke only asks; allowed for both monitors"""
         title = self.program.title()
         self.desktop.press("ctrl", "alt", "p")
-        allow(await_dialog())
-        wait(lambda: not dialogs(), "the end of the dialog")
+        allow(await_dialog(self.program.window))
+        self.program.await_keyboard()
         time.sleep(0.5)
         self.expect(self.program.title() == title, "it took a colour")
 
@@ -62,7 +62,7 @@ class Checks(User):
                 self.await_preview(*place)
                 self.expect(self.program.shows("{%d, %d}" % place), f"no label says {place}")
         self.keep_picture("two-monitors")
-        self.expect(not dialogs(), "the desktop asks a second time")
+        self.expect(has_keyboard(self.program.window), "the desktop asks a second time")
 
     def follow_bursts(self):
         """follow to where a burst of moves ends"""
@@ -117,8 +117,8 @@ class Checks(User):
         self.follow(True)
         self.colours.obey("cover")
         wait(lambda: not self.program.find(), "a window that covers the program's")
-        time.sleep(3)
-        spent = self.program.cpu(1, lambda: self.desktop.move(*self.place_outside()))
+        # The program learns of it within some seconds.
+        spent = min(self.program.cpu(1, lambda: self.desktop.move(*self.place_outside())) for _ in range(5))
         place = self.place_outside()
         self.desktop.move(*place)
         self.colours.obey("uncover")

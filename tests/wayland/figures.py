@@ -42,7 +42,7 @@ class Figures(User):
         place = self.place_outside()
         self.desktop.move(*place)
         self.desktop.press("ctrl", "f")
-        dialog = await_dialog()
+        dialog = await_dialog(self.program.window)
         self.start_recording()
         filters = "type='signal',interface='org.freedesktop.portal.Request',member='Response'"
         with subprocess.Popen(["dbus-monitor", "--profile", filters], stdout=subprocess.PIPE, text=True) as monitor:

@@ -5,7 +5,7 @@ import time
 
 from gi.repository import Atspi
 
-from assistive import called, has_state, windows
+from assistive import called, has_keyboard, has_state, windows
 from desktop import Picture, wait
 
 WIDTH, HEIGHT = 448, 262  # the inside of the folded window
@@ -78,7 +78,7 @@ class Program:
         self.await_keyboard()
 
     def await_keyboard(self):
-        wait(lambda: has_state(self.window, Atspi.StateType.ACTIVE), "the keyboard for the tool window")
+        wait(lambda: has_keyboard(self.window), "the keyboard for the tool window")
 
     def title(self):
         self.window.clear_cache()

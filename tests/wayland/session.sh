@@ -112,8 +112,8 @@ trap 'exit 130' INT
 trap 'exit 143' TERM
 mkdir -m 700 -- "$folder/runtime" "$folder/home" "$folder/logs"
 
-# Nothing of the desktop that this runs on may matter, or be touched. GTK 4 needs no graphics card by Cairo, and the
-# software renderer of OpenGL rarely hangs mutter where it has threads.
+# Nothing of the desktop that this runs on may matter, or be touched. GTK 4 needs no graphics card by Cairo. The threads
+# of OpenGL's software renderer have hung mutter for seconds.
 unset DISPLAY WAYLAND_DISPLAY XAUTHORITY LANGUAGE DBUS_SESSION_BUS_ADDRESS "${!XDG_@}" "${!QT_@}"
 export LANG=C.UTF-8 LC_ALL=C.UTF-8 SESSION_LOGS="$folder/logs"
 export HOME="$folder/home" XDG_RUNTIME_DIR="$folder/runtime" GSETTINGS_BACKEND=memory GSK_RENDERER=cairo LP_NUM_THREADS=0
