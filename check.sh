@@ -10,9 +10,9 @@ source "$root/scripts/build.sh"
 cd -- "$root"
 
 # Headers that other layers never see, and that may therefore name the libraries beneath.
-private_headers='^src/runtime/(qt|desktop/native|desktop/x11)/|_p\.h$'
+private_headers='^src/runtime/(qt|desktop/native|desktop/portal|desktop/wayland|desktop/x11)/|_p\.h$'
 # The folders of those libraries' headers.
-private_libraries='/(qt6|boost|xcb|X11)/'
+private_libraries='/(qt6|boost|pipewire-0.3|spa-0.2|xcb|X11)/'
 
 # Prints the files of the work tree that match the patterns, each with a zero byte behind it: those that git knows, and
 # new ones.
@@ -51,7 +51,7 @@ check_desktop() {
 check_header() {
   local header=$1 dependencies reached
   local -a flags
-  read -ra flags <<<"$(pkg-config --cflags Qt6Widgets xcb)"
+  read -ra flags <<<"$(pkg-config --cflags Qt6Widgets Qt6DBus libpipewire-0.3 xcb)"
   dependencies=$(g++ -std=c++20 -fPIC -Wall -Wextra -Werror "${flags[@]}" -I src -fsyntax-only -MD -MF /dev/stdout \
     -x c++ - <<<"#include \"${header#src/}\"") || return 1
   [[ ! $header =~ $private_headers ]] || return 0

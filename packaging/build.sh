@@ -13,7 +13,7 @@ require_packages build package >&2
 export DEB_BUILD_MAINT_OPTIONS=hardening=+all
 flags() { dpkg-buildflags --get "$1"; }
 configure package -DCMAKE_CXX_FLAGS="$(flags CPPFLAGS) $(flags CXXFLAGS) '-ffile-prefix-map=$root=.'" \
-  -DCMAKE_EXE_LINKER_FLAGS="$(flags LDFLAGS)" >&2
+  -DCMAKE_EXE_LINKER_FLAGS="$(flags LDFLAGS)" -DCMAKE_MODULE_LINKER_FLAGS="$(flags LDFLAGS)" >&2
 cmake --build "$build" --parallel "$(nproc)" >&2
 rm -f -- "$build"/*.deb
 (cd -- "$build" && umask 022 && cpack) >&2

@@ -21,5 +21,8 @@ mkdir -p -- "$pictures"
 if [[ ${1:-} == --figures ]]; then
   exec "$in_session" --monitor 1280x1024 /usr/bin/python3 "$root/tests/wayland/figures.py" "$program"
 fi
-exec "$in_session" --monitor 1024x640 --monitor 800x480 \
-  /usr/bin/python3 "$root/tests/wayland/checks.py" "$program" "$pictures"
+status=0
+"$in_session" --monitor 1024x640 --monitor 800x480 \
+  /usr/bin/python3 "$root/tests/wayland/checks.py" "$program" "$pictures" || status=1
+"$in_session" --monitor 1024x640 /usr/bin/python3 "$root/tests/wayland/offers.py" "$program" || status=1
+exit "$status"

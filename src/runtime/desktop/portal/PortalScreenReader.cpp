@@ -219,7 +219,7 @@ bool PortalScreenReader::isReadable() {
 
 void PortalScreenReader::setActive(bool active) {
   if (std::exchange(isActive_, active) == active) return;
-  session_.frames()->setActive(active);
+  session_.setActive(active);
   if (!active) return void(state_ = ScreenState::idle);
   activeSince_ = Clock::now();
   linger_.start(kLinger);

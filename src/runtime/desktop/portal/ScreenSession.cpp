@@ -91,6 +91,12 @@ void ScreenSession::closed(ScreenCastPortal::Ending how) {
   stopped(End::byUser);
 }
 
+// A pause before this counts no more: the streams tell of the next one.
+void ScreenSession::setActive(bool active) {
+  limit_.stop();
+  streams_->setActive(active);
+}
+
 // The session and its streams may end one after the other; the first end says why.
 void ScreenSession::stopped(End how) {
   if (!streams_ || isStopped_) return;

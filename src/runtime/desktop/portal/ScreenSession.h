@@ -43,6 +43,9 @@ class ScreenSession {
   // Asks for the screen. Does nothing while the session is open or is being opened.
   void open();
 
+  // Has frames() sent, or no more; see ScreenStreams. Of use while frames() is there.
+  void setActive(bool active);
+
   // Ends the session as lost: its frames have failed the reader.
   void giveUp() { end(End::lost); }
 
