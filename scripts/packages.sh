@@ -16,8 +16,8 @@ packages_for() {
       ;;
     compositor)
       echo at-spi2-core dbus-bin dbus-daemon dbus-session-bus-common gir1.2-atspi-2.0 gir1.2-gstreamer-1.0 \
-        gir1.2-gtk-3.0 gir1.2-gtk-4.0 gstreamer1.0-pipewire gstreamer1.0-plugins-base libglib2.0-bin libgl1-mesa-dri mutter \
-        pipewire-bin python3-gi qt6-wayland wireplumber wl-clipboard xdg-desktop-portal xdg-desktop-portal-gnome
+        gir1.2-gtk-3.0 gir1.2-gtk-4.0 gstreamer1.0-pipewire gstreamer1.0-plugins-base libglib2.0-bin libgl1-mesa-dri \
+        mutter pipewire-bin python3-gi qt6-wayland wireplumber wl-clipboard xdg-desktop-portal xdg-desktop-portal-gnome
       ;;
     bench) echo libbenchmark-dev ;;
     guide) echo xdotool ;;

@@ -18,8 +18,8 @@ class FileSource;
 
 // The bytes of a file, for reading or for writing; a FolderItem makes it. Numbers of two bytes have the high one first.
 //
-// A stream for writing replaces the contents in Close and not before: a stream that goes without it leaves the file as it
-// was. Once closed, a stream gives and takes nothing.
+// A stream for writing replaces the contents in Close and not before: a stream that goes without it leaves the file as
+// it was. Once closed, a stream gives and takes nothing.
 class BinaryStream : public Object {
  public:
   explicit BinaryStream(std::unique_ptr<FileSource> source);

@@ -40,9 +40,9 @@ class Canvas : public RectControl, private DrawingObserver {
   // at first. Setting it shows it at once.
   Property<Ref<Picture>> Backdrop;
 
-  // Whether MouseDrag and MouseMove come again, with the same place, when the screen changes while the button is held or
-  // just after the pointer has moved: the desktop may show the pointer's place and the pixels there later than it tells
-  // of the movement. Without effect where the desktop shows both at once.
+  // Whether MouseDrag and MouseMove come again, with the same place, when the screen changes while the button is held
+  // or just after the pointer has moved: the desktop may show the pointer's place and the pixels there later than it
+  // tells of the movement. Without effect where the desktop shows both at once.
   bool FollowsScreen = false;
 
   // Draws straight on the control, also outside a paint event; reading a pixel gives what was drawn.

@@ -6,8 +6,8 @@
 
 namespace QtWaylandClient {
 
-// The beginning of the toolkit's class of this name, as 6.4 has it. It is found by its name at run time, so it must not be
-// final: the compiler would look for its own table of virtual functions instead.
+// The beginning of the toolkit's class of this name, as 6.4 has it. It is found by its name at run time, so it must not
+// be final: the compiler would look for its own table of virtual functions instead.
 class QWaylandMimeData : public QMimeData {
  public:
   QWaylandMimeData() = delete;
