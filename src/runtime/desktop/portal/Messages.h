@@ -13,13 +13,13 @@ constexpr auto kNoPortal =
 
 constexpr auto kNoPointer =
     "This desktop does not say where the pointer is, so Tavrelkin can't follow the mouse or read the screen here.\n\n"
-    "Following the mouse and Poke work in a session on X11, and on Wayland in GNOME and KDE Plasma.\n\n"
+    "Following the mouse and Poke work in a session on X11, and on Wayland in desktops that say it, such as GNOME.\n\n"
     "Mixing a colour on the bars, paste and copy work here as well.";
 
 constexpr auto kOnlyPicks =
     "This desktop does not say where the pointer is, so Tavrelkin can't follow the mouse here.\n\n"
     "Poke works: choose it, and then click the colour that you want.\n\n"
-    "Following the mouse works in a session on X11, and on Wayland in GNOME and KDE Plasma.";
+    "Following the mouse works in a session on X11, and on Wayland in desktops that say it, such as GNOME.";
 
 constexpr auto kPointerNotSeen =
     "The desktop shares the screen, but has not said where the pointer is, so Tavrelkin can't follow the mouse.\n\n"
