@@ -66,7 +66,8 @@ void PlayedDesktop::addPortalCommands() {
   commands_[QStringLiteral("undecided")] = [this](auto&) { portal_->undecided << start; };
   commands_[QStringLiteral("decide")] = [this](auto&) {
     portal_->undecided.clear();
-    portal_->respond(start);
+    // The question may still be on its way; then it is answered when it comes.
+    if (portal_->calls[start] > 0) portal_->respond(start);
   };
   commands_[QStringLiteral("mute")] = [this](auto& a) { portal_->mute << a.value(0); };
   commands_[QStringLiteral("delay")] = [this](auto& a) { portal_->delay = std::chrono::milliseconds(number(a, 0)); };
