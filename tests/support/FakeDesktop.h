@@ -24,7 +24,7 @@ class FakeDesktop : public Desktop, public ScreenReader {
   bool tellsChanges = false;
   bool canPick = false;
   // What the desktop does when the program asks for the screen.
-  std::function<void(Picked)> requested = [](Picked) {};
+  std::function<void(Picked)> requested = [](const Picked&) {};
   // What the user does in the colour dialog, given the colour that it begins at: nothing is giving up.
   std::function<std::optional<std::uint32_t>(std::uint32_t)> colourChoice = [](std::uint32_t) { return std::nullopt; };
   // What the user does in the save dialog, given the name that it begins with: a path, or nothing for giving up.

@@ -41,6 +41,7 @@ class PortalScreenReader final : public QObject, public ScreenReader {
   ScreenState state() const override { return state_; }
   void request(Picked picked) override;
   bool canPickColor() const override { return canPick_; }
+  void beginTurn() override { pointer_.reset(); }
   std::uint32_t pixel(ScreenPoint at) override;
   ScreenPoint pointer() override;
   void watch(std::function<void()> changed) override;
@@ -65,6 +66,7 @@ class PortalScreenReader final : public QObject, public ScreenReader {
   void setActive(bool active);
   void lingered();
 
+  ScreenPoint findPointer();
   void noteMouse(const QWindow& window, QPointF local);
   std::optional<PointerMerge::Stream> streamPointer() const;
 
@@ -82,6 +84,7 @@ class PortalScreenReader final : public QObject, public ScreenReader {
   bool wasRead_ = false;  // since the lingering began
   QTimer linger_;
 
+  std::optional<ScreenPoint> pointer_;  // of this turn
   PointerMerge merge_;
   bool mayBeLate_ = false;  // a press, a release or a key has come, whose place the stream may not know yet
 };
@@ -185,7 +188,13 @@ std::uint32_t PortalScreenReader::pixel(ScreenPoint at) {
   return isReadable() ? session_.frames()->pixel(at) : toolkit_.pixel(at);
 }
 
+// Once in a turn, so that its two coordinates belong together.
 ScreenPoint PortalScreenReader::pointer() {
+  if (!pointer_) pointer_ = findPointer();
+  return *pointer_;
+}
+
+ScreenPoint PortalScreenReader::findPointer() {
   if (!isReadable()) return toolkit_.pointer();
   const bool mayBeLate = std::exchange(mayBeLate_, false);
   if (const auto place = merge_.place(streamPointer(), Clock::now())) return *place;
