@@ -1,11 +1,12 @@
 // The built program, from outside: its start and memory (StartBench.cpp), and what it takes to follow the pointer
-// (FollowBench.cpp). Prints rows of a table on the standard output.
+// (FollowBench.cpp, CastBench.cpp). Prints rows of a table on the standard output.
 
 #include <exception>
 #include <iostream>
 
 #include <sys/prctl.h>
 
+#include "bench/CastBench.h"
 #include "bench/FollowBench.h"
 #include "bench/StartBench.h"
 
@@ -14,6 +15,7 @@ int main() {
   try {
     tavrelkin::bench::benchStart();
     tavrelkin::bench::benchFollowing();
+    tavrelkin::bench::benchCasting();
   } catch (const std::exception& fault) {
     std::cerr << "desktop_bench: " << fault.what() << std::endl;
     return 1;

@@ -1,11 +1,8 @@
-// A Wayland session: the program's windows are on an X server as ever, but the screen that it reads is one that a
-// played desktop casts, and whose every pixel is known.
-
-#include <algorithm>
-#include <fstream>
+// Following and poking on Wayland, from the question to the end of the session.
 
 #include <gtest/gtest.h>
 
+#include "e2e/support/PlayedSession.h"
 #include "e2e/support/ToolWindow.h"
 #include "support/portal/PlayedScreen.h"
 
@@ -16,21 +13,7 @@ using namespace std::chrono_literals;
 
 class WaylandSessionTest : public testing::Test {
  protected:
-  void SetUp() override { ASSERT_EQ(desktop_.firstLine(), "ready"); }
-
-  // Tells the desktop lines of portal_desktop; returns when it has done them.
-  void desktop(const std::vector<std::string>& lines) {
-    for (const std::string& line : lines) {
-      std::ofstream(fifo_) << line << std::endl;
-      ++lines_;
-      ASSERT_TRUE(waitUntil([this] { return answers() == lines_; })) << line << ": " << desktop_.errors();
-    }
-  }
-
-  long answers() {
-    const std::string said = desktop_.output();
-    return std::count(said.begin(), said.end(), '\n') - 1;
-  }
+  void desktop(const std::vector<std::string>& lines) { session_.cast(lines); }
 
   // A monitor of 1280 by 800 at the top left corner, unless told otherwise.
   using Screen = std::function<std::uint32_t(int, int)>;
@@ -56,12 +39,7 @@ class WaylandSessionTest : public testing::Test {
     ASSERT_TRUE(waitUntil([this] { return session_.windows.all().size() == 1; }));
   }
 
-  Session session_{{.messageBus = true,
-                    .busConfiguration = TAVRELKIN_BUS_CONFIGURATION,
-                    .environment = {"WAYLAND_DISPLAY=wayland-0", "QT_QPA_PLATFORM=xcb"}}};
-  const std::string fifo_ = session_.home.path() / "desktop";
-  Process desktop_{{TAVRELKIN_PORTAL_DESKTOP, fifo_}, session_.environment};
-  long lines_ = 0;
+  PlayedSession session_;
   ToolWindow tool_{session_};
 };
 

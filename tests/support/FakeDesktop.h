@@ -57,7 +57,7 @@ class FakeDesktop : public Desktop, public ScreenReader {
 
   ScreenReader& screenReader() override { return *this; }
   ScreenState state() const override { return screenState; }
-  void request(Picked picked) override { requested(std::move(picked)); }
+  void request(const Picked& picked) override { requested(picked); }
   bool canPickColor() const override { return canPick; }
   void beginTurn() override { ++turns; }
   std::uint32_t pixel(ScreenPoint at) override { return screen(pixelsRead.emplace_back(at)); }

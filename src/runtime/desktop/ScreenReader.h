@@ -40,7 +40,7 @@ class ScreenReader {
   // Where the desktop gives no more than single colours, each picked by the user with a click, the user picks one for
   // `picked`, which takes it as 0xRRGGBB from the event loop. Without `picked` the user is told so by a message.
   using Picked = std::function<void(std::uint32_t)>;
-  virtual void request(Picked /*picked*/ = {}) {}
+  virtual void request(const Picked& /*picked*/ = {}) {}
 
   // Whether `unavailable` still leaves the user a way to pick single colours, see request().
   virtual bool canPickColor() const { return false; }

@@ -36,7 +36,7 @@ bool CanReadScreen() {
 bool RequestScreen(std::function<void(Color)> picked) {
   ScreenReader::Picked take;
   if (picked) take = [picked = std::move(picked)](std::uint32_t rgb) { deliver([&] { picked(Color{rgb}); }); };
-  desktop().screenReader().request(std::move(take));
+  desktop().screenReader().request(take);
   return CanReadScreen();
 }
 

@@ -4,10 +4,15 @@
 
 namespace tavrelkin::test {
 
+namespace {
+
+const std::string configuration = TAVRELKIN_BUS_CONFIGURATION;
+
+}  // namespace
+
 MessageBus::MessageBus()
-    : process_(
-          {"dbus-daemon", "--config-file=" TAVRELKIN_BUS_CONFIGURATION, "--nofork", "--nopidfile", "--print-address"},
-          home_.environment({})),
+    : process_({"dbus-daemon", "--config-file=" + configuration, "--nofork", "--nopidfile", "--print-address"},
+               home_.environment({})),
       address_(QString::fromStdString(process_.firstLine())) {}
 
 BusConnection::BusConnection(const QString& address)

@@ -53,7 +53,7 @@ class PlayedDesktop {
   void setMonitors(const QStringList& places);
   void addMonitor(const QString& place);
   void movePointer(std::size_t monitor, ScreenPoint at);
-  void sendTo(std::size_t monitor, bool withPicture);
+  void sendTo(std::size_t index, bool withPicture);
   void serveNewReceivers();
 
   PipeWireDaemon pipeWire_;

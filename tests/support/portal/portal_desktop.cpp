@@ -1,9 +1,12 @@
 // Plays a desktop that casts its screen, beside a program under test, on the session's message bus. Makes the FIFO that
-// it is given the name of, and says "ready"; then obeys each line of the FIFO and answers it with "done".
+// it is given the name of, and says "ready"; then obeys each line of the FIFO and answers it with "done" and the time
+// at which it was: the nanoseconds of the steady clock.
 
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <stdexcept>
+#include <string>
 
 #include <QCoreApplication>
 #include <QFile>
@@ -16,9 +19,14 @@
 
 namespace {
 
-void say(const char* text) {
-  std::puts(text);
+void say(const std::string& text) {
+  std::puts(text.c_str());
   std::fflush(stdout);
+}
+
+std::string doneNow() {
+  return "done " +
+         std::to_string(std::chrono::nanoseconds(std::chrono::steady_clock::now().time_since_epoch()).count());
 }
 
 int run(const char* fifoName) {
@@ -34,7 +42,7 @@ int run(const char* fifoName) {
   QObject::connect(&notifier, &QSocketNotifier::activated, [&] {
     text += lines.read(4096);
     for (qsizetype end = text.indexOf('\n'); end >= 0; end = text.indexOf('\n')) {
-      say(desktop.obey(QString::fromUtf8(text.left(end))) ? "done" : "unknown command");
+      say(desktop.obey(QString::fromUtf8(text.left(end))) ? doneNow() : "unknown command");
       text.remove(0, end + 1);
     }
   });

@@ -14,7 +14,7 @@ std::uint32_t patternOfGreys(ScreenPoint at) {
 
 NoScreenReader::NoScreenReader(std::function<void()> tellWhy) : tellWhy_(std::move(tellWhy)) {}
 
-void NoScreenReader::request(Picked) {
+void NoScreenReader::request(const Picked&) {
   if (const auto tell = std::exchange(tellWhy_, nullptr)) tell();
 }
 

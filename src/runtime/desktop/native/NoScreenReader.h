@@ -20,7 +20,7 @@ class NoScreenReader final : public ScreenReader {
   explicit NoScreenReader(std::function<void()> tellWhy);
 
   ScreenState state() const override { return ScreenState::unavailable; }
-  void request(Picked picked) override;
+  void request(const Picked& picked) override;
   std::uint32_t pixel(ScreenPoint at) override;
   ScreenPoint pointer() override;
   void watch(std::function<void()>) override {}

@@ -40,9 +40,9 @@ QString pathOf(const QVariant& value) {
 
 }  // namespace
 
-CastSession::CastSession(const QDBusConnection& bus, std::chrono::milliseconds patience, QString& token, Done done,
+CastSession::CastSession(QDBusConnection bus, std::chrono::milliseconds patience, QString& token, Done done,
                          Ended ended)
-    : bus_(bus), patience_(patience), token_(token), done_(std::move(done)), ended_(std::move(ended)) {
+    : bus_(std::move(bus)), patience_(patience), token_(token), done_(std::move(done)), ended_(std::move(ended)) {
   findPortal(bus_, castInterface(), patience_, context_, [this](const PortalInterface& found) { takePortal(found); });
 }
 

@@ -28,7 +28,7 @@ class CastSession {
   // `token` reopens an earlier session without a dialog, if it is not empty. It is good for one session: the token for
   // the next session takes its place, so it has to outlive this object. `done` is called once; `ended` once at most,
   // after `done` gave a cast. Both are called from the event loop, and may destroy this object.
-  CastSession(const QDBusConnection& bus, std::chrono::milliseconds patience, QString& token, Done done, Ended ended);
+  CastSession(QDBusConnection bus, std::chrono::milliseconds patience, QString& token, Done done, Ended ended);
   CastSession(const CastSession&) = delete;
   CastSession& operator=(const CastSession&) = delete;
   ~CastSession();

@@ -25,10 +25,9 @@ class DBusSignal : public QObject {
   // `receive` may destroy this object.
   DBusSignal(QDBusConnection bus, const Source& source, Receive receive);
 
- private slots:
-  void take(const QDBusMessage& message);
-
  private:
+  Q_SLOT void take(const QDBusMessage& message);
+
   Receive receive_;
 };
 

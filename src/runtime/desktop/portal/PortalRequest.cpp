@@ -30,9 +30,9 @@ QString handlePath(const QDBusConnection& bus, const char* kind, const QString& 
   return QStringLiteral("%1/%2/%3/%4").arg(QString::fromLatin1(portalPath), QString::fromLatin1(kind), sender, token);
 }
 
-PortalRequest::PortalRequest(const QDBusConnection& bus, const Call& call, Answerer answerer,
+PortalRequest::PortalRequest(QDBusConnection bus, const Call& call, Answerer answerer,
                              std::chrono::milliseconds patience, Done done)
-    : bus_(bus), owner_(call.owner), done_(std::move(done)) {
+    : bus_(std::move(bus)), owner_(call.owner), done_(std::move(done)) {
   const QString token = newHandleToken();
   listen(handlePath(bus_, "request", token));
   auto options = call.options;

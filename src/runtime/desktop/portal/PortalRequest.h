@@ -49,7 +49,7 @@ class PortalRequest {
 
   // `patience` is how long the portal may take, to the Response if that is the portal's, else to its first answer.
   // `done` is called once, from the event loop, and may destroy this object.
-  PortalRequest(const QDBusConnection& bus, const Call& call, Answerer answerer, std::chrono::milliseconds patience,
+  PortalRequest(QDBusConnection bus, const Call& call, Answerer answerer, std::chrono::milliseconds patience,
                 Done done);
   PortalRequest(const PortalRequest&) = delete;
   PortalRequest& operator=(const PortalRequest&) = delete;

@@ -39,9 +39,9 @@ class PortalScreenReader final : public QObject, public ScreenReader {
   explicit PortalScreenReader(std::function<void(const std::string&)> tell);
 
   ScreenState state() const override { return state_; }
-  void request(Picked picked) override;
+  void request(const Picked& picked) override;
   bool canPickColor() const override { return canPick_; }
-  void beginTurn() override { pointer_.reset(); }
+  void beginTurn() override;
   std::uint32_t pixel(ScreenPoint at) override;
   ScreenPoint pointer() override;
   void watch(std::function<void()> changed) override;
@@ -84,7 +84,9 @@ class PortalScreenReader final : public QObject, public ScreenReader {
   bool wasRead_ = false;  // since the lingering began
   QTimer linger_;
 
-  std::optional<ScreenPoint> pointer_;  // of this turn
+  // Of this turn, so that all pixels are of one moment, and so are the two coordinates of the pointer.
+  std::optional<ScreenModel> screen_;
+  std::optional<ScreenPoint> pointer_;
   PointerMerge merge_;
   bool mayBeLate_ = false;  // a press, a release or a key has come, whose place the stream may not know yet
 };
@@ -100,14 +102,14 @@ PortalScreenReader::PortalScreenReader(std::function<void(const std::string&)> t
   QCoreApplication::instance()->installEventFilter(this);
 }
 
-void PortalScreenReader::request(Picked picked) {
+void PortalScreenReader::request(const Picked& picked) {
   if (isReadable()) return;
   if (state_ == ScreenState::unavailable) {
     if (!canPick_) return;
-    if (picked) return pick(std::move(picked));
+    if (picked) return pick(picked);
     return tell_(message::kOnlyPicks);
   }
-  wanted_ = std::move(picked);
+  wanted_ = picked;
   if (state_ == ScreenState::asking) return;
   become(ScreenState::asking);
   session_.open();
@@ -184,11 +186,17 @@ void PortalScreenReader::become(ScreenState state) {
   if (std::exchange(state_, state) != state) tellWatcher();
 }
 
-std::uint32_t PortalScreenReader::pixel(ScreenPoint at) {
-  return isReadable() ? session_.frames()->pixel(at) : toolkit_.pixel(at);
+void PortalScreenReader::beginTurn() {
+  screen_.reset();
+  pointer_.reset();
 }
 
-// Once in a turn, so that its two coordinates belong together.
+std::uint32_t PortalScreenReader::pixel(ScreenPoint at) {
+  if (!isReadable()) return toolkit_.pixel(at);
+  if (!screen_) screen_ = session_.frames()->screen();
+  return screen_->pixel(at);
+}
+
 ScreenPoint PortalScreenReader::pointer() {
   if (!pointer_) pointer_ = findPointer();
   return *pointer_;
@@ -200,7 +208,8 @@ ScreenPoint PortalScreenReader::findPointer() {
   if (const auto place = merge_.place(streamPointer(), Clock::now())) return *place;
   ScreenStreams& frames = *session_.frames();
   if (mayBeLate) frames.waitForPointer(kPointerRest, kPointerDelay);
-  return frames.pointer().value_or(ScreenPoint());
+  screen_ = frames.screen();
+  return screen_->pointer().value_or(ScreenPoint());
 }
 
 void PortalScreenReader::watch(std::function<void()> changed) {
@@ -229,6 +238,7 @@ bool PortalScreenReader::isReadable() {
 void PortalScreenReader::setActive(bool active) {
   if (std::exchange(isActive_, active) == active) return;
   session_.setActive(active);
+  screen_.reset();
   if (!active) return void(state_ = ScreenState::idle);
   activeSince_ = Clock::now();
   linger_.start(kLinger);
@@ -271,7 +281,7 @@ bool PortalScreenReader::eventFilter(QObject* watched, QEvent* event) {
 
 // In the pixels of the stream's frames, of which there may be several to a pixel of the toolkit.
 void PortalScreenReader::noteMouse(const QWindow& window, QPointF local) {
-  const double scale = session_.frames() ? session_.frames()->pointerScale() : 1;
+  const double scale = session_.frames() ? session_.frames()->screen().pointerScale() : 1;
   const ScreenPoint at{static_cast<std::int32_t>(std::floor(local.x() * scale)),
                        static_cast<std::int32_t>(std::floor(local.y() * scale))};
   merge_.moved(reinterpret_cast<std::uintptr_t>(&window), at, streamPointer(), Clock::now());
@@ -281,7 +291,7 @@ void PortalScreenReader::noteMouse(const QWindow& window, QPointF local) {
 std::optional<PointerMerge::Stream> PortalScreenReader::streamPointer() const {
   const ScreenStreams* const frames = session_.frames();
   if (state_ != ScreenState::live || !frames) return std::nullopt;
-  const auto place = frames->pointer();
+  const auto place = frames->screen().pointer();
   if (!place) return std::nullopt;
   return PointerMerge::Stream{*place, std::max(activeSince_, frames->lastPointerMove())};
 }

@@ -1,6 +1,7 @@
 #include "runtime/desktop/portal/ScreenModel.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstring>
 
 namespace tavrelkin {
@@ -67,6 +68,14 @@ std::uint32_t ScreenModel::Monitor::pixel(ScreenPoint at) const {
   return order == ChannelOrder::bgr ? rgb(c[2], c[1], c[0]) : rgb(c[0], c[1], c[2]);
 }
 
+// A frame that a copy of the model still reads stays as it is.
+std::uint8_t* ScreenModel::Monitor::bytesToWrite(std::size_t count) {
+  if (bytes.use_count() != 1) bytes = std::make_shared_for_overwrite<std::uint8_t[]>(count);
+  // use_count() alone does not order the reads of a copy that has just gone before the writes to come.
+  std::atomic_thread_fence(std::memory_order_acquire);
+  return bytes.get();
+}
+
 ScreenModel::ScreenModel(const std::vector<CastStream>& streams) : monitors_(streams.size()) {
   for (std::size_t i = 0; i < streams.size(); ++i) {
     CastStream& stream = monitors_[i].stream = streams[i];
@@ -83,13 +92,13 @@ bool ScreenModel::putFrame(std::size_t stream, const ScreenFrame& frame) {
   const auto width = static_cast<std::int32_t>(frame.width);
   const auto height = static_cast<std::int32_t>(frame.height);
   if (width != monitor.width || height != monitor.height) {
-    monitor.bytes = std::vector<std::uint8_t>(static_cast<std::size_t>(frame.width * frame.height * kBytesPerPixel));
+    monitor.bytes.reset();
     monitor.width = width;
     monitor.height = height;
     arrange();
   }
   monitor.order = frame.order;
-  copyLines(frame, monitor.bytes.data());
+  copyLines(frame, monitor.bytesToWrite(static_cast<std::size_t>(frame.width * frame.height * kBytesPerPixel)));
   return true;
 }
 

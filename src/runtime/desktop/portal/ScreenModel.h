@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <span>
 #include <vector>
@@ -24,7 +25,8 @@ struct ScreenFrame {
 };
 
 // What is on the monitors of a screen cast, and where the pointer is: the last full frame of each stream, and the last
-// place that any of them gave for the pointer. Not thread-safe.
+// place that any of them gave for the pointer. A copy is cheap: it shares the frames, and keeps those that it has when
+// the original takes new ones. Not thread-safe, but a copy may be read while another thread changes the original.
 //
 // Places on the screen are in frame pixels. A stream lies at its logical position times the largest scale of all
 // streams, a scale being frame pixels per logical pixel: so no two monitors overlap, whatever their scales, and gaps
@@ -75,12 +77,13 @@ class ScreenModel {
     ChannelOrder order = ChannelOrder::bgr;
     std::int32_t width = 0;
     std::int32_t height = 0;
-    std::vector<std::uint8_t> bytes;  // line after line, 4 for each pixel
+    std::shared_ptr<std::uint8_t[]> bytes;  // line after line, 4 for each pixel; never changed while it is shared
 
     bool hasFrame() const { return width > 0; }
     Scale scale() const;
     bool contains(ScreenPoint at) const;
     std::uint32_t pixel(ScreenPoint at) const;
+    std::uint8_t* bytesToWrite(std::size_t count);
   };
 
   void arrange();

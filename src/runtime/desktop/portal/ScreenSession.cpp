@@ -67,8 +67,10 @@ void ScreenSession::answered(ScreenCastPortal::Result answer) {
 
 void ScreenSession::streamChanged() {
   if (hasBegun_) return events_.changed();
-  if (isStopped_ || !streams_->hasFrames()) return;
-  if (streams_->pointer()) {
+  if (isStopped_) return;
+  const ScreenModel screen = streams_->screen();
+  if (!screen.hasFrames()) return;
+  if (screen.pointer()) {
     limit_.stop();
     hasBegun_ = true;
     events_.begun();

@@ -30,9 +30,7 @@ bool hasPixels(const spa_buffer& buffer) {
 // A place with an id of 0 is a stale one: the pointer is elsewhere.
 void notePointer(const spa_buffer& buffer, StreamArrival& arrival) {
   const auto* const cursor = metaOf<spa_meta_cursor>(buffer, SPA_META_Cursor);
-  if (!cursor) return;
-  ++arrival.pointerCount;
-  if (cursor->id != 0) arrival.pointer = ScreenPoint{cursor->position.x, cursor->position.y};
+  if (cursor && cursor->id != 0) arrival.pointer = ScreenPoint{cursor->position.x, cursor->position.y};
 }
 
 }  // namespace

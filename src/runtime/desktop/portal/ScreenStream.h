@@ -19,7 +19,6 @@ namespace tavrelkin {
 struct StreamArrival {
   std::optional<ScreenFrame> frame;    // the newest one; it may be unsound
   std::optional<ScreenPoint> pointer;  // the newest place, in frame pixels
-  unsigned pointerCount = 0;  // how many times the stream has said where the pointer is, or that it is elsewhere
 };
 
 enum class StreamState { streaming, paused, ended };

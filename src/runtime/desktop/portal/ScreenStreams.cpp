@@ -64,7 +64,6 @@ void ScreenStreams::arrived(std::size_t stream, const StreamArrival& arrival) {
     const std::lock_guard lock(mutex_);
     statuses_[stream].streaming = true;
     if (arrival.frame && model_.putFrame(stream, *arrival.frame)) statuses_[stream].fresh = true;
-    pointerCount_ += arrival.pointerCount;
     const auto before = model_.pointer();
     if (arrival.pointer) model_.putPointer(stream, *arrival.pointer);
     if (model_.pointer() != before) lastPointerMove_ = Clock::now();
@@ -125,29 +124,9 @@ void ScreenStreams::tell() {
   if (alive && news.lost && events.lost) events.lost();
 }
 
-std::uint32_t ScreenStreams::pixel(ScreenPoint at) {
+ScreenModel ScreenStreams::screen() const {
   const std::lock_guard lock(mutex_);
-  return model_.pixel(at);
-}
-
-std::optional<ScreenPoint> ScreenStreams::pointer() const {
-  const std::lock_guard lock(mutex_);
-  return model_.pointer();
-}
-
-double ScreenStreams::pointerScale() const {
-  const std::lock_guard lock(mutex_);
-  return model_.pointerScale();
-}
-
-bool ScreenStreams::hasFrames() const {
-  const std::lock_guard lock(mutex_);
-  return model_.hasFrames();
-}
-
-std::uint64_t ScreenStreams::pointerCount() const {
-  const std::lock_guard lock(mutex_);
-  return pointerCount_;
+  return model_;
 }
 
 ScreenStreams::Clock::time_point ScreenStreams::lastPointerMove() const {

@@ -42,14 +42,8 @@ class ScreenStreams {
   // While inactive the desktop sends nothing. It sends a full frame of each monitor soon after it is made active.
   void setActive(bool active);
 
-  // As ScreenModel.
-  std::uint32_t pixel(ScreenPoint at);
-  std::optional<ScreenPoint> pointer() const;
-  double pointerScale() const;
-  bool hasFrames() const;
-
-  // How many times a stream has said where the pointer is, or that it is elsewhere.
-  std::uint64_t pointerCount() const;
+  // What has arrived so far. What arrives later does not change the copy.
+  ScreenModel screen() const;
 
   // When the pointer last came to another place. The epoch of the clock where it never did.
   Clock::time_point lastPointerMove() const;
@@ -95,7 +89,6 @@ class ScreenStreams {
   bool active_ = true;
   bool paused_ = false;
   bool lost_ = false;
-  std::uint64_t pointerCount_ = 0;
   Clock::time_point lastPointerMove_;
   News news_;
 

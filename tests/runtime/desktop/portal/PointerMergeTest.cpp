@@ -15,7 +15,7 @@ struct Step {
   std::chrono::milliseconds at;
   enum class Kind { stream, event, otherWindow, leave, ask } kind;
   ScreenPoint place{};
-  std::string wanted = "";
+  std::string wanted{};
 };
 
 struct Row {

@@ -38,7 +38,9 @@ class Picture {
     return (number_ + 1) << 16 | static_cast<std::uint32_t>(y) << 8 | static_cast<std::uint32_t>(x);
   }
 
-  ScreenFrame frame() const { return {ChannelOrder::bgr, size_.width, size_.height, size_.width * 4, bytes_}; }
+  ScreenFrame frame() const {
+    return {ChannelOrder::bgr, size_.width, size_.height, std::int64_t{size_.width} * 4, bytes_};
+  }
 
  private:
   std::uint32_t number_;
@@ -101,6 +103,15 @@ TEST(ScreenModel, PutsEachMonitorInItsPlace) {
       EXPECT_EQ(model.pointerScale(), row.scales[i]) << i;
     }
   }
+}
+
+TEST(ScreenModel, ACopyKeepsItsFrames) {
+  ScreenModel model({at(0, 0, Size{2, 2})});
+  model.putFrame(0, Picture(0, {2, 2}).frame());
+  ScreenModel copy = model;
+  model.putFrame(0, Picture(1, {2, 2}).frame());
+  EXPECT_EQ(copy.pixel({1, 1}), Picture(0, {}).color(1, 1));
+  EXPECT_EQ(model.pixel({1, 1}), Picture(1, {}).color(1, 1));
 }
 
 TEST(ScreenModel, StandsPlacesThatNoDeskHas) {
