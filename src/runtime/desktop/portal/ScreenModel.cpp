@@ -63,7 +63,7 @@ bool ScreenModel::Monitor::contains(ScreenPoint at) const {
 std::uint32_t ScreenModel::Monitor::pixel(ScreenPoint at) const {
   const auto column = static_cast<std::size_t>(at.x - origin.x);
   const auto row = static_cast<std::size_t>(at.y - origin.y);
-  const std::uint8_t* const c = &bytes[(row * static_cast<std::size_t>(width) + column) * kBytesPerPixel];
+  const std::uint8_t* const c = bytes.get() + (row * static_cast<std::size_t>(width) + column) * kBytesPerPixel;
   const auto rgb = [](std::uint32_t r, std::uint32_t g, std::uint32_t b) { return r << 16 | g << 8 | b; };
   return order == ChannelOrder::bgr ? rgb(c[2], c[1], c[0]) : rgb(c[0], c[1], c[2]);
 }
