@@ -34,7 +34,7 @@ check_tidy() {
   local here
   # shellcheck disable=SC2001  # The replacement names what was found, which ${root//} can't.
   here=$(sed 's/[][\\.*^$+?(){}|]/\\&/g' <<<"$root")
-  run-clang-tidy -p build/release -j "$(nproc)" -quiet "^$here/(src|tests|fuzz)/" 2>&1 |
+  run-clang-tidy -p build/release -j "$(nproc)" -quiet "^$here/(src|tests|fakes|driver|soak|fuzz)/" 2>&1 |
     sed -e 's/\x1b\[[0-9;]*m//g' -e '/^clang-tidy/d' -e '/warnings\? .*generated/d'
 }
 

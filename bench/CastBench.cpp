@@ -18,9 +18,9 @@
 
 #include "bench/support/Figures.h"
 #include "bench/support/ProcessUsage.h"
-#include "e2e/support/PlayedSession.h"
-#include "e2e/support/ToolWindow.h"
-#include "support/portal/PlayedScreen.h"
+#include "driver/PlayedSession.h"
+#include "driver/ToolWindow.h"
+#include "fakes/portal/PlayedScreen.h"
 
 namespace tavrelkin::bench {
 

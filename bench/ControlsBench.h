@@ -1,7 +1,7 @@
 #pragma once
 
 #include "bench/support/Medians.h"
-#include "e2e/support/Hand.h"
+#include "driver/Hand.h"
 #include "toolwindow/frmVesk.h"
 
 namespace tavrelkin::bench {

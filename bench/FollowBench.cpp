@@ -21,8 +21,8 @@
 #include "bench/support/Circles.h"
 #include "bench/support/Figures.h"
 #include "bench/support/ProcessUsage.h"
-#include "e2e/support/Process.h"
-#include "e2e/support/ToolWindow.h"
+#include "driver/Process.h"
+#include "driver/ToolWindow.h"
 
 namespace tavrelkin::bench {
 

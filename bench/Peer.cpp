@@ -7,7 +7,7 @@
 
 #include <QStandardPaths>
 
-#include "e2e/support/Process.h"
+#include "driver/Process.h"
 
 namespace tavrelkin::bench {
 

@@ -5,10 +5,10 @@
 #include <vector>
 
 #include "bench/support/ProcessUsage.h"
-#include "e2e/X11Client.h"
-#include "e2e/support/Hand.h"
-#include "e2e/support/Process.h"
-#include "e2e/support/Session.h"
+#include "driver/Hand.h"
+#include "driver/Process.h"
+#include "driver/Session.h"
+#include "driver/X11Client.h"
 
 namespace tavrelkin::bench {
 

@@ -15,7 +15,7 @@
 #include "bench/Peer.h"
 #include "bench/support/Circles.h"
 #include "bench/support/Figures.h"
-#include "e2e/support/ToolWindow.h"
+#include "driver/ToolWindow.h"
 
 namespace tavrelkin::bench {
 

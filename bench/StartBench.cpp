@@ -14,9 +14,9 @@
 
 #include "bench/support/Figures.h"
 #include "bench/support/ProcessUsage.h"
-#include "e2e/X11Client.h"
-#include "e2e/support/Process.h"
-#include "e2e/support/Session.h"
+#include "driver/Process.h"
+#include "driver/Session.h"
+#include "driver/X11Client.h"
 
 namespace tavrelkin::bench {
 

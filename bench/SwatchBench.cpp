@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "bench/support/Figures.h"
-#include "e2e/support/Process.h"
+#include "driver/Process.h"
 #include "runtime/files/FolderItem.h"
 #include "tables/zrClut.h"
 

@@ -1,7 +1,7 @@
 // A colour table file.
 
+#include "fakes/TemporaryFolder.h"
 #include "fuzz/support/Target.h"
-#include "support/TemporaryFolder.h"
 #include "tables/zrClut.h"
 
 namespace tavrelkin {

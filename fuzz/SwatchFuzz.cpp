@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
+#include "fakes/TemporaryFolder.h"
 #include "fuzz/support/Target.h"
-#include "support/TemporaryFolder.h"
 #include "tables/zrClut.h"
 
 namespace tavrelkin {

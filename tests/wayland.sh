@@ -10,7 +10,8 @@ source "$root/scripts/packages.sh"
 source "$root/scripts/build.sh"
 program="$root/build/release/tavrelkin"
 pictures="$root/build/wayland"
-in_session="$root/tests/wayland/session.sh"
+in_session="$root/driver/compositor/session.sh"
+export PYTHONPATH="$root/driver/compositor"
 
 require_packages build run wayland compositor
 is_configured release || configure release -DTAVRELKIN_TESTS=OFF
@@ -19,7 +20,7 @@ mkdir -p -- "$pictures"
 
 # Debian's own interpreter has the bindings.
 if [[ ${1:-} == --figures ]]; then
-  exec "$in_session" --monitor 1280x1024 /usr/bin/python3 "$root/tests/wayland/figures.py" "$program"
+  exec "$in_session" --monitor 1280x1024 /usr/bin/python3 "$root/bench/compositor_figures.py" "$program"
 fi
 status=0
 "$in_session" --monitor 1024x640 --monitor 800x480 \

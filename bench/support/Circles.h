@@ -1,6 +1,6 @@
 #pragma once
 
-#include "e2e/support/Hand.h"
+#include "driver/Hand.h"
 
 namespace tavrelkin::bench {
 

@@ -8,7 +8,7 @@
 
 #include <unistd.h>
 
-#include "e2e/support/Process.h"
+#include "driver/Process.h"
 
 namespace tavrelkin::bench {
 

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "support/FakeDesktop.h"
+#include "fakes/FakeDesktop.h"
 
 // What the fuzzer, or the replay of a corpus, calls again and again with other bytes. Each target defines it; it gives
 // 0.

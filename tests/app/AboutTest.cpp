@@ -4,9 +4,9 @@
 
 #include "app/App.h"
 #include "app/frmAbout.h"
+#include "fakes/Gestures.h"
+#include "fakes/RuntimeTest.h"
 #include "simulator/frmColorBlind.h"
-#include "support/Gestures.h"
-#include "support/RuntimeTest.h"
 #include "toolwindow/frmVesk.h"
 
 namespace tavrelkin {

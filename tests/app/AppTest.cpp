@@ -1,11 +1,11 @@
 #include "app/App.h"
 #include "app/frmAbout.h"
+#include "fakes/Gestures.h"
+#include "fakes/RuntimeTest.h"
+#include "fakes/TemporaryFolder.h"
 #include "favourites/frmFav.h"
 #include "menubar/MenuBar1.h"
 #include "runtime/base/Exceptions.h"
-#include "support/Gestures.h"
-#include "support/RuntimeTest.h"
-#include "support/TemporaryFolder.h"
 #include "toolwindow/frmVesk.h"
 
 namespace tavrelkin {

@@ -5,8 +5,8 @@
 #include "controls/zrColorBox.h"
 #include "controls/zrColorButton.h"
 #include "controls/zrColorCHBar.h"
-#include "support/Gestures.h"
-#include "support/RuntimeTest.h"
+#include "fakes/Gestures.h"
+#include "fakes/RuntimeTest.h"
 
 namespace tavrelkin {
 

@@ -1,6 +1,6 @@
 #include "controls/ControlsTest.h"
+#include "fakes/DragGestures.h"
 #include "runtime/base/Exceptions.h"
-#include "support/DragGestures.h"
 
 namespace tavrelkin {
 namespace {

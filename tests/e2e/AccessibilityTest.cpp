@@ -6,7 +6,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include "e2e/support/ToolWindow.h"
+#include "driver/ToolWindow.h"
 
 namespace tavrelkin::test {
 namespace {

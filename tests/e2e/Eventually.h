@@ -3,7 +3,7 @@
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
 
-#include "e2e/support/Process.h"
+#include "driver/Process.h"
 
 namespace tavrelkin::test {
 

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "e2e/support/ToolWindow.h"
+#include "driver/ToolWindow.h"
 
 namespace tavrelkin::test {
 namespace {

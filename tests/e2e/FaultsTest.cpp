@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 
-#include "e2e/support/ToolWindow.h"
+#include "driver/ToolWindow.h"
 
 namespace tavrelkin::test {
 namespace {

@@ -5,8 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include "driver/Hand.h"
 #include "e2e/Eventually.h"
-#include "e2e/support/Hand.h"
 #include "runtime/desktop/x11/X11ScreenReader.h"
 
 namespace tavrelkin::test {

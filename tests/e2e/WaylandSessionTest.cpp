@@ -2,9 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "e2e/support/PlayedSession.h"
-#include "e2e/support/ToolWindow.h"
-#include "support/portal/PlayedScreen.h"
+#include "driver/PlayedSession.h"
+#include "driver/ToolWindow.h"
+#include "fakes/portal/PlayedScreen.h"
 
 namespace tavrelkin::test {
 namespace {

@@ -5,7 +5,7 @@
 
 #include <gtest/gtest.h>
 
-#include "e2e/support/Session.h"
+#include "driver/Session.h"
 
 int main(int argc, char** argv) {
   testing::InitGoogleTest(&argc, argv);

@@ -1,12 +1,12 @@
 #include <filesystem>
 
+#include "fakes/DragGestures.h"
+#include "fakes/Gestures.h"
+#include "fakes/RuntimeTest.h"
+#include "fakes/TemporaryFolder.h"
 #include "favourites/frmFav.h"
 #include "menubar/MenuBar1.h"
 #include "runtime/gui/Clipboard.h"
-#include "support/DragGestures.h"
-#include "support/Gestures.h"
-#include "support/RuntimeTest.h"
-#include "support/TemporaryFolder.h"
 
 namespace tavrelkin {
 namespace {

@@ -1,9 +1,9 @@
 #include "color/zrXYZ.h"
+#include "fakes/Gestures.h"
+#include "fakes/RuntimeTest.h"
 #include "menubar/MenuBar1.h"
 #include "runtime/gui/Clipboard.h"
 #include "simulator/frmColorBlind.h"
-#include "support/Gestures.h"
-#include "support/RuntimeTest.h"
 
 namespace tavrelkin {
 namespace {

@@ -4,9 +4,9 @@
 #include <filesystem>
 #include <string>
 
+#include "fakes/RuntimeTest.h"
+#include "fakes/TemporaryFolder.h"
 #include "runtime/base/Exceptions.h"
-#include "support/RuntimeTest.h"
-#include "support/TemporaryFolder.h"
 #include "tables/zrClut.h"
 
 namespace tavrelkin {

@@ -2,8 +2,8 @@
 
 #include <limits>
 
+#include "fakes/RuntimeTest.h"
 #include "runtime/drawing/Picture.h"
-#include "support/RuntimeTest.h"
 #include "tables/zrPixMap.h"
 
 namespace tavrelkin {

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "fakes/Gestures.h"
+#include "fakes/RuntimeTest.h"
 #include "menubar/MenuBar1.h"
-#include "support/Gestures.h"
-#include "support/RuntimeTest.h"
 #include "toolwindow/frmVesk.h"
 
 namespace tavrelkin {

@@ -9,7 +9,7 @@ import sys
 import time
 
 from desktop import Desktop, wait
-from offers_client import BOXES, WHOLE
+import offers_client
 from program import Program, title_of
 
 GROUND = (1200, 1000)  # where no window is
@@ -21,10 +21,10 @@ MEMORY = 30_000  # KiB
 class Offers:
     def __init__(self, path):
         self.desktop = Desktop()
-        client = os.path.join(os.path.dirname(os.path.abspath(__file__)), "offers_client.py")
+        client = offers_client.__file__
         self.client = subprocess.Popen([sys.executable, client], stdout=subprocess.PIPE)
         os.set_blocking(self.client.stdout.fileno(), False)
-        self.boxes = {kind: wait(lambda: self.find(rgb), f"the box {kind}") for kind, rgb in BOXES.items()}
+        self.boxes = {kind: wait(lambda: self.find(rgb), f"the box {kind}") for kind, rgb in offers_client.BOXES.items()}
         self.desktop.move(*GROUND)
         self.desktop.press("shift")  # a client finds no pointer and no keyboard before they are used
         self.program = Program(self.desktop, path)
@@ -97,7 +97,7 @@ class Offers:
     def try_whole(self, take):
         self.paste_another()
         take("whole")
-        wait(lambda: self.desktop.look().pixel(*self.swatch) == WHOLE, "the colour on the button")
+        wait(lambda: self.desktop.look().pixel(*self.swatch) == offers_client.WHOLE, "the colour on the button")
 
     def try_bad(self, take, kind):
         self.paste_another()
@@ -112,7 +112,7 @@ class Offers:
 def main():
     offers = Offers(sys.argv[1])
     failures = 0
-    for kind in BOXES:
+    for kind in offers_client.BOXES:
         for take in (offers.clipboard, offers.drop):
             begin = time.monotonic()
             try:

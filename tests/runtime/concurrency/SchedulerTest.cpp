@@ -3,8 +3,8 @@
 #include <functional>
 #include <vector>
 
+#include "fakes/RuntimeTest.h"
 #include "runtime/concurrency/Worker.h"
-#include "support/RuntimeTest.h"
 
 namespace tavrelkin {
 namespace {

@@ -3,10 +3,10 @@
 #include <memory>
 #include <string>
 
+#include "fakes/RuntimeTest.h"
 #include "runtime/concurrency/Fiber.h"
 #include "runtime/concurrency/Timer.h"
 #include "runtime/concurrency/Worker.h"
-#include "support/RuntimeTest.h"
 
 namespace tavrelkin {
 namespace {

@@ -1,8 +1,8 @@
 #include <QApplication>
 #include <QKeyEvent>
 
+#include "fakes/RuntimeTest.h"
 #include "runtime/desktop/native/ToolkitOptionKey.h"
-#include "support/RuntimeTest.h"
 
 namespace tavrelkin {
 namespace {

@@ -13,8 +13,8 @@
 #include <sys/xattr.h>
 #include <unistd.h>
 
-#include "support/RuntimeTest.h"
-#include "support/TemporaryFolder.h"
+#include "fakes/RuntimeTest.h"
+#include "fakes/TemporaryFolder.h"
 
 namespace tavrelkin {
 namespace {

@@ -20,8 +20,8 @@
 
 #include <gtest/gtest.h>
 
+#include "fakes/TemporaryFolder.h"
 #include "runtime/desktop/native/NativeDesktop.h"
-#include "support/TemporaryFolder.h"
 
 namespace tavrelkin {
 namespace {

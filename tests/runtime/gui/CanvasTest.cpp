@@ -9,10 +9,10 @@
 #include <QMimeData>
 #include <QWidget>
 
+#include "fakes/Gestures.h"
+#include "fakes/RuntimeTest.h"
 #include "runtime/drawing/Picture.h"
 #include "runtime/gui/Canvas.h"
-#include "support/Gestures.h"
-#include "support/RuntimeTest.h"
 
 namespace tavrelkin {
 namespace {

@@ -9,12 +9,12 @@
 #include <QKeyEvent>
 #include <QWidget>
 
+#include "fakes/Gestures.h"
+#include "fakes/RuntimeTest.h"
 #include "runtime/gui/Line.h"
 #include "runtime/gui/PopupMenu.h"
 #include "runtime/gui/Slider.h"
 #include "runtime/gui/StaticText.h"
-#include "support/Gestures.h"
-#include "support/RuntimeTest.h"
 
 namespace tavrelkin {
 namespace {

@@ -4,10 +4,10 @@
 #include <QMenu>
 #include <QMenuBar>
 
+#include "fakes/Gestures.h"
+#include "fakes/RuntimeTest.h"
 #include "runtime/gui/Application.h"
 #include "runtime/qt/WindowWidget.h"
-#include "support/Gestures.h"
-#include "support/RuntimeTest.h"
 
 namespace tavrelkin {
 namespace {

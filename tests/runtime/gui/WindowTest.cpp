@@ -5,13 +5,13 @@
 
 #include <QWidget>
 
+#include "fakes/Gestures.h"
+#include "fakes/RuntimeTest.h"
 #include "runtime/gui/Application.h"
 #include "runtime/gui/Canvas.h"
 #include "runtime/gui/PushButton.h"
 #include "runtime/gui/Slider.h"
 #include "runtime/qt/WindowWidget.h"
-#include "support/Gestures.h"
-#include "support/RuntimeTest.h"
 
 namespace tavrelkin {
 namespace {

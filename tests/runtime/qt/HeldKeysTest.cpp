@@ -4,8 +4,8 @@
 #include <QKeyEvent>
 #include <QWindow>
 
+#include "fakes/RuntimeTest.h"
 #include "runtime/qt/HeldKeys.h"
-#include "support/RuntimeTest.h"
 
 namespace tavrelkin {
 

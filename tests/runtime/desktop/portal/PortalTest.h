@@ -10,9 +10,9 @@
 
 #include <gtest/gtest.h>
 
-#include "support/RuntimeTest.h"
-#include "support/portal/FakePortal.h"
-#include "support/portal/MessageBus.h"
+#include "fakes/RuntimeTest.h"
+#include "fakes/portal/FakePortal.h"
+#include "fakes/portal/MessageBus.h"
 
 namespace tavrelkin::test {
 

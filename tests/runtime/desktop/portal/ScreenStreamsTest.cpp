@@ -10,9 +10,9 @@
 
 #include <gtest/gtest.h>
 
+#include "fakes/RuntimeTest.h"
+#include "fakes/portal/ScreenProducer.h"
 #include "runtime/desktop/portal/ScreenStreams.h"
-#include "support/RuntimeTest.h"
-#include "support/portal/ScreenProducer.h"
 
 namespace tavrelkin {
 namespace {

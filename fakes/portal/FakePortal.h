@@ -1,0 +1,85 @@
+#pragma once
+
+#include <chrono>
+#include <cstdint>
+#include <functional>
+#include <map>
+
+#include <QDBusMessage>
+#include <QDBusVirtualObject>
+#include <QList>
+#include <QMetaType>
+#include <QPoint>
+#include <QSize>
+#include <QString>
+#include <QStringList>
+#include <QVariant>
+
+#include "fakes/portal/MessageBus.h"
+
+namespace tavrelkin::test {
+
+// Values in the form that the portal gives them.
+struct PortalStream {  // (ua{sv})
+  std::uint32_t node = 0;
+  QVariantMap properties;
+};
+struct PortalColour {  // (ddd), each from 0 to 1
+  double red = 0;
+  double green = 0;
+  double blue = 0;
+};
+
+PortalStream monitor(std::uint32_t node, QPoint position, QSize size);
+
+// The desktop portal on a bus, played: it grants all that is asked at once, unless told otherwise.
+class FakePortal : public QDBusVirtualObject {
+ public:
+  explicit FakePortal(const QString& busAddress);
+
+  // The properties of the interfaces ScreenCast and Screenshot; without any the interface is not there.
+  QVariantMap cast;
+  QVariantMap screenshot;
+
+  QList<PortalStream> streams{monitor(1, {0, 0}, {1280, 1024})};
+  QString token = QStringLiteral("first token");  // that Start gives
+  PortalColour colour;                            // that the user picks
+  std::function<int()> connectPipeWire;           // gives an open file descriptor, which is closed afterwards
+
+  // By the name of the method: arguments in place of the right ones, methods that are not replied to, and methods
+  // whose Response waits for respond().
+  std::map<QString, QVariantList> replies;
+  std::map<QString, QVariantList> responses;
+  QStringList mute;
+  QStringList undecided;
+  std::chrono::milliseconds delay{0};  // before each Response
+
+  // What the program did: the options of its last call of each method, how often it called, and the paths of requests
+  // and sessions that are still open.
+  std::map<QString, QVariantMap> options;
+  std::map<QString, int> calls;
+  QStringList open;
+  QString session;  // the path of the last one
+
+  // Sends the Response of the last call of the method.
+  void respond(const QString& method);
+
+  // Closes the last session, as a user or a desktop may.
+  void closeSession();
+
+  QString introspect(const QString&) const override { return {}; }
+  bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override;
+
+ private:
+  QVariantList replyTo(const QDBusMessage& call);
+  QVariantList responseOf(const QString& method) const;
+  void send(const QString& path, const QString& interface, const QString& name, const QVariantList& arguments);
+
+  BusConnection connection_;
+  std::map<QString, QString> requests_;  // the path of the last call of each method
+};
+
+}  // namespace tavrelkin::test
+
+Q_DECLARE_METATYPE(tavrelkin::test::PortalStream)
+Q_DECLARE_METATYPE(tavrelkin::test::PortalColour)
