@@ -7,8 +7,8 @@
 #include <QWidget>
 
 #include "bench/support/Figures.h"
+#include "color/DistinctColors.h"
 #include "favourites/frmFav.h"
-#include "toolwindow/DistinctColours.h"
 
 namespace tavrelkin::bench {
 
@@ -52,7 +52,7 @@ void paintPalette(benchmark::State& state) {
 }
 
 // Over a sample at zoom step 1, of pixels that all differ.
-void findDistinctColours(benchmark::State& state, std::size_t most) {
+void findDistinctColors(benchmark::State& state, std::size_t most) {
   const Ref<Picture> picture = NewPicture(103, 49, 32);
   for (Int32 y = 0; y < picture->Height(); ++y) {
     for (Int32 x = 0; x < picture->Width(); ++x)
@@ -60,7 +60,7 @@ void findDistinctColours(benchmark::State& state, std::size_t most) {
   }
   std::vector<Color> found;
   for (auto _ : state)
-    benchmark::DoNotOptimize(found = distinctColours(*picture, most));
+    benchmark::DoNotOptimize(found = distinctColors(*picture, most));
   if (found.size() != most) state.SkipWithError("The noise has too few colours.");
 }
 
@@ -105,7 +105,7 @@ void addControlBenchmarks(frmVesk& window, test::Hand& hand) {
   add("palette", paintPalette)->MinTime(0.1);
   for (const std::size_t most : {112u, 255u}) {
     add("distinct " + std::to_string(most), [most](benchmark::State& state) {
-      findDistinctColours(state, most);
+      findDistinctColors(state, most);
     })->MinTime(0.1);
   }
   add("drag", [&red, &hand](benchmark::State& state) { dragBar(state, red, hand); })->Iterations(kMoves);

@@ -27,7 +27,7 @@ using test::Area;
 
 constexpr int kStarts = 7;
 constexpr int kMoves = 60;
-constexpr std::uint32_t kColours[] = {0x2F6CA8, 0xB8552D};
+constexpr std::uint32_t kColors[] = {0x2F6CA8, 0xB8552D};
 // Below all windows, which are put at the middle of the screen.
 constexpr Area kPatches[] = {{140, 800, 440, 190}, {700, 800, 440, 190}};
 constexpr ScreenPoint kPoints[] = {{360, 895}, {920, 895}};
@@ -63,7 +63,7 @@ std::optional<Area> followingPixel(PeerDesktop& desktop, const RunningProgram& r
     shown[i] = running.shown();
   }
   for (std::size_t i = 0; i < shown[0].size(); ++i) {
-    if (shown[0][i] != desktop.client.shown(kColours[0]) || shown[1][i] != desktop.client.shown(kColours[1])) continue;
+    if (shown[0][i] != desktop.client.shown(kColors[0]) || shown[1][i] != desktop.client.shown(kColors[1])) continue;
     const Area& area = running.area();
     const auto x = static_cast<std::int16_t>(area.x + static_cast<int>(i % area.width));
     const auto y = static_cast<std::int16_t>(area.y + static_cast<int>(i / area.width));
@@ -80,7 +80,7 @@ double medianLatency(PeerDesktop& desktop, const Area& pixel) {
     const auto next = Clock::now() + std::chrono::microseconds(pause(random)) + 50ms;
     const auto begun = Clock::now();
     desktop.hand.moveTo(kPoints[i % 2]);
-    while (desktop.client.read(pixel)[0] != desktop.client.shown(kColours[i % 2])) {
+    while (desktop.client.read(pixel)[0] != desktop.client.shown(kColors[i % 2])) {
       if (Clock::now() - begun > 2s) throw std::runtime_error("A program stops to follow.");
       std::this_thread::sleep_for(50us);
     }
@@ -104,7 +104,7 @@ void measureFollowing(PeerDesktop& desktop, const Program& program, Figures& fig
   xcb_window_t patches[2];
   for (const int i : {0, 1}) {
     patches[i] = desktop.client.open(kPatches[i]);
-    desktop.client.fill(patches[i], kColours[i]);
+    desktop.client.fill(patches[i], kColors[i]);
   }
   if (const auto pixel = followingPixel(desktop, running)) {
     figures.latency = fixed(medianLatency(desktop, *pixel), 1) + " ms";

@@ -26,7 +26,7 @@ class FakeDesktop : public Desktop, public ScreenReader {
   // What the desktop does when the program asks for the screen.
   std::function<void(Picked)> requested = [](const Picked&) {};
   // What the user does in the colour dialog, given the colour that it begins at: nothing is giving up.
-  std::function<std::optional<std::uint32_t>(std::uint32_t)> colourChoice = [](std::uint32_t) { return std::nullopt; };
+  std::function<std::optional<std::uint32_t>(std::uint32_t)> colorChoice = [](std::uint32_t) { return std::nullopt; };
   // What the user does in the save dialog, given the name that it begins with: a path, or nothing for giving up.
   std::function<std::optional<std::string>(const std::string&)> saveChoice = [](const std::string&) {
     return std::nullopt;
@@ -38,7 +38,7 @@ class FakeDesktop : public Desktop, public ScreenReader {
   // What the program did.
   std::vector<std::string> messages;
   std::vector<ScreenPoint> pixelsRead;
-  std::vector<std::string> colourPrompts;
+  std::vector<std::string> colorPrompts;
   std::vector<std::string> saveNames;
   int turns = 0;
   bool watchesScreen() const { return static_cast<bool>(changed_); }
@@ -70,8 +70,8 @@ class FakeDesktop : public Desktop, public ScreenReader {
   std::unique_ptr<Alarm> newAlarm(std::function<void()> ring) override;
   void messageBox(const std::string& text) override { messages.push_back(text); }
   std::optional<std::uint32_t> selectColor(std::uint32_t initial, const std::string& prompt) override {
-    colourPrompts.push_back(prompt);
-    return colourChoice(initial);
+    colorPrompts.push_back(prompt);
+    return colorChoice(initial);
   }
   std::optional<std::string> chooseSaveFile(const std::string&, const std::string& name) override {
     return saveChoice(saveNames.emplace_back(name));

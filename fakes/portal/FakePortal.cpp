@@ -26,16 +26,16 @@ const QDBusArgument& operator>>(const QDBusArgument& argument, PortalStream& str
   return argument;
 }
 
-QDBusArgument& operator<<(QDBusArgument& argument, const PortalColour& colour) {
+QDBusArgument& operator<<(QDBusArgument& argument, const PortalColor& color) {
   argument.beginStructure();
-  argument << colour.red << colour.green << colour.blue;
+  argument << color.red << color.green << color.blue;
   argument.endStructure();
   return argument;
 }
 
-const QDBusArgument& operator>>(const QDBusArgument& argument, PortalColour& colour) {
+const QDBusArgument& operator>>(const QDBusArgument& argument, PortalColor& color) {
   argument.beginStructure();
-  argument >> colour.red >> colour.green >> colour.blue;
+  argument >> color.red >> color.green >> color.blue;
   argument.endStructure();
   return argument;
 }
@@ -64,7 +64,7 @@ FakePortal::FakePortal(const QString& busAddress)
       connection_(busAddress) {
   qDBusRegisterMetaType<PortalStream>();
   qDBusRegisterMetaType<QList<PortalStream>>();
-  qDBusRegisterMetaType<PortalColour>();
+  qDBusRegisterMetaType<PortalColor>();
   if (!connection_.bus.registerVirtualObject(root, this, QDBusConnection::SubPath) ||
       !connection_.bus.registerService(family + QStringLiteral("Desktop")))
     throw std::runtime_error("The bus has no place for a portal.");
@@ -122,7 +122,7 @@ QVariantList FakePortal::responseOf(const QString& method) const {
   if (const auto found = responses.find(method); found != responses.end()) return found->second;
   QVariantMap results;
   if (method == QLatin1String("CreateSession")) results[QStringLiteral("session_handle")] = session;
-  if (method == QLatin1String("PickColor")) results[QStringLiteral("color")] = QVariant::fromValue(colour);
+  if (method == QLatin1String("PickColor")) results[QStringLiteral("color")] = QVariant::fromValue(color);
   if (method == QLatin1String("Start")) {
     results[QStringLiteral("streams")] = QVariant::fromValue(streams);
     if (!token.isEmpty()) results[QStringLiteral("restore_token")] = token;

@@ -24,7 +24,7 @@ struct PortalStream {  // (ua{sv})
   std::uint32_t node = 0;
   QVariantMap properties;
 };
-struct PortalColour {  // (ddd), each from 0 to 1
+struct PortalColor {  // (ddd), each from 0 to 1
   double red = 0;
   double green = 0;
   double blue = 0;
@@ -43,7 +43,7 @@ class FakePortal : public QDBusVirtualObject {
 
   QList<PortalStream> streams{monitor(1, {0, 0}, {1280, 1024})};
   QString token = QStringLiteral("first token");  // that Start gives
-  PortalColour colour;                            // that the user picks
+  PortalColor color;                              // that the user picks
   std::function<int()> connectPipeWire;           // gives an open file descriptor, which is closed afterwards
 
   // By the name of the method: arguments in place of the right ones, methods that are not replied to, and methods
@@ -82,4 +82,4 @@ class FakePortal : public QDBusVirtualObject {
 }  // namespace tavrelkin::test
 
 Q_DECLARE_METATYPE(tavrelkin::test::PortalStream)
-Q_DECLARE_METATYPE(tavrelkin::test::PortalColour)
+Q_DECLARE_METATYPE(tavrelkin::test::PortalColor)

@@ -72,7 +72,7 @@ void PlayedDesktop::addPortalCommands() {
   commands_[QStringLiteral("mute")] = [this](auto& a) { portal_->mute << a.value(0); };
   commands_[QStringLiteral("delay")] = [this](auto& a) { portal_->delay = std::chrono::milliseconds(number(a, 0)); };
   commands_[QStringLiteral("pick")] = [this](auto& a) {
-    portal_->colour = {number(a, 0) / 255.0, number(a, 1) / 255.0, number(a, 2) / 255.0};
+    portal_->color = {number(a, 0) / 255.0, number(a, 1) / 255.0, number(a, 2) / 255.0};
   };
   commands_[QStringLiteral("close")] = [this](auto&) { portal_->closeSession(); };
   commands_[QStringLiteral("leave")] = [this](auto&) { portal_.reset(); };

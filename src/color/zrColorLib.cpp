@@ -66,8 +66,8 @@ bool getColorFromString(const String& text, Color& out) {
 }
 
 Color getColorFromDrop(const Ref<DragItem>& item) {
-  if (!item || !item->MacDataAvailable(kColourData)) return kBlack;
-  return getColorFromRGB(item->MacData(kColourData));
+  if (!item || !item->MacDataAvailable(kColorData)) return kBlack;
+  return getColorFromRGB(item->MacData(kColorData));
 }
 
 bool getColorFromTextDrop(const Ref<DragItem>& item, Color& out) {

@@ -37,10 +37,10 @@ Chromaticity chromaticity(Double x, Double y, Double z) {
   return {x / sum, y / sum};
 }
 
-Line lineOfConfusion(Chromaticity colour, Chromaticity confusion) {
-  const Double slope = colour.u < confusion.u ? (confusion.v - colour.v) / (confusion.u - colour.u)
-                                              : (colour.v - confusion.v) / (colour.u - confusion.u);
-  return {slope, colour.v - colour.u * slope};
+Line lineOfConfusion(Chromaticity color, Chromaticity confusion) {
+  const Double slope = color.u < confusion.u ? (confusion.v - color.v) / (confusion.u - color.u)
+                                             : (color.v - confusion.v) / (color.u - confusion.u);
+  return {slope, color.v - color.u * slope};
 }
 
 Line axisOfDeficiency(Chromaticity begin, Chromaticity end) {

@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "color/ColourWords.h"
-#include "controls/ColorChannel.h"
+#include "color/ColorChannel.h"
+#include "color/ColorWords.h"
 #include "controls/zrClutPalette.h"
 #include "controls/zrColorBox.h"
 #include "controls/zrColorButton.h"
@@ -41,7 +41,7 @@ class SwatchAccessible : public Accessible {
   AccessibleRole role() const override {
     return answersClicks(swatch_) ? AccessibleRole::button : AccessibleRole::picture;
   }
-  String description() const override { return colourInWordsAndNumbers(swatch_.Value); }
+  String description() const override { return colorInWordsAndNumbers(swatch_.Value); }
   void press() override { swatch_.press(); }
 
  private:
@@ -57,7 +57,7 @@ class PaletteAccessible : public Accessible {
   Cell cell(Int32 index) const override {
     const auto [x, y] = palette_.origin(index);
     const Int32 side = palette_.wBox + 2;
-    return {colourInWordsAndNumbers(palette_.TheClut->getColor(index)), x, y, side, side};
+    return {colorInWordsAndNumbers(palette_.TheClut->getColor(index)), x, y, side, side};
   }
   Int32 currentCell() const override { return palette_.Selected; }
   void pressCell(Int32 index) override { palette_.choose(index); }

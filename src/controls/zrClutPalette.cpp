@@ -4,7 +4,7 @@
 #include <utility>
 
 #include "controls/Accessibles.h"
-#include "controls/ColourDrag.h"
+#include "controls/ColorDrag.h"
 
 namespace tavrelkin {
 
@@ -23,7 +23,7 @@ void zrClutPalette::Event_Open() {
   wBox = 12;
   LastSelection = 0;
   Selected = 0;
-  ColourDrag::acceptPrivate(*this);
+  ColorDrag::acceptPrivate(*this);
   Open();
 }
 
@@ -131,13 +131,13 @@ void zrClutPalette::Event_MouseDrag(Int32 x, Int32 y) {
   }
   if (int_IsDrag || (Abs(x - int_LastX) <= kDragStart && Abs(y - int_LastY) <= kDragStart)) return;
   int_IsDrag = true;
-  ColourDrag::begin(*this, TheClut->getColor(Selected), x, y, ColourDrag::kSmall);
+  ColorDrag::begin(*this, TheClut->getColor(Selected), x, y, ColorDrag::kSmall);
 }
 
 // Goes to the selected cell, wherever it is dropped.
 void zrClutPalette::Event_DropObject(const Ref<DragItem>& item, Int32) {
   Color c;
-  if (!TheClut || !ColourDrag::takePrivate(item, c) || Selected < 0) return;
+  if (!TheClut || !ColorDrag::takePrivate(item, c) || Selected < 0) return;
   TheClut->SetColor(c, Selected);
   DrawBorder(true, Selected);
   announce(AccessibleChange::cells);

@@ -4,7 +4,7 @@
 
 #include "color/zrColorLib.h"
 #include "controls/Accessibles.h"
-#include "controls/ColourDrag.h"
+#include "controls/ColorDrag.h"
 #include "runtime/system/Keyboard.h"
 
 namespace tavrelkin {
@@ -14,7 +14,7 @@ zrColorBox::zrColorBox(Window& owner, String name) : Canvas(owner, std::move(nam
 }
 
 void zrColorBox::Event_Open() {
-  ColourDrag::accept(*this);
+  ColorDrag::accept(*this);
 }
 
 void zrColorBox::SetValue(Color c) {
@@ -46,7 +46,7 @@ bool zrColorBox::Event_MouseDown(Int32, Int32) {
 void zrColorBox::Event_MouseDrag(Int32 x, Int32 y) {
   if (IsDrag || !Keyboard::AsyncOptionKey()) return;
   IsDrag = true;
-  ColourDrag::begin(*this, Value, x, y);
+  ColorDrag::begin(*this, Value, x, y);
 }
 
 void zrColorBox::Event_MouseUp(Int32 x, Int32 y) {
@@ -62,7 +62,7 @@ bool zrColorBox::Event_KeyDown(const String& key) {
 
 void zrColorBox::Event_DropObject(const Ref<DragItem>& item, Int32) {
   Color c;
-  if (!ColourDrag::take(item, c) || !ColorDrop(c)) return;
+  if (!ColorDrag::take(item, c) || !ColorDrop(c)) return;
   SetValue(c);
   ColorChanged();
 }

@@ -5,7 +5,7 @@
 #include <utility>
 
 #include "controls/Accessibles.h"
-#include "controls/ColourDrag.h"
+#include "controls/ColorDrag.h"
 #include "runtime/gui/SelectColor.h"
 #include "runtime/system/Keyboard.h"
 
@@ -20,7 +20,7 @@ void zrColorButton::Event_Open() {
   propColorBoxWidth = 15;
   propColorFormat = 3;
   propColorSelectionPrompt = "Select Color";
-  ColourDrag::accept(*this);
+  ColorDrag::accept(*this);
   Open();
 }
 
@@ -56,7 +56,7 @@ bool zrColorButton::Event_MouseDown(Int32, Int32) {
 void zrColorButton::Event_MouseDrag(Int32 x, Int32 y) {
   if (IsDrag || !Keyboard::AsyncOptionKey()) return;
   IsDrag = true;
-  ColourDrag::begin(*this, Value, x, y);
+  ColorDrag::begin(*this, Value, x, y);
 }
 
 // Only the swatch and its frame count.
@@ -88,7 +88,7 @@ void zrColorButton::intSelectColor() {
 
 void zrColorButton::Event_DropObject(const Ref<DragItem>& item, Int32) {
   Color c;
-  if (!ColourDrag::take(item, c)) return;
+  if (!ColorDrag::take(item, c)) return;
   SetValue(c);
   Change();
 }

@@ -5,10 +5,10 @@
 #include <algorithm>
 #include <utility>
 
+#include "color/ColorChannel.h"
 #include "controls/Accessibles.h"
 #include "controls/BarPosition.h"
-#include "controls/ColorChannel.h"
-#include "controls/ColourDrag.h"
+#include "controls/ColorDrag.h"
 
 namespace tavrelkin {
 
@@ -29,7 +29,7 @@ void zrColorCHBar::Event_Open() {
   Value = 0;
   Lastx = 6;
   propColorChannel = SetColorChannel();
-  ColourDrag::accept(*this);
+  ColorDrag::accept(*this);
 }
 
 void zrColorCHBar::SetBaseColor(Color c) {
@@ -116,7 +116,7 @@ void zrColorCHBar::chooseValue(Int32 v) {
 
 void zrColorCHBar::Event_DropObject(const Ref<DragItem>& item, Int32) {
   Color c;
-  if (ColourDrag::take(item, c)) CopyChannel(c);
+  if (ColorDrag::take(item, c)) CopyChannel(c);
 }
 
 }  // namespace tavrelkin

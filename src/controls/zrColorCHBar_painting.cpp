@@ -1,6 +1,6 @@
 // How the bar looks.
 
-#include "controls/ColorChannel.h"
+#include "color/ColorChannel.h"
 #include "controls/zrColorCHBar.h"
 #include "runtime/concurrency/Thread.h"
 

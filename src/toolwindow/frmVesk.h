@@ -17,7 +17,7 @@
 #include "runtime/gui/Slider.h"
 #include "runtime/gui/StaticText.h"
 #include "runtime/gui/Window.h"
-#include "toolwindow/ColourCells.h"
+#include "toolwindow/ColorCells.h"
 
 namespace tavrelkin {
 
@@ -149,7 +149,7 @@ class frmVesk : public Window {
   // Shows a view in place of the screen, by its flag, or ends it where it is shown. It takes the place of another one.
   void toggleView(bool& shown);
   // Ends the two views that a look at the screen replaces.
-  void leaveColourViews();
+  void leaveColorViews();
   // The end of a choice in the preview.
   void take(Color c);
   void takeFromScreen();
@@ -161,7 +161,7 @@ class frmVesk : public Window {
   std::optional<Color> colorUnderPointer(Int32 x, Int32 y);
 
   // What the preview has come to show: cells, which keyboard and assistive technologies can choose, or the screen.
-  void showsCells(const char* view, std::vector<ColourCell> cells);
+  void showsCells(const char* view, std::vector<ColorCell> cells);
   void showsScreen();
   // Arrow keys go from cell to cell, and the keys of a button choose the one that they have come to, or the pixel under
   // the pointer.
@@ -169,8 +169,9 @@ class frmVesk : public Window {
   void markCell(std::size_t index);
 
   bool pressTakes_ = true;  // whether the release of the press that is held, or was last, takes a colour
-  String shownView_;
-  std::vector<ColourCell> shownCells_;
+  static constexpr auto kScreenView = "Preview";
+  String shownView_ = kScreenView;  // what the preview shows, in a word for the user
+  std::vector<ColorCell> shownCells_;
   Int32 markedCell_ = -1;
 };
 

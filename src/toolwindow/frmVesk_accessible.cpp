@@ -1,21 +1,12 @@
-// The tool window without a mouse, and without sight.
+// What the tool window and its preview are to assistive technologies.
 
 #include <memory>
-#include <utility>
 
-#include "color/ColourWords.h"
-#include "color/zrColorLib.h"
-#include "runtime/system/System.h"
+#include "color/ColorWords.h"
 #include "toolwindow/PreviewGrid.h"
 #include "toolwindow/frmVesk.h"
 
 namespace tavrelkin {
-
-namespace {
-
-constexpr auto kScreenView = "Preview";
-
-}  // namespace
 
 // The preview: a picture that tells the colour at its centre, or the cells of the view that it shows.
 class frmVesk::PreviewAccessible : public Accessible {
@@ -30,7 +21,7 @@ class frmVesk::PreviewAccessible : public Accessible {
     Canvas& canvas = window_.imgScreen;
     const PreviewGrid grid(window_.ScreenZoomValue, canvas.Width, canvas.Height);
     const Color centre = canvas.Graphics().Pixel(grid.markerX() + 1, grid.markerY() + 1);
-    return "Center: " + colourInWordsAndNumbers(centre);
+    return "Center: " + colorInWordsAndNumbers(centre);
   }
 
   bool canBePressed() const override { return true; }
@@ -38,21 +29,20 @@ class frmVesk::PreviewAccessible : public Accessible {
 
   Int32 cellCount() const override { return static_cast<Int32>(window_.shownCells_.size()); }
   Cell cell(Int32 index) const override {
-    const ColourCell& shown = at(index);
+    const ColorCell& shown = at(index);
     const String label = shown.label.empty() ? "" : shown.label + ": ";
-    return {label + colourInWordsAndNumbers(shown.colour), shown.x, shown.y, shown.side, shown.side};
+    return {label + colorInWordsAndNumbers(shown.color), shown.x, shown.y, shown.side, shown.side};
   }
   Int32 currentCell() const override { return window_.markedCell_; }
-  void pressCell(Int32 index) override { window_.take(at(index).colour); }
+  void pressCell(Int32 index) override { window_.take(at(index).color); }
 
  private:
-  const ColourCell& at(Int32 index) const { return window_.shownCells_.at(static_cast<std::size_t>(index)); }
+  const ColorCell& at(Int32 index) const { return window_.shownCells_.at(static_cast<std::size_t>(index)); }
 
   frmVesk& window_;
 };
 
 void frmVesk::nameControls() {
-  shownView_ = kScreenView;
   imgScreen.describe(std::make_unique<PreviewAccessible>(*this));
   cmdColor.AccessibleName = "Color";
   imgWebSafe.AccessibleName = "Not web-safe";
@@ -62,57 +52,6 @@ void frmVesk::nameControls() {
   StaticText2.AccessibleName = "Red, green, blue";
   StaticText3.AccessibleName = "Hue, saturation, luminosity";
   slZoom.AccessibleName = "Zoom";
-}
-
-void frmVesk::showsCells(const char* view, std::vector<ColourCell> cells) {
-  shownView_ = view;
-  shownCells_ = std::move(cells);
-  markedCell_ = -1;
-  imgScreen.announce(AccessibleChange::cells);
-}
-
-void frmVesk::showsScreen() {
-  const bool isNew = shownView_ != kScreenView;
-  shownView_ = kScreenView;
-  shownCells_.clear();
-  markedCell_ = -1;
-  imgScreen.announce(isNew ? AccessibleChange::cells : AccessibleChange::description);
-}
-
-// The label tells the cell's colour, as it does where the pointer rests on it.
-void frmVesk::markCell(std::size_t index) {
-  Graphics& g = imgScreen.Graphics();
-  if (markedCell_ >= 0) eraseMark(g, shownCells_.at(static_cast<std::size_t>(markedCell_)));
-  markedCell_ = static_cast<Int32>(index);
-  drawMark(g, shownCells_.at(index));
-  imgScreen.announce(AccessibleChange::currentCell);
-  if (!flgTrackMouse) view0_lblColor.Text = getStdColorString(shownCells_.at(index).colour);
-}
-
-bool frmVesk::imgScreen_KeyDown(const String& key) {
-  const bool isMarked = markedCell_ >= 0;
-  const std::size_t marked = isMarked ? static_cast<std::size_t>(markedCell_) : 0;
-  if (isPressKey(key)) {
-    if (isMarked) {
-      take(shownCells_.at(marked).colour);
-    } else {
-      takeFromScreen();
-    }
-    return true;
-  }
-  const bool isArrow = key == kLeftArrow || key == kRightArrow || key == kUpArrow || key == kDownArrow;
-  if (!isArrow || shownCells_.empty()) return false;
-  markCell(isMarked ? cellTowards(shownCells_, marked, key) : 0);
-  return true;
-}
-
-void frmVesk::takeFromScreen() {
-  if (requestScreen()) take(System::Pixel(System::MouseX(), System::MouseY()));
-}
-
-void frmVesk::take(Color c) {
-  leaveColourViews();
-  setColor(c, false);
 }
 
 }  // namespace tavrelkin

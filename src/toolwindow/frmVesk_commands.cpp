@@ -33,7 +33,7 @@ bool frmVesk::mnuFollow() {
     flgTrackMouse = false;
     pokeMouse.Kill();
   } else {
-    leaveColourViews();
+    leaveColorViews();
     System::RequestScreen();
     rememberPointer();
     flgTrackMouse = true;

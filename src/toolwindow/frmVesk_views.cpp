@@ -1,13 +1,14 @@
-// What the preview shows: the screen, or one of three views in its place.
+// What the preview shows: the screen, or one of three views in its place, whose cells the keys choose.
 
 #include <array>
 #include <utility>
 
+#include "color/DistinctColors.h"
+#include "color/Suggestions.h"
+#include "color/zrColorLib.h"
 #include "color/zrXYZ.h"
 #include "favourites/frmFav.h"
-#include "toolwindow/ColourCells.h"
-#include "toolwindow/DistinctColours.h"
-#include "toolwindow/Suggestions.h"
+#include "toolwindow/ColorCells.h"
 #include "toolwindow/frmVesk.h"
 
 namespace tavrelkin {
@@ -46,7 +47,7 @@ void frmVesk::toggleView(bool& shown) {
   menuItem("mnuShowColors").Checked = flgShowColorsInScreen;
 }
 
-void frmVesk::leaveColourViews() {
+void frmVesk::leaveColorViews() {
   flgShowSuggestions = false;
   menuItem("mnuViewSuggestions").Checked = false;
   flgShowColorsInScreen = false;
@@ -58,7 +59,7 @@ void frmVesk::drawSuggestions(Graphics* g) {
 }
 
 void frmVesk::drawColorsInScreen(Graphics* g) {
-  if (g) showsCells("Colors in preview", drawCells(*g, distinctColours(*zoomImage, 112)));
+  if (g) showsCells("Colors in preview", drawCells(*g, distinctColors(*zoomImage, 112)));
 }
 
 // The window is up before its colours arrive.
@@ -66,7 +67,7 @@ void frmVesk::saveColorsInScreen() {
   const Ref<frmFav> window = New<frmFav>();
   window->Show();
   window->NewClut();
-  for (const Color c : distinctColours(*zoomImage, 255))
+  for (const Color c : distinctColors(*zoomImage, 255))
     window->DoAddColor(c);
   window->SetFocus();
 }
@@ -80,15 +81,15 @@ void frmVesk::drawColorBlind(Graphics* g) {
   };
   constexpr Int32 side = 40;
   constexpr std::array names{"Protanopia", "Deutanopia", "Tritanopia"};
-  std::vector<ColourCell> cells;
+  std::vector<ColorCell> cells;
   const Color c = SelectedColor;
-  zrXYZ colour(c);
+  zrXYZ color(c);
   Int32 y = 12;
   for (const auto& [gamma, text] : {Gamma{1.7, "1.7"}, {1.8, "1.8"}, {2.2, "2.2"}}) {
-    colour.gamma = gamma;
-    colour.XYZFromRGB(c);
+    color.gamma = gamma;
+    color.XYZFromRGB(c);
     for (Int32 index = 0; index < 3; ++index) {
-      const Color seen = colour.getDichromatTranformation(index, c);
+      const Color seen = color.getDichromatTranformation(index, c);
       const Int32 x = 100 + index * 48;
       drawSwatch(*g, x, y, side, seen);
       cells.push_back({seen, x, y, side, names.at(static_cast<std::size_t>(index)) + String(", gamma ") + text});
@@ -96,6 +97,48 @@ void frmVesk::drawColorBlind(Graphics* g) {
     y += 44;
   }
   showsCells("Color blind simulation", std::move(cells));
+}
+
+void frmVesk::showsCells(const char* view, std::vector<ColorCell> cells) {
+  shownView_ = view;
+  shownCells_ = std::move(cells);
+  markedCell_ = -1;
+  imgScreen.announce(AccessibleChange::cells);
+}
+
+void frmVesk::showsScreen() {
+  const bool isNew = shownView_ != kScreenView;
+  shownView_ = kScreenView;
+  shownCells_.clear();
+  markedCell_ = -1;
+  imgScreen.announce(isNew ? AccessibleChange::cells : AccessibleChange::description);
+}
+
+// The label tells the cell's colour, as it does where the pointer rests on it.
+void frmVesk::markCell(std::size_t index) {
+  Graphics& g = imgScreen.Graphics();
+  if (markedCell_ >= 0) eraseMark(g, shownCells_.at(static_cast<std::size_t>(markedCell_)));
+  markedCell_ = static_cast<Int32>(index);
+  drawMark(g, shownCells_.at(index));
+  imgScreen.announce(AccessibleChange::currentCell);
+  if (!flgTrackMouse) view0_lblColor.Text = getStdColorString(shownCells_.at(index).color);
+}
+
+bool frmVesk::imgScreen_KeyDown(const String& key) {
+  const bool isMarked = markedCell_ >= 0;
+  const std::size_t marked = isMarked ? static_cast<std::size_t>(markedCell_) : 0;
+  if (isPressKey(key)) {
+    if (isMarked) {
+      take(shownCells_.at(marked).color);
+    } else {
+      takeFromScreen();
+    }
+    return true;
+  }
+  const bool isArrow = key == kLeftArrow || key == kRightArrow || key == kUpArrow || key == kDownArrow;
+  if (!isArrow || shownCells_.empty()) return false;
+  markCell(isMarked ? cellTowards(shownCells_, marked, key) : 0);
+  return true;
 }
 
 }  // namespace tavrelkin

@@ -74,7 +74,7 @@ TEST(DichromatTest, SeesTheTable) {
   EXPECT_EQ(rows, 14);
 }
 
-TEST(DichromatTest, AGammaWrittenAfterwardsOnlyEncodesUntilAColourIsTaken) {
+TEST(DichromatTest, AGammaWrittenAfterwardsOnlyEncodesUntilAColorIsTaken) {
   zrXYZ xyz(Color{0x336699});
   EXPECT_EQ(seen(xyz), (Seen{0x536194, 0x496399, 0x256D75}));
   xyz.gamma = 1.0;
@@ -99,23 +99,23 @@ TEST(DichromatTest, EndsAtTheBoundsForGammasWithoutSense) {
 }
 
 // Each of these divides by zero or starts from what is no number.
-TEST(DichromatTest, AnyTristimulusValuesGiveAColour) {
+TEST(DichromatTest, AnyTristimulusValuesGiveAColor) {
   const std::tuple<Double, Double, Double, Int32, Color> rows[] = {
       {0.5, 0.5, -1, 0, RGB(0, 182, 255)}, {0.5, 0.5, -1, 2, RGB(0, 209, 213)},
       {kNaN, kNaN, kNaN, 0, kBlack},       {kInfinity, 0.5, -kInfinity, 2, kBlack},
       {0.5, kInfinity, 0.5, 1, kBlack},    {0.171, 0.5, 0.329, 2, kBlack},  // above the confusion point
   };
-  for (const auto& [x, y, z, index, colour] : rows) {
+  for (const auto& [x, y, z, index, color] : rows) {
     zrXYZ xyz(kWhite);
     set(xyz, x, y, z);
-    EXPECT_EQ(xyz.getDichromatTranformation(index, kWhite), colour) << x << ", " << y << ", " << z;
+    EXPECT_EQ(xyz.getDichromatTranformation(index, kWhite), color) << x << ", " << y << ", " << z;
   }
   for (const Int32 index : {-1, 3})
     EXPECT_THROW(zrXYZ(kWhite).getDichromatTranformation(index, kWhite), OutOfBoundsException) << index;
 }
 
 // The two ways back to a colour. A factor that is off by its last digit changes one of the rows with large values.
-TEST(zrXYZTest, ConvertsToAColourAndToWholeParts) {
+TEST(zrXYZTest, ConvertsToAColorAndToWholeParts) {
   const std::tuple<Double, Double, Double, Color, Color> rows[] = {
       {0.3, 0.3, 0.3, RGB(91, 72, 69), kBlack},
       {0.1, 0.5, 0.2, RGB(0, 216, 27), kBlack},                // red is -123.8

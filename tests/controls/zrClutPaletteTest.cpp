@@ -86,7 +86,7 @@ TEST_F(zrClutPaletteTest, APaintWipesTheMarkAndKeepsTheSelection) {
   EXPECT_EQ(palette.Selected, 42);
 }
 
-TEST_F(zrClutPaletteTest, ADragBeginsBeyondSixPixelsWithAColourSelected) {
+TEST_F(zrClutPaletteTest, ADragBeginsBeyondSixPixelsWithAColorSelected) {
   const std::tuple<Int32, Int32, Int32, bool> rows[] = {{42, 7, 0, true},    {42, 0, -7, true},   {42, 6, 6, false},
                                                         {42, -6, -6, false}, {-1, 50, 50, false}, {256, 50, 0, false}};
   show(kLast);

@@ -52,7 +52,7 @@ TEST_F(zrColorBoxTest, AClickCountsInsideButNotInTheFirstRowAndColumn) {
   }
 }
 
-TEST_F(zrColorBoxTest, WithTheOptionKeyAColourIsCarriedAwayInEachForm) {
+TEST_F(zrColorBoxTest, WithTheOptionKeyAColorIsCarriedAwayInEachForm) {
   host->box.SetValue(kOrange);
   host->button.SetValue(kOrange);
   for (const Canvas* source : sources) {

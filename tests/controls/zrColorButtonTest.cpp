@@ -88,12 +88,12 @@ TEST_F(zrColorButtonTest, OnlyAReleaseOnTheSwatchIsAClick) {
     gesture::release(button, x, y);
     EXPECT_EQ(host->log, counts ? "before-000000 button-000000 " : "") << x << ", " << y << " of " << width;
   }
-  EXPECT_EQ(fake().colourPrompts, std::vector<std::string>(3, "Select Color"));
+  EXPECT_EQ(fake().colorPrompts, std::vector<std::string>(3, "Select Color"));
 }
 
 TEST_F(zrColorButtonTest, TheEndOfTheDialogIsAnActionWhetherChosenOrCancelled) {
   std::optional<std::uint32_t> choice;
-  fake().colourChoice = [&](std::uint32_t initial) {
+  fake().colorChoice = [&](std::uint32_t initial) {
     host->note("dialog", Color{initial});
     return choice;
   };

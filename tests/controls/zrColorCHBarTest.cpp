@@ -13,7 +13,7 @@ class zrColorCHBarTest : public ControlsTest {
   }
 };
 
-TEST_F(zrColorCHBarTest, ABaseColourGivesTheChannelsValueAndTip) {
+TEST_F(zrColorCHBarTest, ABaseColorGivesTheChannelsValueAndTip) {
   const std::tuple<Int32, std::uint32_t, Int32, const char*> rows[] = {
       {0, 0x80FF00, 128, "Red 128"},        {1, 0x128034, 128, "Green 128"},    {2, 0x123407, 7, "Blue 7"},
       {3, 0xFF8000, 21, "Hue 008"},         {3, 0x00FFFF, 127, "Hue 050"},      {3, 0xFF0001, 254, "Hue 100"},
@@ -51,7 +51,7 @@ TEST_F(zrColorCHBarTest, APressCountsOnTheIndicatorOnly) {
   EXPECT_EQ(taken, "++++---");
 }
 
-TEST_F(zrColorCHBarTest, ADragChangesTheValueButTheColourOnlyAtItsEnd) {
+TEST_F(zrColorCHBarTest, ADragChangesTheValueButTheColorOnlyAtItsEnd) {
   zrColorCHBar& bar = open(0, Color{0x804020});
   gesture::press(bar, 60, 5);
   gesture::dragTo(bar, 6, 5);
@@ -75,7 +75,7 @@ TEST_F(zrColorCHBarTest, AnyKeyRaisesChangeAndOnlyArrowsStep) {
   EXPECT_EQ(bar.Lastx, 117) << "closer to the end than by the host's hand";
 }
 
-TEST_F(zrColorCHBarTest, ADroppedColourGivesItsChannelOnly) {
+TEST_F(zrColorCHBarTest, ADroppedColorGivesItsChannelOnly) {
   const std::tuple<Int32, const char*, Int32> rows[] = {
       {1, "action-118033 ", 59}, {3, "action-332211 ", 10}, {4, "action-001A33 ", 118}, {5, "action-55AAFF ", 118}};
   const Ref<DragItem> item = New<DragItem>();

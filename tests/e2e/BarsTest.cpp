@@ -15,7 +15,7 @@ constexpr std::uint32_t kGround = 0xCCCCCC;
 
 using BarsTest = UnfoldedToolWindowTest;
 
-TEST_F(BarsTest, ADragShowsTheTipAndGivesTheColourAtItsEnd) {
+TEST_F(BarsTest, ADragShowsTheTipAndGivesTheColorAtItsEnd) {
   session_.hand.moveTo(tool_.onBar(0, 53));
   session_.hand.pressButton();
   session_.hand.moveTo(tool_.onBar(0, 60));
@@ -65,7 +65,7 @@ TEST_F(BarsTest, AHeldReturnOpensOneDialog) {
   EXPECT_EQ(session_.windows.titled("Select Color"), std::vector{dialog});
 }
 
-TEST_F(BarsTest, AColourPickedInTheDialogGoesToTheButtonAlone) {
+TEST_F(BarsTest, AColorPickedInTheDialogGoesToTheButtonAlone) {
   session_.clipboard.copy("#12AB34");
   for (const auto& [lastKey, expected] : {std::pair{"Escape", 0x70ABFFU}, {"Return", 0x12AB34U}}) {
     tool_.click(28, 16);

@@ -17,16 +17,16 @@ using namespace std::chrono_literals;
 //
 // It says "ready" when it can be used, then "over" for each drag of its own that has ended, whatever became of it, and
 // each colour that the button takes, as four hexadecimal digits a channel.
-struct ForeignColours {
+struct ForeignColors {
   static constexpr ScreenPoint kButton{930, 630};  // #12ABF0
-  static constexpr ScreenPoint kShortColour{990, 630};
-  static constexpr ScreenPoint kLongColourAndText{1050, 630};  // the text is #00C0FF
-  static constexpr ScreenPoint kText{1110, 630};               // #C000FF
-  static constexpr ScreenPoint kFile{930, 690};                // its address has two dots
-  static constexpr ScreenPoint kHugeText{990, 690};            // 100 MB, with two dots
-  static constexpr ScreenPoint kSilence{1050, 690};            // a colour and a text that don't come for a minute
+  static constexpr ScreenPoint kShortColor{990, 630};
+  static constexpr ScreenPoint kLongColorAndText{1050, 630};  // the text is #00C0FF
+  static constexpr ScreenPoint kText{1110, 630};              // #C000FF
+  static constexpr ScreenPoint kFile{930, 690};               // its address has two dots
+  static constexpr ScreenPoint kHugeText{990, 690};           // 100 MB, with two dots
+  static constexpr ScreenPoint kSilence{1050, 690};           // a colour and a text that don't come for a minute
 
-  explicit ForeignColours(const XServer& server)
+  explicit ForeignColors(const XServer& server)
       : process({"/usr/bin/python3", TAVRELKIN_FOREIGN_COLOURS}, server.environment()) {
     process.firstLine();
   }
@@ -39,7 +39,7 @@ struct ForeignColours {
 class ExchangeTest : public UnfoldedToolWindowTest {
  protected:
   // A drag is over when both programs say so; only then may the next one begin.
-  void dragOut(const ForeignColours& foreign, ScreenPoint from, ScreenPoint to) {
+  void dragOut(const ForeignColors& foreign, ScreenPoint from, ScreenPoint to) {
     const auto before = foreign.said().size();
     session_.hand.drag(from, to);
     ASSERT_TRUE(waitUntil([&] { return foreign.said().find("over", before) != std::string::npos; }));
@@ -58,7 +58,7 @@ class ExchangeTest : public UnfoldedToolWindowTest {
   std::uint32_t pasted_ = 0x123456;
 };
 
-TEST_F(ExchangeTest, ColoursAreDraggedFromWindowToWindow) {
+TEST_F(ExchangeTest, ColorsAreDraggedFromWindowToWindow) {
   tool_.keys("Ctrl+N");
   ToolWindow other(session_, session_.waitForWindow("Color: ", 2));
   session_.bringToFront(other.window());
@@ -91,30 +91,30 @@ TEST_F(ExchangeTest, ColoursAreDraggedFromWindowToWindow) {
   EXPECT_TRUE(other.paste(0x102030)) << "alive, though the window is gone that the drag came from";
 }
 
-TEST_F(ExchangeTest, AnotherProgramGivesAndTakesColours) {
-  const ForeignColours foreign(session_.server);
+TEST_F(ExchangeTest, AnotherProgramGivesAndTakesColors) {
+  const ForeignColors foreign(session_.server);
   const struct {
     ScreenPoint from;
     int bar;
     std::uint32_t expected;
     const char* why;
   } rows[] = {
-      {ForeignColours::kButton, 0, 0x12ABFF, "a colour"},
-      {ForeignColours::kLongColourAndText, 1, 0x12C0FF, "the text alone counts"},
-      {ForeignColours::kText, 0, 0xC0C0FF, "a text"},
-      {ForeignColours::kShortColour, 1, 0xC0C0FF, "a malformed colour is none"},
+      {ForeignColors::kButton, 0, 0x12ABFF, "a colour"},
+      {ForeignColors::kLongColorAndText, 1, 0x12C0FF, "the text alone counts"},
+      {ForeignColors::kText, 0, 0xC0C0FF, "a text"},
+      {ForeignColors::kShortColor, 1, 0xC0C0FF, "a malformed colour is none"},
   };
   for (const auto& row : rows) {
     dragOut(foreign, row.from, tool_.onBar(row.bar, 20));
     EXPECT_TRUE(tool_.getsTitleOf(row.expected)) << row.why;
   }
-  session_.hand.altDrag(tool_.onSwatch(), ForeignColours::kButton);
+  session_.hand.altDrag(tool_.onSwatch(), ForeignColors::kButton);
   EXPECT_TRUE(waitUntil([&] { return foreign.said().ends_with("C0C0C0C0FFFF\n"); })) << foreign.said();
 }
 
-TEST_F(ExchangeTest, HugeAndSilentDropsAndFilesAreNoColours) {
-  for (const ScreenPoint& from : {ForeignColours::kFile, ForeignColours::kHugeText, ForeignColours::kSilence}) {
-    const ForeignColours foreign(session_.server);
+TEST_F(ExchangeTest, HugeAndSilentDropsAndFilesAreNoColors) {
+  for (const ScreenPoint& from : {ForeignColors::kFile, ForeignColors::kHugeText, ForeignColors::kSilence}) {
+    const ForeignColors foreign(session_.server);
     const std::string title = tool_.title();
     expectNoHarm([&] {
       session_.hand.drag(from, tool_.onBar(0, 20));

@@ -92,7 +92,7 @@ TEST_F(FavouritesTest, AreMadeWhenAbsentReadWhenEmptyAndKeptWhenSaved) {
   EXPECT_TRUE(waitUntil([&] { return bytesOf(file).size() == 4 + 257 * 10; })) << "one entry more than before";
 }
 
-TEST_F(FavouritesTest, ANewPaletteIsSavedUnderANameOfTheUsersAndColoursAreDraggedFromIt) {
+TEST_F(FavouritesTest, ANewPaletteIsSavedUnderANameOfTheUsersAndColorsAreDraggedFromIt) {
   tool_.keys("Ctrl+Shift+N");
   Palette palette(session_, "Untitled Colors");
   palette.moveTo(600, 60);

@@ -134,7 +134,7 @@ TEST_F(WaylandSessionTest, GoesOnWhenTheMonitorsChange) {
   EXPECT_TRUE(shows({803, -196}, screen));
 }
 
-TEST_F(WaylandSessionTest, PokeTakesThePickedColourWhereTheDesktopDoesNotTellThePointer) {
+TEST_F(WaylandSessionTest, PokeTakesThePickedColorWhereTheDesktopDoesNotTellThePointer) {
   desktop({"modes 3", "picker 2", "pick 18 52 86"});
   tool_.keys("Ctrl+Alt+P");
   EXPECT_TRUE(tool_.getsTitleOf(0x123456));

@@ -20,7 +20,7 @@ class WindowsTest : public ToolWindowTest {
   }
 };
 
-TEST_F(WindowsTest, OpenFoldedInTheFirstOnesColourAndEndTheProgramWithTheLastOne) {
+TEST_F(WindowsTest, OpenFoldedInTheFirstOnesColorAndEndTheProgramWithTheLastOne) {
   EXPECT_TRUE(tool_.getsTitleOf(0x70ABFF));
   EXPECT_EQ(session_.windows.property(tool_.window(), "WM_CLASS"), std::string("tavrelkin\0tavrelkin\0", 20));
   const auto icon = session_.windows.numbers(tool_.window(), "_NET_WM_ICON");

@@ -50,7 +50,7 @@ class frmFavTest : public RuntimeTest {
   Ref<frmFav> window;
 };
 
-TEST_F(frmFavTest, TheSelectedColourIsShownAndCopiedWithAHash) {
+TEST_F(frmFavTest, TheSelectedColorIsShownAndCopiedWithAHash) {
   selectOrange();
   EXPECT_EQ(window->lblColor.Text.get(), kOrangeLabel);
   EXPECT_EQ(window->cRect.Value, kOrange);
@@ -65,7 +65,7 @@ TEST_F(frmFavTest, TheSelectedColourIsShownAndCopiedWithAHash) {
   EXPECT_EQ(window->lblColor.Text.get(), kOrangeLabel);
 }
 
-TEST_F(frmFavTest, APasteOrDropChangesTheSelectedColourAndLeavesTheDisplays) {
+TEST_F(frmFavTest, APasteOrDropChangesTheSelectedColorAndLeavesTheDisplays) {
   selectOrange();
   for (const char* text : {"nonsense", " #123456\n"}) {
     EXPECT_EQ(window->TheClut->getColor(12), kOrange) << "ahead of " << text;

@@ -42,7 +42,7 @@ class frmColorBlindTest : public RuntimeTest {
   const Ref<frmColorBlind> window = New<frmColorBlind>();
 };
 
-TEST_F(frmColorBlindTest, PasteSimulatesWhatReadsAsAColourAndIgnoresTheRest) {
+TEST_F(frmColorBlindTest, PasteSimulatesWhatReadsAsAColorAndIgnoresTheRest) {
   paste("255.128.0");
   expectResults(Color{0xFF0000}, 1.8);
   window->txtGamma.SetFocus();

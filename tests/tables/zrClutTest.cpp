@@ -126,7 +126,7 @@ class SwatchFilesTest : public RuntimeTest {
   const TemporaryFolder folder;
 };
 
-TEST_F(SwatchFilesTest, ANewTableIsWrittenAs256WhiteColours) {
+TEST_F(SwatchFilesTest, ANewTableIsWrittenAs256WhiteColors) {
   const auto table = New<zrClut>();
   String expected = word(1) + word(256);
   for (int i = 0; i < 256; ++i)
@@ -158,7 +158,7 @@ TEST_F(SwatchFilesTest, OnlyHighBytesAreLookedAt) {
   EXPECT_EQ(table->getColor(1), kWhite);
 }
 
-TEST_F(SwatchFilesTest, AColourTableIs256TriplesOfWhichTheLastIsNeverRead) {
+TEST_F(SwatchFilesTest, AColorTableIs256TriplesOfWhichTheLastIsNeverRead) {
   EXPECT_EQ(writtenClut(*readClut(triples(400))), triples(255) + String(3, '\xFF'));
   const auto few = readSwatch(swatch(2, 2));
   for (const Int32 count : {2, 255}) {

@@ -48,7 +48,7 @@ class zrPixMapTest : public RuntimeTest {
   Ref<zrPixMap> fresh = New<zrPixMap>();
 };
 
-TEST_F(zrPixMapTest, ColoursFollowBlackAndWhiteAsTheyAppear) {
+TEST_F(zrPixMapTest, ColorsFollowBlackAndWhiteAsTheyAppear) {
   fresh->hexadecimal = true;
   const Bits pixels{0x00FF00, 0xFFFFFF, 1, 0x00FF00, 0, 1};
   fresh->CreateFromPicture(pictureOf(2, pixels));
@@ -63,7 +63,7 @@ TEST_F(zrPixMapTest, ColoursFollowBlackAndWhiteAsTheyAppear) {
   EXPECT_EQ(map->getPixMapData(), "H00030120020000FFFFFFFFFF000002010102") << "first colour and mask stay";
 }
 
-TEST_F(zrPixMapTest, AFullTableGivesTheFirstEntryForFurtherColours) {
+TEST_F(zrPixMapTest, AFullTableGivesTheFirstEntryForFurtherColors) {
   Bits pixels;
   String indexes;
   for (Int32 i = 0; i < 255; ++i) {
@@ -89,7 +89,7 @@ TEST_F(zrPixMapTest, WhatIsTooLargeOrNoPictureIsRefused) {
   EXPECT_THROW(map->GetColor(4), OutOfBoundsException);
 }
 
-TEST_F(zrPixMapTest, TheTransparentColourIsFoundOrAddedAndTakes32Bits) {
+TEST_F(zrPixMapTest, TheTransparentColorIsFoundOrAddedAndTakes32Bits) {
   const std::tuple<std::uint32_t, Int32, Int32> rows[] = {{0xFF00FF, 4, 32}, {0xFFFFFF, 1, 32}, {0, 0, 24}};
   for (const auto& [color, index, depth] : rows) {
     map->setMaskColor(Color{color});

@@ -13,7 +13,7 @@ constexpr int kKeyLeft = 0x01000012;
 
 using CoreTest = ToolWindowTest;
 
-TEST_F(CoreTest, OpensIdleAtTheStartColour) {
+TEST_F(CoreTest, OpensIdleAtTheStartColor) {
   EXPECT_EQ(window->Title.get(), "Color: 112.171.255, #70ABFF");
   EXPECT_EQ(window->view0_lblColor.Text.get(), "Color: 112.171.255, 215.56.100, #70ABFF");
   EXPECT_FALSE(window->rTIP.Visible);
@@ -60,7 +60,7 @@ TEST_F(CoreTest, WhatIsFoldedAwayGivesTheKeyboardToTheTriangle) {
   EXPECT_TRUE(gesture::hasKeyboard(window->imgScreen)) << "in sight all the time";
 }
 
-TEST_F(CoreTest, TheWebSafePairShowsForAnyOtherColour) {
+TEST_F(CoreTest, TheWebSafePairShowsForAnyOtherColor) {
   const std::tuple<std::uint32_t, bool, std::uint32_t> rows[] = {
       {0x70ABFF, true, 0x6699FF}, {0xFF9900, false, 0x6699FF}, {0xFF00FE, true, 0xFF00FF}};
   for (const auto& [color, unsafe, box] : rows) {
@@ -74,7 +74,7 @@ TEST_F(CoreTest, TheWebSafePairShowsForAnyOtherColour) {
 }
 
 // A thread that gets a turn meanwhile finds the swatches done, and any number of the bars.
-TEST_F(CoreTest, ANewColourLetsThreadsRunBetweenTheBars) {
+TEST_F(CoreTest, ANewColorLetsThreadsRunBetweenTheBars) {
   Thread watcher{*window, "watcher"};
   std::set<std::ptrdiff_t> done;
   Color now = window->SelectedColor;
@@ -98,7 +98,7 @@ TEST_F(CoreTest, ANewColourLetsThreadsRunBetweenTheBars) {
   EXPECT_EQ(done, std::set<std::ptrdiff_t>({1, 2, 3, 4, 5, 6}));
 }
 
-TEST_F(CoreTest, ABarChangesTheColourWhenTheHandLetsGoAndTheTipGoesASecondAfterTheLastChange) {
+TEST_F(CoreTest, ABarChangesTheColorWhenTheHandLetsGoAndTheTipGoesASecondAfterTheLastChange) {
   const zrColorCHBar& green = window->cmdMixer[1];
   gesture::press(green, green.Lastx, 10);
   const std::tuple<Int32, std::chrono::milliseconds, const char*> rows[] = {

@@ -80,7 +80,7 @@ TEST_F(PeekerTest, ADragActsOnlyOutsideThePreview) {
   EXPECT_EQ(window->SelectedColor, Color{0x70ABFF});
 }
 
-TEST_F(PeekerTest, LettingGoTakesTheColourUnderTheRealPointer) {
+TEST_F(PeekerTest, LettingGoTakesTheColorUnderTheRealPointer) {
   window->flgLockX = true;
   gesture::press(window->imgScreen, 100, 100);
   fake().pointerAt = {5, 7};

@@ -108,7 +108,7 @@ TEST_F(PermissionTest, WithoutTheScreenThePreviewsOwnPixelsCount) {
   EXPECT_TRUE(fake().pixelsRead.empty());
 }
 
-TEST_F(PermissionTest, WhereTheUserPicksSingleColoursPokeTakesOneAndFollowingEnds) {
+TEST_F(PermissionTest, WhereTheUserPicksSingleColorsPokeTakesOneAndFollowingEnds) {
   fake().screenState = ScreenState::unavailable;
   fake().canPick = true;
   choose("mnuPokeColor");

@@ -2,60 +2,60 @@
 
 #include <algorithm>
 
+#include "color/DistinctColors.h"
+#include "color/Suggestions.h"
 #include "color/zrXYZ.h"
 #include "favourites/frmFav.h"
-#include "toolwindow/ColourCells.h"
-#include "toolwindow/DistinctColours.h"
-#include "toolwindow/Suggestions.h"
+#include "toolwindow/ColorCells.h"
 #include "toolwindow/ToolWindowTest.h"
 
 namespace tavrelkin {
 namespace {
 
-using Colours = std::vector<Color>;
+using Colors = std::vector<Color>;
 
 // A picture of these colours, column by column, and of black behind them.
-Ref<Picture> pictureOf(const Colours& colours, Int32 width, Int32 height) {
+Ref<Picture> pictureOf(const Colors& colors, Int32 width, Int32 height) {
   Ref<Picture> picture = NewPicture(width, height, 32);
   for (Int32 i = 0; i < width * height; ++i) {
     const auto at = static_cast<std::size_t>(i);
-    picture->Graphics().Pixel(i / height, i % height, at < colours.size() ? colours[at] : kBlack);
+    picture->Graphics().Pixel(i / height, i % height, at < colors.size() ? colors[at] : kBlack);
   }
   return picture;
 }
 
 // More than 256 colours of which no two are alike: each step is 31, at least two steps lie between any two of them, and
 // they are not so light that these 62 would be within the tolerance.
-Colours unlikeColours() {
-  Colours colours;
+Colors unlikeColors() {
+  Colors colors;
   for (Int32 i = 0; i < 9 * 9 * 9; ++i) {
     const Int32 steps[] = {i / 81, i / 9 % 9, i % 9};
     const Int32 sum = steps[0] + steps[1] + steps[2];
     if (sum % 2 == 0 && sum <= 18 && *std::max_element(steps, steps + 3) > 2)
-      colours.push_back(RGB(31 * steps[0], 31 * steps[1], 31 * steps[2]));
+      colors.push_back(RGB(31 * steps[0], 31 * steps[1], 31 * steps[2]));
   }
-  return colours;
+  return colors;
 }
 
-TEST(DistinctColoursTest, AlikeIsWithinATenthOfTheBrighterChannels) {
+TEST(DistinctColorsTest, AlikeIsWithinATenthOfTheBrighterChannels) {
   const std::tuple<Color, Color, bool> rows[] = {
       {RGB(109, 0, 0), RGB(99, 0, 0), true},      {RGB(109, 0, 0), RGB(98, 0, 0), false},
       {RGB(200, 100, 0), RGB(185, 116, 0), true}, {RGB(200, 100, 0), RGB(184, 116, 0), false},
       {RGB(0, 100, 0), RGB(0, 0, 100), false},    {RGB(80, 80, 200), RGB(92, 92, 188), true},
   };
   for (const auto& [met, next, alike] : rows) {
-    EXPECT_EQ(distinctColours(*pictureOf({met, next}, 2, 1), 9).size(), alike ? 1u : 2u) << Hex(toInt32(met.bits));
-    EXPECT_EQ(distinctColours(*pictureOf({next, met}, 2, 1), 9).size(), alike ? 1u : 2u) << Hex(toInt32(next.bits));
+    EXPECT_EQ(distinctColors(*pictureOf({met, next}, 2, 1), 9).size(), alike ? 1u : 2u) << Hex(toInt32(met.bits));
+    EXPECT_EQ(distinctColors(*pictureOf({next, met}, 2, 1), 9).size(), alike ? 1u : 2u) << Hex(toInt32(next.bits));
   }
 }
 
-TEST(DistinctColoursTest, TheWalkKeepsTheFirstOfAFamilyColumnByColumnAndNoDarkOnes) {
-  const Colours dark{RGB(76, 0, 0), RGB(0, 76, 76), RGB(0, 0, 76), RGB(76, 76, 76)};
-  EXPECT_EQ(distinctColours(*pictureOf(dark, 3, 2), 9), Colours{});
-  const Colours limit{RGB(77, 0, 0), RGB(0, 77, 0), RGB(0, 0, 77)};
-  EXPECT_EQ(distinctColours(*pictureOf(limit, 3, 2), 9), limit);
-  const Colours family{RGB(100, 0, 0), RGB(91, 0, 0), RGB(82, 0, 0), kWhite, RGB(91, 0, 0), RGB(100, 0, 0)};
-  EXPECT_EQ(distinctColours(*pictureOf(family, 3, 2), 9), (Colours{family[0], family[2], kWhite}));
+TEST(DistinctColorsTest, TheWalkKeepsTheFirstOfAFamilyColumnByColumnAndNoDarkOnes) {
+  const Colors dark{RGB(76, 0, 0), RGB(0, 76, 76), RGB(0, 0, 76), RGB(76, 76, 76)};
+  EXPECT_EQ(distinctColors(*pictureOf(dark, 3, 2), 9), Colors{});
+  const Colors limit{RGB(77, 0, 0), RGB(0, 77, 0), RGB(0, 0, 77)};
+  EXPECT_EQ(distinctColors(*pictureOf(limit, 3, 2), 9), limit);
+  const Colors family{RGB(100, 0, 0), RGB(91, 0, 0), RGB(82, 0, 0), kWhite, RGB(91, 0, 0), RGB(100, 0, 0)};
+  EXPECT_EQ(distinctColors(*pictureOf(family, 3, 2), 9), (Colors{family[0], family[2], kWhite}));
 }
 
 Color grey(Double value) {
@@ -63,12 +63,12 @@ Color grey(Double value) {
 }
 
 TEST(SuggestionsTest, AGreyGivesSevenTimesTheSameSeven) {
-  const std::pair<Color, Colours> rows[] = {
+  const std::pair<Color, Colors> rows[] = {
       {kBlack, {kBlack, grey(0.5), grey(0.75), kBlack, kBlack, grey(0.25), grey(0.125)}},
       {kWhite, {kWhite, kWhite, kWhite, grey(2.0 / 3), grey(1.0 / 3), grey(0.75), grey(0.875)}},
   };
   for (const auto& [from, group] : rows) {
-    const Colours list = suggestionsFor(from);
+    const Colors list = suggestionsFor(from);
     ASSERT_EQ(list.size(), 94u);
     for (std::size_t i = 0; i < 49; ++i)
       EXPECT_EQ(list[i], group[i % 7]) << i;
@@ -76,7 +76,7 @@ TEST(SuggestionsTest, AGreyGivesSevenTimesTheSameSeven) {
 }
 
 TEST(SuggestionsTest, RelatedHuesGoRoundTheCircle) {
-  const Colours list = suggestionsFor(Color{0xFF0000});
+  const Colors list = suggestionsFor(Color{0xFF0000});
   const Double beyond = readColorHue(HSV(0.583, 1, 1)) + 0.333;
   const Double hues[] = {0.917, 0.083, 0.5, 0.417, 0.583, beyond, beyond + 0.333 - 1};
   for (std::size_t i = 0; i < 7; ++i)
@@ -84,17 +84,17 @@ TEST(SuggestionsTest, RelatedHuesGoRoundTheCircle) {
 }
 
 TEST(SuggestionsTest, RampsVaryOneChannelEach) {
-  const Colours list = suggestionsFor(RGB(10, 20, 30));
+  const Colors list = suggestionsFor(RGB(10, 20, 30));
   for (const auto& [i, c] :
        {std::pair{67, RGB(25, 20, 30)}, {75, RGB(225, 20, 30)}, {76, RGB(10, 25, 30)}, {93, RGB(10, 20, 225)}})
     EXPECT_EQ(list.at(static_cast<std::size_t>(i)), c) << i;
 }
 
-TEST(ColourCellsTest, StandInRowsThatEndAheadOfTheRightEdge) {
+TEST(ColorCellsTest, StandInRowsThatEndAheadOfTheRightEdge) {
   const Color frame{0x909090};
   const Color ground{0xA0A0A0};
   const Ref<Picture> canvas = NewPicture(408, 192, 32);
-  drawCells(canvas->Graphics(), Colours(94, kBlack));
+  drawCells(canvas->Graphics(), Colors(94, kBlack));
   // The first cell, the sixteenth and the last with the ground beside them, and the corner.
   const std::tuple<Int32, Int32, Color> rows[] = {{13, 20, frame},   {14, 11, kWhite},   {31, 28, kWhite},
                                                   {15, 12, kBlack},  {373, 10, frame},   {397, 10, ground},
@@ -105,9 +105,9 @@ TEST(ColourCellsTest, StandInRowsThatEndAheadOfTheRightEdge) {
 
 using ViewsTest = ToolWindowTest;
 
-TEST_F(ViewsTest, TheGridAndANewPaletteShowTheColoursUpToTheirLimits) {
-  const Colours all = unlikeColours();
-  const std::tuple<Ref<Picture>, Colours, Colours> rows[] = {
+TEST_F(ViewsTest, TheGridAndANewPaletteShowTheColorsUpToTheirLimits) {
+  const Colors all = unlikeColors();
+  const std::tuple<Ref<Picture>, Colors, Colors> rows[] = {
       {pictureOf(all, 25, 20), {all.begin(), all.begin() + 112}, {all.begin(), all.begin() + 255}},
       {pictureOf({}, 20, 20), {}, {}},
       {window->zoomImage, {kWhite}, {kWhite}}};  // blank, as it is before the first sample
@@ -124,14 +124,14 @@ TEST_F(ViewsTest, TheGridAndANewPaletteShowTheColoursUpToTheirLimits) {
     window->Show();
     choose("mnuFavFromColors");
     auto& palette = dynamic_cast<frmFav&>(*Application::current().frontWindow());
-    Colours wanted = entries;
+    Colors wanted = entries;
     wanted.resize(256, kWhite);
     EXPECT_EQ(palette.TheClut->aColors, wanted);
     EXPECT_EQ(palette.imgClut.Graphics().Pixel(1, 1), wanted[0]);
   }
 }
 
-TEST_F(ViewsTest, NineSwatchesShowTheColourOfTheLastPaintAsDichromatsSeeIt) {
+TEST_F(ViewsTest, NineSwatchesShowTheColorOfTheLastPaintAsDichromatsSeeIt) {
   choose("mnuColorBlind");
   window->setColor(Color{0x336699}, false);
   const Color c{0x70ABFF};

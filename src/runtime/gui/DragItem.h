@@ -13,7 +13,7 @@
 namespace tavrelkin {
 
 // The type whose payload is a colour, as "255, 128, 0". Towards other programs it is their kind of colour as well.
-constexpr auto kColourData = "hcol";
+constexpr auto kColorData = "hcol";
 
 // What a drag carries from one control to another: private payloads, each under a four-character type, and plain text,
 // all at the same time. A type is the same only where its case is the same.

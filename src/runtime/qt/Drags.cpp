@@ -25,7 +25,7 @@ namespace tavrelkin {
 namespace {
 
 constexpr auto kPrivatePrefix = "application/x-tavrelkin-";
-constexpr auto kDesktopColour = "application/x-color";
+constexpr auto kDesktopColor = "application/x-color";
 constexpr auto kPlainText = "text/plain;charset=utf-8";  // what the toolkit doesn't know as text by itself
 
 QColor toColor(const String& triple) {
@@ -44,7 +44,7 @@ struct Content {
   Content& operator=(const Content&) = delete;
   virtual ~Content() = default;
   virtual std::optional<String> bytes(const QString&) const { return String(); }
-  virtual std::optional<String> colour() const { return String(); }
+  virtual std::optional<String> color() const { return String(); }
   virtual std::optional<String> text() const { return String(); }
 };
 
@@ -52,7 +52,7 @@ struct Content {
 struct Held final : Content {
   explicit Held(const QMimeData& from) : data(from) {}
   std::optional<String> bytes(const QString& type) const override { return data.data(type).toStdString(); }
-  std::optional<String> colour() const override {
+  std::optional<String> color() const override {
     const auto c = qvariant_cast<QColor>(data.colorData());
     return c.isValid() ? std::optional(toTriple(c)) : std::nullopt;
   }
@@ -67,9 +67,9 @@ struct Sent final : Content {
   explicit Sent(Offer& from) : offer(from) {}
   std::optional<String> bytes(const QString& type) const override { return offer.bytes(fromQt(type)); }
   // Four channels of two bytes, in the order of this machine: the high ones count.
-  std::optional<String> colour() const override {
+  std::optional<String> color() const override {
     std::array<std::uint16_t, 4> channels;
-    const auto sent = offer.bytes(kDesktopColour);
+    const auto sent = offer.bytes(kDesktopColor);
     if (!sent || sent->size() != sizeof channels) return std::nullopt;
     std::memcpy(channels.data(), sent->data(), sizeof channels);
     return toTriple(QColor::fromRgba64(channels[0], channels[1], channels[2], channels[3]));
@@ -86,8 +86,8 @@ Ref<DragItem> itemOf(const QMimeData& types, const Content& content) {
     if (!format.startsWith(prefix)) continue;
     if (auto payload = content.bytes(format)) item->MacData(fromQt(format.mid(prefix.size())), *std::move(payload));
   }
-  if (!item->MacDataAvailable(kColourData) && types.hasColor())
-    if (auto colour = content.colour()) item->MacData(kColourData, *std::move(colour));
+  if (!item->MacDataAvailable(kColorData) && types.hasColor())
+    if (auto color = content.color()) item->MacData(kColorData, *std::move(color));
   if (!types.hasUrls() && (types.hasText() || types.hasFormat(kPlainText)))
     if (auto text = content.text()) item->SetText(*std::move(text));
   return item;
@@ -112,7 +112,7 @@ std::unique_ptr<QMimeData> toMime(const DragItem& item) {
   for (const String& type : item.MacDataTypes()) {
     data->setData(QLatin1String(kPrivatePrefix) + toQt(type), QByteArray::fromStdString(item.MacData(type)));
   }
-  if (item.MacDataAvailable(kColourData)) data->setColorData(toColor(item.MacData(kColourData)));
+  if (item.MacDataAvailable(kColorData)) data->setColorData(toColor(item.MacData(kColorData)));
   if (item.TextAvailable()) data->setText(toQt(item.Text()));
   return data;
 }

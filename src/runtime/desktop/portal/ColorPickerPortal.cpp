@@ -23,7 +23,7 @@ bool hasPicker(const PortalInterface& portal) {
 }
 
 // 0xRRGGBB of three numbers from 0 to 1, (ddd); nothing if `value` is anything else.
-std::optional<std::uint32_t> colourOf(const QVariant& value) {
+std::optional<std::uint32_t> colorOf(const QVariant& value) {
   const auto argument = argumentOf(value, "(ddd)");
   if (!argument) return std::nullopt;
   std::array<double, 3> channels{};
@@ -75,14 +75,14 @@ void ColorPickerPortal::ask(const PortalInterface& portal) {
       portal.owner, screenshotInterface(), QStringLiteral("PickColor"), {QString()} /* no parent window */, {}};
   const auto take = [this](const PortalRequest::Answer& answer) {
     const bool isGranted = answer.code == PortalRequest::Answer::granted;
-    finish(isGranted ? colourOf(answer.results.value(QStringLiteral("color"))) : std::nullopt);
+    finish(isGranted ? colorOf(answer.results.value(QStringLiteral("color"))) : std::nullopt);
   };
   pick_->request = std::make_unique<PortalRequest>(bus_, call, PortalRequest::Answerer::user, patience_, take);
 }
 
-void ColorPickerPortal::finish(std::optional<std::uint32_t> colour) {
+void ColorPickerPortal::finish(std::optional<std::uint32_t> color) {
   const auto pick = std::exchange(pick_, {});
-  pick->done(colour);
+  pick->done(color);
 }
 
 void ColorPickerPortal::cancel() {

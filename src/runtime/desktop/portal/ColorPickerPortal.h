@@ -38,7 +38,7 @@ class ColorPickerPortal {
   struct Pick;
 
   void ask(const PortalInterface& portal);
-  void finish(std::optional<std::uint32_t> colour);
+  void finish(std::optional<std::uint32_t> color);
 
   QDBusConnection bus_;
   std::chrono::milliseconds patience_;

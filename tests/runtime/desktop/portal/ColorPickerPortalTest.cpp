@@ -7,7 +7,7 @@
 namespace tavrelkin::test {
 namespace {
 
-using Colour = std::optional<std::uint32_t>;
+using Color = std::optional<std::uint32_t>;
 
 class ColorPickerPortalTest : public PortalTest {
  protected:
@@ -15,32 +15,32 @@ class ColorPickerPortalTest : public PortalTest {
 
   void pick() {
     picked.reset();
-    picker.pick([this](Colour colour) { picked = colour; });
+    picker.pick([this](Color color) { picked = color; });
   }
 
   // The answer; fails the test where none comes.
-  Colour answer() {
+  Color answer() {
     EXPECT_TRUE(waitUntil([this] { return picked.has_value(); }));
-    return picked.value_or(Colour());
+    return picked.value_or(Color());
   }
 
   ColorPickerPortal picker{connection.bus, patient};
-  std::optional<Colour> picked;
+  std::optional<Color> picked;
 };
 
-QVariantList granted(const QVariant& colour) {
-  return {0U, QVariantMap{{QStringLiteral("color"), colour}}};
+QVariantList granted(const QVariant& color) {
+  return {0U, QVariantMap{{QStringLiteral("color"), color}}};
 }
 
 QVariantList granted(double red, double green, double blue) {
-  return granted(QVariant::fromValue(PortalColour{red, green, blue}));
+  return granted(QVariant::fromValue(PortalColor{red, green, blue}));
 }
 
-TEST_F(ColorPickerPortalTest, GivesTheColourOrNothing) {
+TEST_F(ColorPickerPortalTest, GivesTheColorOrNothing) {
   const struct {
     std::string what;
     QVariantList response;
-    Colour colour;
+    Color color;
   } rows[] = {
       {"each channel in its place", granted(1, 0, 128 / 255.0), 0xFF0080},
       {"rounded to the nearest", granted(0.4 / 255, 0.6 / 255, 254.6 / 255), 0x0001FF},
@@ -50,13 +50,13 @@ TEST_F(ColorPickerPortalTest, GivesTheColourOrNothing) {
       {"a pair", granted(QPointF(0, 1)), {}},
       {"a text", granted(QStringLiteral("#FFFFFF")), {}},
       {"no colour", {0U, QVariantMap()}, {}},
-      {"given up", {1U, QVariantMap{{QStringLiteral("color"), QVariant::fromValue(PortalColour())}}}, {}},
+      {"given up", {1U, QVariantMap{{QStringLiteral("color"), QVariant::fromValue(PortalColor())}}}, {}},
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.what);
     portal->responses[QStringLiteral("PickColor")] = row.response;
     pick();
-    EXPECT_EQ(answer(), row.colour);
+    EXPECT_EQ(answer(), row.color);
   }
 }
 
@@ -88,7 +88,7 @@ TEST_F(ColorPickerPortalTest, TakesTheQuestionBackAndEndsWithThePortal) {
   const auto method = QStringLiteral("PickColor");
   portal->undecided << method;
   int answers = 0;
-  picker.pick([&](Colour) { ++answers; });
+  picker.pick([&](Color) { ++answers; });
   ASSERT_TRUE(waitUntil([&] { return portal->calls[method] == 1; }));
   pick();
   ASSERT_TRUE(waitUntil([&] { return portal->calls[method] == 2; }));
@@ -99,7 +99,7 @@ TEST_F(ColorPickerPortalTest, TakesTheQuestionBackAndEndsWithThePortal) {
   pick();
   ASSERT_TRUE(waitUntil([&] { return portal->calls[method] == 3; }));
   portal.reset();
-  EXPECT_EQ(answer(), Colour());
+  EXPECT_EQ(answer(), Color());
   EXPECT_EQ(answers, 0);
 }
 

@@ -1,4 +1,4 @@
-#include "controls/ColorChannel.h"
+#include "color/ColorChannel.h"
 
 #include <array>
 #include <cstddef>

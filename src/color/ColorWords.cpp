@@ -1,4 +1,4 @@
-#include "color/ColourWords.h"
+#include "color/ColorWords.h"
 
 #include <algorithm>
 #include <iterator>
@@ -33,7 +33,7 @@ const char* nameIn(const Band (&bands)[n], Double value) {
 
 // By hue, lightness and chroma, the mean and the difference of the strongest and the weakest channel: these go with
 // what the eye finds light and colourful better than value and saturation do, for which navy is a full blue.
-String colourInWords(Color c) {
+String colorInWords(Color c) {
   const auto [least, most] = std::minmax({c.red(), c.green(), c.blue()});
   const Double lightness = (least + most) / 510.0;
   const Double chroma = (most - least) / 255.0;
@@ -46,8 +46,8 @@ String colourInWords(Color c) {
   return nameIn(kLightness, lightness) + grayish + hue;
 }
 
-String colourInWordsAndNumbers(Color c) {
-  return colourInWords(c) + ", " + getDottedStr(c) + ", #" + getHexStr(c);
+String colorInWordsAndNumbers(Color c) {
+  return colorInWords(c) + ", " + getDottedStr(c) + ", #" + getHexStr(c);
 }
 
 }  // namespace tavrelkin

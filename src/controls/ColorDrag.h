@@ -5,7 +5,7 @@
 #include "runtime/gui/RectControl.h"
 
 // How colours travel by drag, for all controls alike: as private data of the type "hcol" and as text of the hash form.
-namespace tavrelkin::ColourDrag {
+namespace tavrelkin::ColorDrag {
 
 // What a control has to do to be a target: private data goes ahead of text, or is all that it takes.
 void accept(RectControl& control);
@@ -23,4 +23,4 @@ constexpr Int32 kSmall = 9;
 // when the drag is over.
 void begin(RectControl& control, Color c, Int32 x, Int32 y, Int32 outline = kLarge);
 
-}  // namespace tavrelkin::ColourDrag
+}  // namespace tavrelkin::ColorDrag

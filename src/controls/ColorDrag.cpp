@@ -1,8 +1,8 @@
-#include "controls/ColourDrag.h"
+#include "controls/ColorDrag.h"
 
 #include "color/zrColorLib.h"
 
-namespace tavrelkin::ColourDrag {
+namespace tavrelkin::ColorDrag {
 
 void accept(RectControl& control) {
   acceptPrivate(control);
@@ -10,7 +10,7 @@ void accept(RectControl& control) {
 }
 
 void acceptPrivate(RectControl& control) {
-  control.AcceptMacDataDrop(kColourData);
+  control.AcceptMacDataDrop(kColorData);
 }
 
 bool take(const Ref<DragItem>& item, Color& c) {
@@ -18,7 +18,7 @@ bool take(const Ref<DragItem>& item, Color& c) {
 }
 
 bool takePrivate(const Ref<DragItem>& item, Color& c) {
-  if (!item->MacDataAvailable(kColourData)) return false;
+  if (!item->MacDataAvailable(kColorData)) return false;
   c = getColorFromDrop(item);
   return true;
 }
@@ -27,9 +27,9 @@ void begin(RectControl& control, Color c, Int32 x, Int32 y, Int32 outline) {
   const Int32 reach = outline / 2;
   const Ref<DragItem> item =
       control.NewDragItem(control.Left + (x - reach), control.Top + (y - reach), outline, outline);
-  item->MacData(kColourData, getRGBStr(c));
+  item->MacData(kColorData, getRGBStr(c));
   item->SetText("#" + getHexStr(c));
   item->Drag();
 }
 
-}  // namespace tavrelkin::ColourDrag
+}  // namespace tavrelkin::ColorDrag

@@ -10,8 +10,8 @@
 namespace tavrelkin {
 
 // A square of one colour that a view shows, frames included; `label` is what it shows beside its colour, if anything.
-struct ColourCell {
-  Color colour;
+struct ColorCell {
+  Color color;
   Int32 x = 0, y = 0, side = 0;
   String label;
 };
@@ -20,15 +20,15 @@ struct ColourCell {
 void drawSwatch(Graphics& g, Int32 x, Int32 y, Int32 side, Color c);
 
 // Puts the keyboard's mark around a cell, on the two pixels beside its frame, or takes it away again.
-void drawMark(Graphics& g, const ColourCell& cell);
-void eraseMark(Graphics& g, const ColourCell& cell);
+void drawMark(Graphics& g, const ColorCell& cell);
+void eraseMark(Graphics& g, const ColorCell& cell);
 
 // The cell of `cells` that an arrow key leads to from one of them: the neighbour in that direction, or the same one
 // where there is none.
-std::size_t cellTowards(const std::vector<ColourCell>& cells, std::size_t from, std::string_view arrow);
+std::size_t cellTowards(const std::vector<ColorCell>& cells, std::size_t from, std::string_view arrow);
 
 // Fills a surface with a grid of framed cells, one for each colour, row by row. Cells step 24 pixels across and 25
 // down, and a row ends where the next cell would come near the right edge. Gives the cells.
-std::vector<ColourCell> drawCells(Graphics& g, const std::vector<Color>& colours);
+std::vector<ColorCell> drawCells(Graphics& g, const std::vector<Color>& colors);
 
 }  // namespace tavrelkin

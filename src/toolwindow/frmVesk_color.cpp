@@ -1,6 +1,7 @@
 // The selected colour of the tool window, and the controls that show and change it.
 
 #include "color/zrColorLib.h"
+#include "runtime/system/System.h"
 #include "toolwindow/frmVesk.h"
 
 namespace tavrelkin {
@@ -61,6 +62,15 @@ void frmVesk::cmdMixer_ValueChanging(zrColorCHBar& bar) {
 void frmVesk::rTIP_Timer_Action() {
   rTIP_Timer.Mode = 0;
   rTIP.Visible = false;
+}
+
+void frmVesk::takeFromScreen() {
+  if (requestScreen()) take(System::Pixel(System::MouseX(), System::MouseY()));
+}
+
+void frmVesk::take(Color c) {
+  leaveColorViews();
+  setColor(c, false);
 }
 
 }  // namespace tavrelkin

@@ -1,4 +1,4 @@
-#include "toolwindow/ColourCells.h"
+#include "toolwindow/ColorCells.h"
 
 #include <cstdlib>
 
@@ -18,7 +18,7 @@ constexpr Int32 kRightMargin = 10;
 constexpr Int32 kStepAcross = 24;
 constexpr Int32 kStepDown = 25;
 
-void drawAround(Graphics& g, const ColourCell& cell, Color c) {
+void drawAround(Graphics& g, const ColorCell& cell, Color c) {
   g.ForeColor = c;
   for (const Int32 away : {1, 2})
     g.DrawRect(cell.x - away, cell.y - away, cell.side + 2 * away, cell.side + 2 * away);
@@ -35,16 +35,16 @@ void drawSwatch(Graphics& g, Int32 x, Int32 y, Int32 side, Color c) {
   g.FillRect(x + 2, y + 2, side - 4, side - 4);
 }
 
-void drawMark(Graphics& g, const ColourCell& cell) {
+void drawMark(Graphics& g, const ColorCell& cell) {
   drawAround(g, cell, kMark);
 }
 
 // What lies between cells has one colour everywhere.
-void eraseMark(Graphics& g, const ColourCell& cell) {
+void eraseMark(Graphics& g, const ColorCell& cell) {
   drawAround(g, cell, g.Pixel(cell.x - 3, cell.y - 3));
 }
 
-std::size_t cellTowards(const std::vector<ColourCell>& cells, std::size_t from, std::string_view arrow) {
+std::size_t cellTowards(const std::vector<ColorCell>& cells, std::size_t from, std::string_view arrow) {
   if (arrow == kLeftArrow) return from > 0 ? from - 1 : from;
   if (arrow == kRightArrow) return from + 1 < cells.size() ? from + 1 : from;
   std::size_t result = from;
@@ -57,13 +57,13 @@ std::size_t cellTowards(const std::vector<ColourCell>& cells, std::size_t from, 
   return result;
 }
 
-std::vector<ColourCell> drawCells(Graphics& g, const std::vector<Color>& colours) {
+std::vector<ColorCell> drawCells(Graphics& g, const std::vector<Color>& colors) {
   g.ForeColor = kGround;
   g.FillRect(0, 0, g.Width(), g.Height());
-  std::vector<ColourCell> cells;
+  std::vector<ColorCell> cells;
   Int32 x = kLeft;
   Int32 y = kTop;
-  for (const Color c : colours) {
+  for (const Color c : colors) {
     if (g.Width() - kRightMargin < x + kCell) {
       x = kLeft;
       y += kStepDown;

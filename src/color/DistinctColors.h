@@ -10,6 +10,6 @@ namespace tavrelkin {
 // The distinct colours of a picture, in the order in which they are met, column by column from the left and each from
 // the top; no more than `most`. Colours with a value below 30 % are passed over, and so is a colour that is like one
 // before: where the differences of their channels sum up to no more than a tenth of the sum of the brighter channels.
-std::vector<Color> distinctColours(const Picture& picture, std::size_t most);
+std::vector<Color> distinctColors(const Picture& picture, std::size_t most);
 
 }  // namespace tavrelkin

@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include "color/ColourWords.h"
+#include "color/ColorWords.h"
 
 namespace tavrelkin {
 namespace {
 
-TEST(ColourWordsTest, NameColoursAsPeopleDo) {
+TEST(ColorWordsTest, NameColorsAsPeopleDo) {
   const std::pair<std::uint32_t, const char*> rows[] = {
       {0x000000, "black"},      {0x444444, "dark gray"},     {0x808080, "gray"},
       {0xD3D3D3, "light gray"}, {0xFFFFFF, "white"},         {0xFF0000, "red"},
@@ -19,15 +19,15 @@ TEST(ColourWordsTest, NameColoursAsPeopleDo) {
       {0x8A2BE2, "purple"},     {0x110000, "very dark red"},
   };
   for (const auto& [rgb, words] : rows)
-    EXPECT_EQ(colourInWords(Color{rgb}), words) << std::hex << rgb;
-  EXPECT_EQ(colourInWordsAndNumbers(Color{0xFF8000}), "orange, 255.128.0, #FF8000");
+    EXPECT_EQ(colorInWords(Color{rgb}), words) << std::hex << rgb;
+  EXPECT_EQ(colorInWordsAndNumbers(Color{0xFF8000}), "orange, 255.128.0, #FF8000");
 }
 
 // Every colour has a name, and there are not more of them than one can know.
-TEST(ColourWordsTest, NameEveryColour) {
+TEST(ColorWordsTest, NameEveryColor) {
   std::set<String> names;
   for (Int32 i = 0; i < 52 * 52 * 52; ++i)
-    names.insert(colourInWords(RGB(i / 2704 * 5, i / 52 % 52 * 5, i % 52 * 5)));
+    names.insert(colorInWords(RGB(i / 2704 * 5, i / 52 % 52 * 5, i % 52 * 5)));
   EXPECT_FALSE(names.contains(""));
   EXPECT_LT(names.size(), 120u);
 }

@@ -13,7 +13,7 @@ bool accepts(const String& text) {
   return getColorFromString(text, ignored);
 }
 
-bool hasTheFormOfAColour(const String& text) {
+bool hasTheFormOfAColor(const String& text) {
   if (std::ranges::count(text, '.') == 2) return true;
   const String trimmed = Trim(text);
   return Len(trimmed) == 7 && trimmed.front() == '#';
@@ -33,7 +33,7 @@ void checkRead(const String& text) {
   Color fromWhite = kWhite;
   const bool accepted = getColorFromString(text, fromBlack);
   require(getColorFromString(text, fromWhite) == accepted, "the colour before plays no part");
-  require(accepted == hasTheFormOfAColour(text), "the form alone decides");
+  require(accepted == hasTheFormOfAColor(text), "the form alone decides");
   if (!accepted) {
     require(fromBlack == kBlack && fromWhite == kWhite, "a refused text leaves the colour alone");
     require(!zrColorLib_IsColorWebSafe(text), "a refused text is not web-safe");

@@ -9,7 +9,7 @@
 #include <QMimeData>
 
 #include "color/zrColorLib.h"
-#include "controls/ColourDrag.h"
+#include "controls/ColorDrag.h"
 #include "fuzz/support/Target.h"
 #include "runtime/qt/Convert.h"
 #include "runtime/qt/Drags.h"
@@ -24,11 +24,11 @@ constexpr const char* kPlainText = "text/plain;charset=utf-8";
 constexpr const char* kFormats[] = {
     kPrivate, "application/x-color", "text/plain", kPlainText, "text/uri-list", "text/html",
 };
-constexpr std::size_t kColour = 6;
+constexpr std::size_t kColor = 6;
 constexpr std::size_t kOtherType = 7;
 
 // As the toolkit reads the desktop's colour type: four channels of two bytes.
-QColor platformColour(std::string_view bytes) {
+QColor platformColor(std::string_view bytes) {
   const auto word = [bytes](Int32 n) {
     return static_cast<quint16>(AscB(MidB(bytes, 2 * n + 1)) << 8 | AscB(MidB(bytes, 2 * n + 2)));
   };
@@ -37,8 +37,8 @@ QColor platformColour(std::string_view bytes) {
 
 void add(QMimeData& drag, char digit, const String& bytes) {
   const auto format = static_cast<std::size_t>(digit & 7);
-  if (format == kColour) {
-    drag.setColorData(platformColour(bytes));
+  if (format == kColor) {
+    drag.setColorData(platformColor(bytes));
   } else if (format == kOtherType) {
     drag.setData("application/x-tavrelkin-" + toQt(bytes), "other");
   } else {
@@ -59,8 +59,8 @@ std::unique_ptr<QMimeData> dragOf(std::string_view input) {
 std::optional<Color> taken(const Ref<DragItem>& item) {
   Color fromBlack = kBlack;
   Color fromWhite = kWhite;
-  const bool takes = ColourDrag::take(item, fromBlack);
-  require(ColourDrag::take(item, fromWhite) == takes, "the colour before plays no part");
+  const bool takes = ColorDrag::take(item, fromBlack);
+  require(ColorDrag::take(item, fromWhite) == takes, "the colour before plays no part");
   if (takes) {
     require(fromBlack == fromWhite, "an item that is taken gives its colour");
     return fromBlack;
@@ -69,25 +69,24 @@ std::optional<Color> taken(const Ref<DragItem>& item) {
   return std::nullopt;
 }
 
-std::optional<Color> colourOfText(const DragItem& item) {
+std::optional<Color> colorOfText(const DragItem& item) {
   Color c;
   if (!item.TextAvailable() || !getColorFromString(item.Text(), c)) return std::nullopt;
   return c;
 }
 
 void checkRead(const QMimeData& drag, const Ref<DragItem>& item) {
-  const std::optional<Color> colour = taken(item);
+  const std::optional<Color> color = taken(item);
   const auto desktops = qvariant_cast<QColor>(drag.colorData());
   if (drag.hasFormat(kPrivate)) {
     const String payload = drag.data(kPrivate).toStdString();
     require(item->MacData("hcol") == payload, "a payload comes in as it is");
-    require(colour == getColorFromRGB(payload), "the private type goes ahead of all others");
+    require(color == getColorFromRGB(payload), "the private type goes ahead of all others");
   } else if (desktops.isValid()) {
-    require(colour == RGB(desktops.red(), desktops.green(), desktops.blue()),
-            "the desktop's colour goes ahead of text");
+    require(color == RGB(desktops.red(), desktops.green(), desktops.blue()), "the desktop's colour goes ahead of text");
   } else {
     require(!item->MacDataAvailable("hcol"), "a malformed colour counts as absent");
-    require(colour == colourOfText(*item), "a text is all that is left");
+    require(color == colorOfText(*item), "a text is all that is left");
   }
   const bool hasText = !drag.hasUrls() && (drag.hasText() || drag.hasFormat(kPlainText));
   require(item->TextAvailable() == hasText, "a text has either of two names, and doesn't come with addresses");
@@ -107,9 +106,9 @@ void checkSent(const Ref<DragItem>& item) {
   require(again->TextAvailable() == item->TextAvailable(), "a text comes back where there is one");
   require(again->Text() == fromQt(toQt(item->Text())), "a text comes back as well-formed UTF-8");
   if (!item->MacDataAvailable("hcol")) return;
-  QMimeData colourOnly;
-  colourOnly.setColorData(sent->colorData());
-  require(taken(fromMime(colourOnly)) == taken(item), "the desktop's colour is that of the payload");
+  QMimeData colorOnly;
+  colorOnly.setColorData(sent->colorData());
+  require(taken(fromMime(colorOnly)) == taken(item), "the desktop's colour is that of the payload");
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "toolwindow/Suggestions.h"
+#include "color/Suggestions.h"
 
 #include <array>
 

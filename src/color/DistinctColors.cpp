@@ -1,4 +1,4 @@
-#include "toolwindow/DistinctColours.h"
+#include "color/DistinctColors.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -23,18 +23,18 @@ bool isTaken(Color c, const std::vector<Color>& before) {
 
 }  // namespace
 
-std::vector<Color> distinctColours(const Picture& picture, std::size_t most) {
+std::vector<Color> distinctColors(const Picture& picture, std::size_t most) {
   const RGBSurface pixels = picture.RGBSurface();
-  std::vector<Color> colours;
+  std::vector<Color> colors;
   for (Int32 x = 0; x < picture.Width(); ++x) {
     for (Int32 y = 0; y < picture.Height(); ++y) {
       const Color c = pixels.Pixel(x, y);
-      if (!isTaken(c, colours)) continue;
-      colours.push_back(c);
-      if (colours.size() == most) return colours;
+      if (!isTaken(c, colors)) continue;
+      colors.push_back(c);
+      if (colors.size() == most) return colors;
     }
   }
-  return colours;
+  return colors;
 }
 
 }  // namespace tavrelkin
