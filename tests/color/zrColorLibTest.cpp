@@ -49,7 +49,8 @@ TEST(ColorTextTest, ReadsWhatPeopleWrite) {
 }
 
 TEST(ColorTextTest, RefusesOtherTextAndKeepsTheColor) {
-  for (const String text : {"", "FF8000", "#FF80", "#FF80000", "255, 128, 0", "1.2", "1.2.3.4"}) {
+  for (const String text :
+       {"", "FF8000", "#FF80", "#FF80000", "255, 128, 0", "1.2", "1.2.3.4", "#\xC3\xA4\xC3\xA4\xC3\xA4"}) {
     Color out = kOrange;
     EXPECT_FALSE(getColorFromString(text, out)) << text;
     EXPECT_EQ(out, kOrange) << text;

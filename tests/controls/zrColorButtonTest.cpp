@@ -11,23 +11,22 @@ constexpr Color kOrange{0xFF8000};
 
 class zrColorButtonTest : public ControlsTest {
  protected:
-  // Whether the button shows nothing but the text and the swatch.
+  // Whether the button shows the text, in this ink, beside a framed swatch.
   testing::AssertionResult shows(const String& text, Color swatch, Color ink) {
-    const Ref<Picture> face = NewPicture(106, 20, 32);
-    Graphics& g = face->Graphics();
-    g.ForeColor = Color{0x909090};
-    g.DrawRect(0, 0, 106, 20);
-    g.ForeColor = swatch;
-    g.FillRect(2, 2, 15, 16);
-    g.ForeColor = Color{0x909090};
-    g.DrawRect(2, 2, 15, 16);
-    g.ForeColor = ink;
-    g.DrawString(text, 23, 2 + g.TextAscent());
-    for (Int32 y = 0; y < 20; ++y) {
-      for (Int32 x = 0; x < 106; ++x) {
-        if (button.Graphics().Pixel(x, y) != g.Pixel(x, y)) return testing::AssertionFailure() << x << ", " << y;
-      }
-    }
+    constexpr Color frame{0x909090};
+    const Ref<Picture> paper = NewPicture(106, 20, 32);
+    paper->Graphics().ForeColor = ink;
+    paper->Graphics().DrawString(text, 23, 2 + paper->Graphics().TextAscent());
+    for (const auto& [x, y, c] : {std::tuple{0, 0, frame},
+                                  {105, 19, frame},
+                                  {2, 2, frame},
+                                  {16, 17, frame},
+                                  {3, 3, swatch},
+                                  {15, 16, swatch},
+                                  {17, 10, kWhite}})
+      if (button.Graphics().Pixel(x, y) != c) return testing::AssertionFailure() << x << ", " << y;
+    for (Int32 x = 23; x < 105; ++x)
+      if (button.Graphics().Pixel(x, 9) != paper->Graphics().Pixel(x, 9)) return testing::AssertionFailure() << "text";
     return testing::AssertionSuccess();
   }
 

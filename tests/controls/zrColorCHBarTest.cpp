@@ -58,10 +58,14 @@ TEST_F(zrColorCHBarTest, ADragChangesTheValueButTheColorOnlyAtItsEnd) {
   EXPECT_EQ(bar.HelpTag.get(), "Red 2");
   gesture::dragTo(bar, 100, -3);
   EXPECT_EQ(bar.Value, 2) << "above the bar the value stands still";
+  for (const auto& [x, value] : {std::pair{300, 255}, {-300, 0}}) {
+    gesture::dragTo(bar, x, 5);
+    EXPECT_EQ(bar.Value, value) << "beyond the end";
+  }
   bar.WebSafe = true;
   gesture::dragTo(bar, 62, 5);
   gesture::release(bar, 62, 5);
-  EXPECT_EQ(host->log, "changing-804020 changing-804020 action-664020 ") << "down to a multiple of 51";
+  EXPECT_EQ(bar.propBaseColor, Color{0x664020}) << "down to a multiple of 51";
 }
 
 TEST_F(zrColorCHBarTest, AnyKeyRaisesChangeAndOnlyArrowsStep) {

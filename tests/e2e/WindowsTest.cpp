@@ -71,21 +71,5 @@ TEST_F(WindowsTest, AMinimisedAboutStaysSoUntilTheUserTurnsToAWindowThatWaitsFor
   EXPECT_EQ(session_.program.waitForExit(), 0);
 }
 
-TEST_F(WindowsTest, TenFollowAndQuit) {
-  const ForeignWindow foreign(session_.client, {960, 600, 200, 120});
-  const ScreenPoint at{1060, 660};
-  session_.hand.moveTo(at);
-  std::vector<ToolWindow> windows{tool_};
-  windows[0].keys("Ctrl+F");
-  while (windows.size() < 10) {
-    windows.push_back(openAnother(windows.back()));
-    windows.back().keys("Ctrl+F");
-  }
-  EXPECT_TRUE(windows.back().getsPreview(foreign.previewAt(at)));
-  windows.back().keys("Ctrl+Q");
-  EXPECT_EQ(session_.program.waitForExit(), 0);
-  EXPECT_EQ(session_.program.errors(), "");
-}
-
 }  // namespace
 }  // namespace tavrelkin::test

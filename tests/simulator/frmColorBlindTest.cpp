@@ -1,4 +1,5 @@
 #include "color/zrXYZ.h"
+#include "fakes/DragGestures.h"
 #include "fakes/Gestures.h"
 #include "fakes/RuntimeTest.h"
 #include "menubar/MenuBar1.h"
@@ -53,6 +54,16 @@ TEST_F(frmColorBlindTest, PasteSimulatesWhatReadsAsAColorAndIgnoresTheRest) {
   expectResults(kGrey, 1.8);
   EXPECT_EQ(window->lblColor.Text.get(), "Color: 134.127.127, 0.5.52, #867F7F");
   EXPECT_EQ(window->lblRColor.Text.get(), "Color: 128.128.128, 0.0.50, #808080");
+}
+
+TEST_F(frmColorBlindTest, OnlyTheNormalBoxTakesADrop) {
+  const Ref<DragItem> item = New<DragItem>();
+  item->SetText("#FF8000");
+  for (const std::size_t box : {3U, 0U}) {
+    gesture::drop(window->cmdColor.at(box), *item);
+    EXPECT_EQ(window->cmdColor[0].Value == Color{0xFF8000}, box == 0) << box;
+  }
+  expectResults(Color{0xFF8000}, 1.8);
 }
 
 TEST_F(frmColorBlindTest, AGammaTakesEffectAtTheNextUpdateUnlessItIsNone) {

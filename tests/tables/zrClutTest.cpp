@@ -137,27 +137,6 @@ TEST_F(SwatchFilesTest, ANewTableIsWrittenAs256WhiteColors) {
   EXPECT_EQ(writtenSwatch(*table).substr(2554), String("\0\0\x12\x12\x34\x34\x56\x56\0\0", 10));
 }
 
-TEST_F(SwatchFilesTest, TheNumberInTheFileBecomesTheUpperBound) {
-  const std::tuple<Int32, Int32, Int32, Int32> rows[] = {
-      {256, 256, 256, 256}, {300, 10, 300, 10}, {3, 10, 3, 3}, {0, 0, 0, 0}, {0, 5, 0, 5}, {0x8000, 5, -32768, 5}};
-  for (const auto& [stated, colors, count, read] : rows) {
-    const auto table = readSwatch(swatch(stated, colors));
-    EXPECT_EQ(table->Count, count);
-    EXPECT_EQ(table->Index, read - 1) << stated;
-    EXPECT_EQ(table->aColors.size(), static_cast<std::size_t>(std::max(count, -1) + 1));
-    expectRead(*table, read);
-    EXPECT_EQ(writtenSwatch(*table).substr(0, 4), word(1) + word(stated + 1));
-  }
-}
-
-// Another version and colour space, low bytes, and the names of a version 2 section behind the colours.
-TEST_F(SwatchFilesTest, OnlyHighBytesAreLookedAt) {
-  const String cmyk = word(2) + word(0x12FF) + word(0x34FE) + word(0x5600) + word(0xFFFF);
-  const auto table = readSwatch(word(7) + word(1) + cmyk + word(2) + String(40, 'x'));
-  EXPECT_EQ(table->getColor(0), RGB(0x12, 0x34, 0x56));
-  EXPECT_EQ(table->getColor(1), kWhite);
-}
-
 TEST_F(SwatchFilesTest, AColorTableIs256TriplesOfWhichTheLastIsNeverRead) {
   EXPECT_EQ(writtenClut(*readClut(triples(400))), triples(255) + String(3, '\xFF'));
   const auto few = readSwatch(swatch(2, 2));
@@ -165,21 +144,6 @@ TEST_F(SwatchFilesTest, AColorTableIs256TriplesOfWhichTheLastIsNeverRead) {
     EXPECT_EQ(few->Count, count);
     EXPECT_EQ(writtenClut(*few), triples(2) + String(3, '\xFF') + String(759, '\0')) << "entries are not cleared";
     EXPECT_TRUE(few->ReadClut(folder.write("in", "")));
-  }
-}
-
-// A colour counts once its first byte is there, and what is missing of it is 0.
-TEST_F(SwatchFilesTest, FilesCutOffAnywhereGiveWhatTheyHave) {
-  for (std::size_t length = 0; length <= 34; ++length) {
-    const auto table = readSwatch(swatch(0x0104, 3).substr(0, length));
-    EXPECT_EQ(table->Count, length < 3 ? 0 : length == 3 ? 0x0100 : 0x0104);
-    const std::size_t colors = length < 7 ? 0 : (length + 3) / 10;
-    const std::size_t last = length + 4 - 10 * colors;
-    expectRead(*table, static_cast<Int32>(colors), last > 4 ? 3 : last > 2 ? 2 : 1);
-  }
-  for (std::size_t length = 0; length <= 768; ++length) {
-    const std::size_t colors = std::min<std::size_t>((length + 2) / 3, 255);
-    expectRead(*readClut(triples(256).substr(0, length)), static_cast<Int32>(colors), length + 3 - 3 * colors);
   }
 }
 

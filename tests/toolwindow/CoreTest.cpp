@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "runtime/gui/Clipboard.h"
 #include "toolwindow/ToolWindowTest.h"
 
 namespace tavrelkin {
@@ -71,6 +72,14 @@ TEST_F(CoreTest, TheWebSafePairShowsForAnyOtherColor) {
   }
   EXPECT_EQ(window->imgWebSafe.Graphics().Pixel(4, 3), Color{0xE8E8E8}) << "the badge's cube";
   EXPECT_EQ(window->imgWebSafe.Graphics().Pixel(0, 0), window->BackColor.get());
+}
+
+TEST_F(CoreTest, CopyGivesTheSelectedColorAndPasteTakesOne) {
+  choose("mnuEditCopyHex");
+  EXPECT_EQ(Clipboard().Text(), "#70ABFF");
+  Clipboard().SetText("#FF8000");
+  choose("EditPaste");
+  EXPECT_EQ(window->SelectedColor, Color{0xFF8000});
 }
 
 // A thread that gets a turn meanwhile finds the swatches done, and any number of the bars.

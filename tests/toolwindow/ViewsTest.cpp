@@ -14,6 +14,10 @@ namespace {
 
 using Colors = std::vector<Color>;
 
+constexpr int kKeyReturn = 0x01000004;
+constexpr int kKeyRight = 0x01000014;
+constexpr int kKeyDown = 0x01000015;
+
 // A picture of these colours, column by column, and of black behind them.
 Ref<Picture> pictureOf(const Colors& colors, Int32 width, Int32 height) {
   Ref<Picture> picture = NewPicture(width, height, 32);
@@ -162,6 +166,22 @@ TEST_F(ViewsTest, OneAtATimeExceptWhileFollowing) {
     trace += shown(10, 10) == Color{0x010203} ? " " : "* ";
   }
   EXPECT_EQ(trace, "S* * J* * D* * S* J* D* S* D* J* S* F FS* F FS* S  D* FD D D DG* D* J*  ");
+}
+
+TEST_F(ViewsTest, KeysMarkACellAndTakeItOrThePixelUnderThePointer) {
+  fake().pointerAt = {40, 50};
+  choose("mnuViewSuggestions");
+  gesture::key(window->imgScreen, kKeyReturn);
+  EXPECT_EQ(window->SelectedColor, colorAt(40, 50)) << "no cell is marked";
+  const std::tuple<std::vector<int>, std::size_t> rows[] = {{{kKeyRight}, 0}, {{kKeyRight, kKeyDown, kKeyRight}, 17}};
+  for (const auto& [keys, cell] : rows) {
+    const Color taken = suggestionsFor(window->SelectedColor).at(cell);
+    choose("mnuViewSuggestions");
+    for (const int key : keys)
+      gesture::key(window->imgScreen, key);
+    gesture::key(window->imgScreen, kKeyReturn);
+    EXPECT_EQ(window->SelectedColor, taken) << cell;
+  }
 }
 
 TEST_F(ViewsTest, NothingIsDrawnOnNil) {

@@ -119,15 +119,6 @@ TEST_F(WindowTest, ReturnPressesTheButtonThatHasTheKeyboardAndEscapeLeavesAModal
   EXPECT_EQ(log, "") << "no other window";
 }
 
-TEST_F(WindowTest, ACommandGoesToTheWindowThatHasComeToTheFront) {
-  const Ref<Host> first = open();
-  const Ref<Host> second = open();
-  first->SetFocus();
-  gesture::shortcut(*first, "Cmd+W");
-  EXPECT_FALSE(first->isOpen());
-  EXPECT_TRUE(second->isOpen());
-}
-
 TEST_F(WindowTest, TheContentHasTheWindowsSizeBelowTheMenuBar) {
   const Ref<Host> host = open();
   host->Height = 200;
