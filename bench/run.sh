@@ -42,21 +42,23 @@ END
   for bench in tool_window_bench swatch_bench dichromat_bench desktop_bench; do "$build/bench/$bench"; done
   cat <<'END'
 
+CPU figures vary from run to run with what else the machine does, those of the pointer in circles by a third.
+
+Writing a small swatch file is the file system's work: the rename that replaces the old file has the data written before
+it, which takes most of the time on an ext4 disk. In a folder in memory the same write takes a fraction of it.
+
+A cast screen is one that a played desktop sends, so that these rows show the program's own share.
+
 ## On Wayland
 
 Measured by `tests/wayland.sh --figures` on a headless compositor that draws in software, with one monitor of 1280 by
 1024. Where a figure includes the compositor's share, that is most of it.
 
-| What | Measured |
-| --- | --- |
+| What | Wanted | Measured |
+| --- | --- | --- |
 END
   "$root/tests/wayland.sh" --figures
   cat <<'END'
-
-CPU figures vary from run to run with what else the machine does, those of the pointer in circles by a third.
-
-Writing a small swatch file is the file system's work: the rename that replaces the old file has the data written ahead
-of it, which takes most of the time on an ext4 disk. In a folder in memory the same write takes a fraction of it.
 
 ## Beside other programs
 

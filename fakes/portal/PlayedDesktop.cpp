@@ -20,8 +20,12 @@ int number(const QStringList& arguments, int index) {
 }  // namespace
 
 PlayedDesktop::PlayedDesktop(const QString& busAddress) {
-  portal_.emplace(busAddress);
-  portal_->connectPipeWire = [this] { return pipeWire_.connect().release(); };
+  const auto enter = [this, busAddress] {
+    portal_.emplace(busAddress);
+    portal_->connectPipeWire = [this] { return pipeWire_.connect().release(); };
+    portal_->streams = streams_;
+  };
+  enter();
   setMonitors({QStringLiteral("1280x800+0+0")});
 
   commands_[QStringLiteral("monitors")] = [this](auto& places) { setMonitors(places); };
@@ -39,6 +43,11 @@ PlayedDesktop::PlayedDesktop(const QString& busAddress) {
   commands_[QStringLiteral("gone")] = [this](auto&) {
     if (const auto last = std::exchange(pointerOn_, std::nullopt)) sendTo(*last, false);
   };
+  commands_[QStringLiteral("leave")] = [this](auto&) {
+    streams_ = portal_->streams;
+    portal_.reset();
+  };
+  commands_[QStringLiteral("enter")] = [enter](auto&) { enter(); };
   commands_[QStringLiteral("blank")] = [this](auto&) { isBlank_ = true; };
   commands_[QStringLiteral("crash")] = [this](auto&) { pipeWire_.kill(); };
   addPortalCommands();
@@ -75,7 +84,6 @@ void PlayedDesktop::addPortalCommands() {
     portal_->color = {number(a, 0) / 255.0, number(a, 1) / 255.0, number(a, 2) / 255.0};
   };
   commands_[QStringLiteral("close")] = [this](auto&) { portal_->closeSession(); };
-  commands_[QStringLiteral("leave")] = [this](auto&) { portal_.reset(); };
 }
 
 bool PlayedDesktop::obey(const QString& line) {

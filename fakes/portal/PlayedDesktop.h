@@ -34,7 +34,7 @@ namespace tavrelkin::test {
 //   delay MS                      before each Response
 //   pick R G B                    the colour that the user picks, each part from 0 to 255
 //   close                         the session
-//   leave                         the portal leaves the bus
+//   leave | enter                 the portal leaves the bus, and comes back
 //   crash                         PipeWire ends
 class PlayedDesktop {
  public:
@@ -59,6 +59,7 @@ class PlayedDesktop {
   PipeWireDaemon pipeWire_;
   std::vector<Monitor> monitors_;
   std::optional<FakePortal> portal_;
+  QList<PortalStream> streams_;  // of a portal that has left
   std::map<QString, std::function<void(const QStringList&)>> commands_;
   std::uint32_t frame_ = 0;
   std::optional<std::size_t> pointerOn_ = 0;

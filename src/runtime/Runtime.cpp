@@ -102,6 +102,7 @@ int Runtime::run(Ref<Application> application) {
 
 void shutDownRuntime() {
   Scheduler::shutDown();
+  desktop().screenReader().dropRequest();
   forgetFault();
 }
 

@@ -145,6 +145,26 @@ TEST_F(WaylandSessionTest, PokeTakesThePickedColorWhereTheDesktopDoesNotTellTheP
   closeMessage();
 }
 
+TEST_F(WaylandSessionTest, LooksAgainForAPortalThatWasThereOnce) {
+  tool_.keys("Ctrl+F");
+  desktop({"pointer 100 100"});
+  ASSERT_TRUE(shows({100, 100}));
+  desktop({"leave"});
+  closeMessage();
+  tool_.keys("Ctrl+F");
+  closeMessage();
+  desktop({"enter"});
+  EXPECT_TRUE(followsAgain());
+}
+
+TEST_F(WaylandSessionTest, PokeTakesThePickedColorWhereTheDesktopAnnouncesThePointerAndNeverTellsIt) {
+  desktop({"gone", "picker 2", "pick 18 52 86"});
+  tool_.keys("Ctrl+F");
+  closeMessage();
+  tool_.keys("Ctrl+Alt+P");
+  EXPECT_TRUE(tool_.getsTitleOf(0x123456));
+}
+
 TEST_F(WaylandSessionTest, APortalThatNeverAnswersHoldsNothingUp) {
   desktop({"mute CreateSession"});
   tool_.keys("Ctrl+F");

@@ -120,5 +120,24 @@ TEST_F(zrPixMapTest, ThePaintersFollowTheIndexOfTheMask) {
   }
 }
 
+// What a text is too short for counts as 0, as if so many zeros stood there.
+TEST_F(zrPixMapTest, ATextMayEndAnywhere) {
+  for (const String& text : {kDigits, kBytes}) {
+    const bool hexadecimal = text[0] == 'H';
+    for (std::size_t length = 1; length < text.size(); length += hexadecimal ? 2 : 1) {
+      const Ref<zrPixMap> cut = New<zrPixMap>();
+      cut->CreateFromPixMapData(text.substr(0, length));
+      const Ref<zrPixMap> filled = New<zrPixMap>();
+      filled->CreateFromPixMapData(text.substr(0, length) + String(50, hexadecimal ? '0' : '\0'));
+      EXPECT_LE(LenB(cut->pixmap), hexadecimal ? 6 : 3) << length;
+      filled->pixmap = cut->pixmap;
+      EXPECT_EQ(cut->getPixMapData(), filled->getPixMapData()) << length;
+      const Ref<Picture> picture = cut->GetPicture32();
+      EXPECT_EQ(static_cast<bool>(picture), cut->width > 0 && cut->height > 0) << length;
+      EXPECT_TRUE(!picture || picture->RGBSurface().Pixel(2, 0) == cut->GetColor(0)) << length;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace tavrelkin

@@ -54,6 +54,17 @@ TEST_F(PermissionTest, FollowingBeginsWhenTheUserAllowsItAndRestsWithTheScreen) 
   EXPECT_FALSE(fake().pixelsRead.empty());
 }
 
+TEST_F(PermissionTest, AChangeInTheMiddleOfASampleIsFollowed) {
+  choose("mnuFollow");
+  becomes(ScreenState::live);
+  fake().changeScreen();
+  stopInMidSample();
+  fake().pointerAt = {500, 100};
+  fake().changeScreen();
+  fake().advance(50ms);
+  EXPECT_EQ(firstFaultOfSample({500, 100}), "");
+}
+
 TEST_F(PermissionTest, FollowingEndsWithTheScreenAndLosesItsMark) {
   for (const ScreenState end : {ScreenState::refused, ScreenState::lost, ScreenState::notAsked}) {
     for (const bool beganFirst : {false, true}) {

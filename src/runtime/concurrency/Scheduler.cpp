@@ -123,8 +123,9 @@ void Scheduler::planNextTurn(Entry& entry) {
   }
   const bool isSeen = entry.owner->isSeen();
   if (!isSeen) watchWhileSeen();
+  const bool looksAgain = std::exchange(entry.missed, false) && isSeen && !entry.waits;
   if (entry.waits || !isSeen || desktop().screenReader().tellsEachChange()) {
-    entry.due = kNotByTime;
+    entry.due = looksAgain ? turnBegan_ + kPointerGap : kNotByTime;
     return;
   }
   // Frames follow each other in step, however long the turns take. While the pointer moves, its movements set the pace
@@ -139,6 +140,7 @@ void Scheduler::planNextTurn(Entry& entry) {
 void Scheduler::screenChanged() {
   const TimePoint now = desktop().now();
   for (const auto& entry : entries_) {
+    entry->missed = !entry->waits && !entry->paced;
     if (!entry->waits && !(entry->paced && entry->owner->isSeen())) continue;
     const TimePoint soonest = std::max(now, entry->lastPointerTurn + kPointerGap);
     if (entry->due <= soonest) continue;

@@ -85,6 +85,7 @@ class Scheduler {
     bool paced = false;       // it has drawn and waits for the next frame or a movement of the pointer
     bool forPointer = false;  // the turn it waits for was asked for by a movement
     bool waits = false;       // it gave way in waitForScreen()
+    bool missed = false;      // the screen has changed since it began what it is about to draw
   };
 
   // When a thread is due that waits for something else than the time.

@@ -42,6 +42,10 @@ class ScreenReader {
   using Picked = std::function<void(std::uint32_t)>;
   virtual void request(const Picked& /*picked*/ = {}) {}
 
+  // Forgets for whom a request is under way: `picked` is not called any more. What it holds may have to go before the
+  // desktop does.
+  virtual void dropRequest() {}
+
   // Whether `unavailable` still leaves the user a way to pick single colours, see request().
   virtual bool canPickColor() const { return false; }
 
@@ -53,8 +57,8 @@ class ScreenReader {
   // pattern of greys that can't be taken for the screen.
   virtual std::uint32_t pixel(ScreenPoint at) = 0;
 
-  // Where the pointer is, also when the program is not in front. After a press, a release or a key it is the place of
-  // that moment, which may take up to 50 ms to find out.
+  // Where the pointer is, also when the program is not in front. In the event of a press, a release or a key it is the
+  // place of that moment, which may take up to 100 ms to find out.
   virtual ScreenPoint pointer() = 0;
 
   // While on, `changed` is called from the event loop soon after each movement of the pointer, wherever it is, after

@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <string>
 
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -29,6 +30,13 @@ int keep(int descriptor, std::string& kept) {
   return 0;
 }
 
+// Has the disk keep room for a file of so many bytes, so that nothing is overwritten in vain.
+int reserve(int descriptor, off_t oldSize, off_t size) {
+  if (size <= oldSize) return 0;
+  const int error = posix_fallocate(descriptor, oldSize, size - oldSize);
+  return error != 0 && ftruncate(descriptor, oldSize) != 0 ? errno : error;
+}
+
 }  // namespace
 
 WriteResult writeAll(int descriptor, std::string_view bytes) {
@@ -48,13 +56,17 @@ OverwriteResult overwrite(int descriptor, std::string_view bytes) {
   std::string kept(bytes.size(), '\0');
   if (const int error = keep(descriptor, kept); error != 0) return {.error = error};
 
+  if (const int error = reserve(descriptor, old.st_size, static_cast<off_t>(bytes.size())); error != 0)
+    return {.error = error};
+
   auto [count, error] = writeAll(descriptor, bytes);
   if (error == 0) error = errorOf(fsync(descriptor));
   if (error == 0) error = errorOf(ftruncate(descriptor, static_cast<off_t>(bytes.size())));
   if (error == 0) return {};
 
   kept.resize(std::min(kept.size(), count));
-  const bool restored = writeAll(descriptor, kept).error == 0 && ftruncate(descriptor, old.st_size) == 0;
+  const bool restored =
+      writeAll(descriptor, kept).error == 0 && ftruncate(descriptor, old.st_size) == 0 && fsync(descriptor) == 0;
   return {.error = error, .isDamaged = !restored};
 }
 

@@ -105,6 +105,7 @@ void CanvasWidget::showEvent(QShowEvent*) {
 }
 
 void CanvasWidget::hideEvent(QHideEvent*) {
+  followScreenNoMore();
   if (canvas_) canvas_->shown_ = false;
 }
 

@@ -16,8 +16,8 @@ Int32 MouseY();
 // Where the screen can't be read, the result is a pattern of greys that can't be taken for the screen.
 Color Pixel(Int32 x, Int32 y);
 
-// Whether Pixel gives what is on screen. Also true on a desktop that gives the screen to no program: Pixel explains
-// that to the user, once, and gives the greys.
+// Whether Pixel gives what is on screen. Also true on a desktop that gives the screen to no program: the user is told
+// so once, and Pixel gives the greys.
 bool CanReadScreen();
 
 // Asks for the screen where the desktop lets a program read it with the user's permission only. True where it can be

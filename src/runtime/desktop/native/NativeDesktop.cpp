@@ -29,9 +29,8 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr auto kWhyNotOnWayland =
-    "This desktop session runs on Wayland, and the part of Tavrelkin that reads the screen there can't be loaded. It "
-    "needs "
-    "PipeWire (libpipewire-0.3).\n\n"
+    "This desktop session runs on Wayland, and the part of Tavrelkin that reads the screen there can't be loaded. "
+    "It needs PipeWire (libpipewire-0.3).\n\n"
     "Following the mouse and Poke also work in a session on X11 (X.Org). Many login screens offer one, often under the "
     "name of the desktop with \"on Xorg\" or \"X11\" beside it.\n\n"
     "Mixing a colour on the bars, paste and copy work here as well.";

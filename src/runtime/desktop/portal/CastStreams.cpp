@@ -8,7 +8,6 @@ namespace tavrelkin {
 
 namespace {
 
-constexpr std::size_t mostStreams = 64;
 constexpr int farthest = 1 << 20;
 constexpr int largest = 1 << 16;
 
@@ -53,10 +52,10 @@ std::optional<std::vector<CastStream>> castStreams(const QVariant& value) {
   if (!argument) return std::nullopt;
   std::vector<CastStream> result;
   argument->beginArray();
-  while (!argument->atEnd() && result.size() <= mostStreams)
+  while (!argument->atEnd() && result.size() <= kMostStreams)
     result.push_back(castStream(*argument));
   argument->endArray();
-  if (result.empty() || result.size() > mostStreams) return std::nullopt;
+  if (result.empty() || result.size() > kMostStreams) return std::nullopt;
   return result;
 }
 

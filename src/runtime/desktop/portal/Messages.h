@@ -6,9 +6,8 @@ namespace tavrelkin::message {
 constexpr auto kNoPortal =
     "This desktop session runs on Wayland, and its desktop offers no way to share the screen with a program.\n\n"
     "Following the mouse and Poke work where a desktop portal for screen sharing is installed (xdg-desktop-portal, "
-    "with "
-    "the part for your desktop, and PipeWire), and in a session on X11 (X.Org). Many login screens offer one, often "
-    "under the name of the desktop with \"on Xorg\" or \"X11\" beside it.\n\n"
+    "with the part for your desktop, and PipeWire), and in a session on X11 (X.Org). Many login screens offer one, "
+    "often under the name of the desktop with \"on Xorg\" or \"X11\" beside it.\n\n"
     "Mixing a colour on the bars, paste and copy work here as well.";
 
 constexpr auto kNoPointer =
@@ -20,6 +19,12 @@ constexpr auto kOnlyPicks =
     "This desktop does not say where the pointer is, so Tavrelkin can't follow the mouse here.\n\n"
     "Poke works: choose it, and then click the colour that you want.\n\n"
     "Following the mouse works in a session on X11, and on Wayland in desktops that say it, such as GNOME.";
+
+constexpr auto kOnlyPicksWithoutPortal =
+    "This desktop offers no way to share the screen with a program, so Tavrelkin can't follow the mouse here.\n\n"
+    "Poke works: choose it, and then click the colour that you want.\n\n"
+    "Following the mouse works where a desktop portal for screen sharing is installed (xdg-desktop-portal, with the "
+    "part for your desktop, and PipeWire), and in a session on X11.";
 
 constexpr auto kPointerNotSeen =
     "The desktop shares the screen, but has not said where the pointer is, so Tavrelkin can't follow the mouse.\n\n"

@@ -8,6 +8,7 @@
 
 #include <QDBusConnection>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QTimer>
 #include <QWindow>
@@ -40,12 +41,14 @@ class PortalScreenReader final : public QObject, public ScreenReader {
 
   ScreenState state() const override { return state_; }
   void request(const Picked& picked) override;
+  void dropRequest() override;
   bool canPickColor() const override { return canPick_; }
   void beginTurn() override;
   std::uint32_t pixel(ScreenPoint at) override;
   ScreenPoint pointer() override;
   void watch(std::function<void()> changed) override;
-  bool tellsEachChange() const override { return true; }
+  // The greys in place of the screen don't change, but the pointer does.
+  bool tellsEachChange() const override { return state_ != ScreenState::unavailable; }
   bool optionKey() override { return toolkit_.optionKey(); }
 
   // Sees the events of all windows of the program.
@@ -55,7 +58,7 @@ class PortalScreenReader final : public QObject, public ScreenReader {
   void begun();
   void changed();
   void ended(ScreenSession::End how);
-  void fallBackToPicks(const char* orElse);
+  void fallBackToPicks(const char* onlyPicks, const char* notEvenThose);
   void pick(Picked picked);
   void fail(ScreenState state, const char* message);
   void become(ScreenState state);
@@ -67,6 +70,7 @@ class PortalScreenReader final : public QObject, public ScreenReader {
   void lingered();
 
   ScreenPoint findPointer();
+  void expectLatePointer();
   void noteMouse(const QWindow& window, QPointF local);
   std::optional<PointerMerge::Stream> streamPointer() const;
 
@@ -76,7 +80,10 @@ class PortalScreenReader final : public QObject, public ScreenReader {
   std::unique_ptr<ColorPickerPortal> picker_;
   ScreenState state_ = ScreenState::notAsked;
   bool canPick_ = false;
-  Picked wanted_;  // what the request is for that is under way
+  const char* onlyPicks_ = message::kOnlyPicks;  // why
+  Picked wanted_;                                // what the request is for that is under way
+  bool isRequesting_ = false;
+  bool hasBegun_ = false;  // a session, at any time in this run
   std::function<void()> watcher_;
 
   bool isActive_ = false;
@@ -88,7 +95,7 @@ class PortalScreenReader final : public QObject, public ScreenReader {
   std::optional<ScreenModel> screen_;
   std::optional<ScreenPoint> pointer_;
   PointerMerge merge_;
-  bool mayBeLate_ = false;  // a press, a release or a key has come, whose place the stream may not know yet
+  bool mayBeLate_ = false;  // in the event of a press, a release or a key, whose place the stream may not know yet
 };
 
 PortalScreenReader::PortalScreenReader(std::function<void(const std::string&)> tell)
@@ -103,11 +110,14 @@ PortalScreenReader::PortalScreenReader(std::function<void(const std::string&)> t
 }
 
 void PortalScreenReader::request(const Picked& picked) {
-  if (isReadable()) return;
+  isRequesting_ = true;
+  const bool canRead = isReadable();
+  isRequesting_ = false;
+  if (canRead) return;
   if (state_ == ScreenState::unavailable) {
     if (!canPick_) return;
     if (picked) return pick(picked);
-    return tell_(message::kOnlyPicks);
+    return tell_(onlyPicks_);
   }
   wanted_ = picked;
   if (state_ == ScreenState::asking) return;
@@ -115,7 +125,13 @@ void PortalScreenReader::request(const Picked& picked) {
   session_.open();
 }
 
+void PortalScreenReader::dropRequest() {
+  wanted_ = {};
+  if (picker_) picker_->cancel();
+}
+
 void PortalScreenReader::begun() {
+  hasBegun_ = true;
   isActive_ = true;
   activeSince_ = Clock::now();
   wanted_ = {};
@@ -145,25 +161,28 @@ void PortalScreenReader::ended(ScreenSession::End how) {
     case End::byUser:
       return become(ScreenState::notAsked);
     case End::noPortal:
-      return fallBackToPicks(message::kNoPortal);
+      // What was there once may come back.
+      if (hasBegun_) return fail(ScreenState::lost, message::kFailed);
+      return fallBackToPicks(message::kOnlyPicksWithoutPortal, message::kNoPortal);
     case End::noPointer:
-      return fallBackToPicks(message::kNoPointer);
+      return fallBackToPicks(message::kOnlyPicks, message::kNoPointer);
     case End::pointerNotSeen:
       return fail(ScreenState::lost, message::kPointerNotSeen);
     case End::failed:
       return fail(ScreenState::lost, message::kFailed);
     case End::lost:
-      // Nobody misses what nobody reads; the next request begins a new session.
-      return wasActive ? fail(ScreenState::lost, message::kLost) : become(ScreenState::lost);
+      // Nobody misses what nobody reads, and a request that has met a dead stream begins a new session.
+      return wasActive && !isRequesting_ ? fail(ScreenState::lost, message::kLost) : become(ScreenState::lost);
   }
 }
 
-void PortalScreenReader::fallBackToPicks(const char* orElse) {
+void PortalScreenReader::fallBackToPicks(const char* onlyPicks, const char* notEvenThose) {
+  onlyPicks_ = onlyPicks;
   picker_ = std::make_unique<ColorPickerPortal>(QDBusConnection::sessionBus());
-  picker_->askAvailable([this, orElse](bool isAvailable) {
+  picker_->askAvailable([this, notEvenThose](bool isAvailable) {
     canPick_ = isAvailable;
-    if (!isAvailable) return fail(ScreenState::unavailable, orElse);
-    if (!wanted_) return fail(ScreenState::unavailable, message::kOnlyPicks);
+    if (!isAvailable) return fail(ScreenState::unavailable, notEvenThose);
+    if (!wanted_) return fail(ScreenState::unavailable, onlyPicks_);
     become(ScreenState::unavailable);
     pick(std::exchange(wanted_, {}));
   });
@@ -256,7 +275,7 @@ bool PortalScreenReader::eventFilter(QObject* watched, QEvent* event) {
   switch (event->type()) {
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
-      mayBeLate_ = true;
+      expectLatePointer();
       [[fallthrough]];
     case QEvent::MouseMove:
       noteMouse(window, static_cast<QMouseEvent&>(*event).position());
@@ -271,12 +290,19 @@ bool PortalScreenReader::eventFilter(QObject* watched, QEvent* event) {
       break;
     case QEvent::KeyPress:
     case QEvent::ShortcutOverride:
-      mayBeLate_ = true;
+      if (!static_cast<QKeyEvent&>(*event).isAutoRepeat()) expectLatePointer();
       break;
     default:
       break;
   }
   return false;
+}
+
+// Only what the event calls forth asks for the place of its moment.
+void PortalScreenReader::expectLatePointer() {
+  mayBeLate_ = true;
+  QMetaObject::invokeMethod(
+      this, [this] { mayBeLate_ = false; }, Qt::QueuedConnection);
 }
 
 // In the pixels of the stream's frames, of which there may be several to a pixel of the toolkit.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -22,6 +23,9 @@ struct CastStream {
   std::optional<ScreenPoint> position;  // of the top left corner, in the desktop's logical pixels
   std::optional<Size> size;             // in logical pixels
 };
+
+// More than any desk has. Each costs memory and a connection, and their number comes from another program.
+inline constexpr std::size_t kMostStreams = 16;
 
 // An open file descriptor with one owner.
 class FileDescriptor {

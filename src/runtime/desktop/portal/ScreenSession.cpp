@@ -16,6 +16,8 @@ using namespace std::chrono_literals;
 constexpr auto kFirstFrames = 5s;
 // From there to the first place of the pointer: a desktop that has not told it by then won't do so.
 constexpr auto kFirstPlace = 1s;
+// From an idle stream's waking to its frames, which take some 20 ms.
+constexpr auto kFramesAgain = 2s;
 // A pause that nobody asked for is over by then, or the stream does not go on.
 constexpr auto kPause = 1s;
 // The desktop ends the cast when its monitors change, at about the time at which the toolkit learns of the change.
@@ -50,7 +52,6 @@ void ScreenSession::answered(ScreenCastPortal::Result answer) {
                                                          .paused = [this](bool isPaused) { streamPaused(isPaused); },
                                                          .lost = [this] { stopped(End::lost); }});
     if (!streams_) return end(End::noPortal);
-    streams_->setActive(true);
     return waitAtMost(kFirstFrames, End::failed);
   }
   switch (std::get<ScreenCastPortal::Failure>(answer)) {
@@ -66,16 +67,25 @@ void ScreenSession::answered(ScreenCastPortal::Result answer) {
 }
 
 void ScreenSession::streamChanged() {
-  if (hasBegun_) return events_.changed();
+  if (hasBegun_) {
+    if (isWaking_ && streams_->waitForFrames(0ms)) {
+      isWaking_ = false;
+      limit_.stop();
+    }
+    return events_.changed();
+  }
   if (isStopped_) return;
   const ScreenModel screen = streams_->screen();
   if (!screen.hasFrames()) return;
   if (screen.pointer()) {
     limit_.stop();
     hasBegun_ = true;
+    hasMissedPlace_ = false;
     events_.begun();
-  } else if (orElse_ != End::pointerNotSeen) {
-    waitAtMost(kFirstPlace, End::pointerNotSeen);
+  } else if (!std::exchange(awaitsPlace_, true)) {
+    // A desktop that misses it twice, on all monitors, never tells it.
+    const bool isHopeless = std::exchange(hasMissedPlace_, true) && sharesAllMonitors();
+    waitAtMost(kFirstPlace, isHopeless ? End::noPointer : End::pointerNotSeen);
   }
 }
 
@@ -83,7 +93,7 @@ void ScreenSession::streamPaused(bool isPaused) {
   if (!hasBegun_) return;
   if (isPaused) {
     waitAtMost(kPause, End::lost);
-  } else {
+  } else if (!isWaking_) {
     limit_.stop();
   }
 }
@@ -96,6 +106,8 @@ void ScreenSession::closed(ScreenCastPortal::Ending how) {
 // A pause before this counts no more: the streams tell of the next one.
 void ScreenSession::setActive(bool active) {
   limit_.stop();
+  isWaking_ = active;
+  if (active) waitAtMost(kFramesAgain, End::lost);
   streams_->setActive(active);
 }
 
@@ -131,6 +143,8 @@ void ScreenSession::reopen() {
   limit_.stop();
   streams_.reset();
   isStopped_ = false;
+  awaitsPlace_ = false;
+  isWaking_ = false;
   open();
 }
 
@@ -142,12 +156,19 @@ void ScreenSession::end(End how) {
   limit_.stop();
   hasBegun_ = false;
   isStopped_ = false;
+  awaitsPlace_ = false;
+  isWaking_ = false;
   streams_.reset();
   if (portal_) {
     portal_->close();
-    if (how == End::byUser) portal_->forgetToken();
+    // By the token the same monitors would be shared again, without a question.
+    if (how == End::byUser || how == End::pointerNotSeen) portal_->forgetToken();
   }
   events_.ended(how);
+}
+
+bool ScreenSession::sharesAllMonitors() const {
+  return streams_->screen().streamCount() >= static_cast<std::size_t>(QGuiApplication::screens().size());
 }
 
 void ScreenSession::waitAtMost(std::chrono::milliseconds longest, End orElse) {

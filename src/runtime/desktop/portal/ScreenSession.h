@@ -66,13 +66,17 @@ class ScreenSession {
   void interrupt();
   void end(End how);
   void waitAtMost(std::chrono::milliseconds longest, End orElse);
+  bool sharesAllMonitors() const;
 
   Events events_;
   std::unique_ptr<ScreenCastPortal> portal_;
   std::unique_ptr<ScreenStreams> streams_;
   bool isOpening_ = false;
   bool hasBegun_ = false;
-  bool isStopped_ = false;  // the desktop has ended it, and may tell of a change of its monitors next
+  bool awaitsPlace_ = false;     // of the pointer: all frames are there
+  bool hasMissedPlace_ = false;  // in the session before this one
+  bool isWaking_ = false;        // has been made active, and frames have not come yet
+  bool isStopped_ = false;       // the desktop has ended it, and may tell of a change of its monitors next
   std::optional<Clock::time_point> monitorsChanged_;  // since the session was opened
   End orElse_ = End::failed;
   QTimer limit_;  // of what is being waited for

@@ -8,13 +8,6 @@
 
 namespace tavrelkin {
 
-namespace {
-
-// More than any desk has. Each costs memory and a connection, and their number comes from another program.
-constexpr std::size_t kMostStreams = 16;
-
-}  // namespace
-
 std::unique_ptr<ScreenStreams> ScreenStreams::connect(ScreenCast cast, Events events, std::uint32_t mostFrames) {
   if (cast.streams.empty() || cast.streams.size() > kMostStreams) return nullptr;
   std::unique_ptr<ScreenStreams> streams(new ScreenStreams(cast.streams, std::move(events)));
@@ -43,6 +36,8 @@ ScreenStreams::~ScreenStreams() {
 }
 
 void ScreenStreams::setActive(bool active) {
+  // No buffer is taken meanwhile.
+  const PipeWireConnection::Lock connectionLock(*connection_);
   {
     const std::lock_guard lock(mutex_);
     if (active == std::exchange(active_, active)) return;
@@ -54,7 +49,6 @@ void ScreenStreams::setActive(bool active) {
     paused_ = false;
     news_.paused.reset();
   }
-  const PipeWireConnection::Lock lock(*connection_);
   for (const auto& stream : streams_)
     stream->setActive(active);
 }
