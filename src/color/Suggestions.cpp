@@ -6,7 +6,8 @@ namespace tavrelkin {
 
 namespace {
 
-// The distance to a neighbouring hue, and a third of the circle. No twelfth and no third: these very numbers.
+// The distance to a neighbouring hue, and a third of the circle. The exact fractions, 1/12 and 1/3, would give other
+// colours.
 constexpr Double kNeighbour = 0.083;
 constexpr Double kThird = 0.333;
 
@@ -21,8 +22,9 @@ Double wrapped(Double hue) {
   return hue < 0 ? hue + 1 : hue > 1 ? hue - 1 : hue;
 }
 
-// The neighbours of the colour, its complement and the neighbours of that, and two more a third of the circle on. The
-// first of these goes on from a colour that has been stored in bytes, the second from a hue that has not.
+// The two neighbours of the colour, its complement, the two neighbours of the complement, and two more hues, each a
+// third of the circle further. The first of these starts from a colour that was rounded to bytes, the second from a
+// hue that was not.
 std::array<Color, 7> relatedTo(Color c) {
   const Hsv from(c);
   const auto at = [&from](Double hue) { return HSV(hue, from.saturation, from.value); };

@@ -18,7 +18,7 @@ constexpr std::array<Deficiency, 3> kDeficiencies = {{
     {0.171, -0.003, 0.045391, 0.294976, 0.665764, 0.334011},
 }};
 
-// The factors for three values; the products are added from left to right.
+// A row of a matrix. The products are added from left to right.
 struct Factors {
   Double first, second, third;
 
@@ -31,7 +31,7 @@ Double expanded(Int32 channel, Double gamma) {
 
 }  // namespace
 
-// No matrix below is the inverse of another one. The differences belong to the results: a grey does not stay neutral.
+// No matrix below is the exact inverse of another. The results depend on that: a grey does not stay neutral.
 
 zrXYZ::zrXYZ(Color c) {
   zrXYZ::initClass();

@@ -7,16 +7,19 @@
 
 namespace tavrelkin {
 
-// One colour as tristimulus values, and how it looks to a person who lacks one of the three kinds of cone. An object is
-// made for one update or one paint and costs a few calls of Pow. To work at another gamma than 2.2, write `gamma` and
-// call XYZFromRGB again.
+// A colour as CIE XYZ tristimulus values, and the colour that a dichromat sees in its place. A dichromat lacks one of
+// the three kinds of cone. An object is made for one update or one paint; making it costs a few calls of Pow. To work
+// at a gamma other than 2.2, write `gamma` and call XYZFromRGB again.
 //
-// The colours that a dichromat can't tell apart lie on a line of the chromaticity diagram, and all these lines meet in
-// one point. Of its line a colour becomes that on the axis of the colours that remain, as bright as before; and this is
-// drawn towards white by as much as brings a channel to the edge of what the display shows.
+// A dichromat can't tell apart the colours on one line of the chromaticity diagram. All these lines of confusion meet
+// in one point. The transformation moves a colour along its line to the axis of the colours that the dichromat sees,
+// and keeps its luminance. A result outside the display's range is mixed with white until it is inside.
+//
+// The points and axes are those of the published copunctal points of protanopes, deuteranopes and tritanopes in the
+// CIE 1931 diagram. The matrices are for a display with the EBU primaries and a white of D65.
 //
 // A deficiency is an index: 0 "Protanopia", 1 "Deutanopia", 2 "Tritanopia". It selects the entry of each table below.
-// Nothing here checks its numbers. Infinities and what is no number go through, and end in channels of 0 to 255.
+// No function checks its numbers. Infinities and NaN pass through and end as channels from 0 to 255.
 class zrXYZ {
  public:
   // Takes the colour at a gamma of 2.2.
@@ -25,19 +28,19 @@ class zrXYZ {
   zrXYZ& operator=(const zrXYZ&) = default;
   virtual ~zrXYZ() = default;
 
-  // Gives the whole parts of linear red, green and blue, which are 0, 1 or 2 for a colour of the display. Not for the
-  // screen.
+  // The integer parts of linear red, green and blue, which are 0, 1 or 2 for a colour of the display. Of no use as a
+  // colour to show.
   virtual Color getRGBColor() const;
   // Sets `gamma` to 2.2 and fills the tables of the deficiencies. The tristimulus values stay.
   virtual void initClass();
-  // How the colour that the object holds looks to a dichromat, encoded with `gamma`. The argument c is not looked at.
-  // Changes nothing. Throws OutOfBoundsException unless index is 0, 1 or 2.
+  // The colour that a dichromat sees for the colour of this object, encoded with `gamma`. `c` is ignored. The object
+  // does not change. Throws OutOfBoundsException unless index is 0, 1 or 2.
   virtual Color getDichromatTranformation(Int32 index, Color c) const;
-  // The colour of any tristimulus values, without gamma: linear red, green and blue times 255, fractions dropped.
+  // Linear red, green and blue of any tristimulus values, without gamma: times 255, fractions dropped.
   virtual Color RGBFromXYZ(Double fromX, Double fromY, Double fromZ) const;
   // Writes linear red, green and blue of any tristimulus values. They may be negative or above 1.
   virtual void RGB2FromXYZ(Double fromX, Double fromY, Double fromZ, Double& r, Double& g, Double& b) const;
-  // Takes the colour into `x`, `y` and `z`, its channels expanded with `gamma`.
+  // Sets `x`, `y` and `z` from a colour, whose channels it expands with `gamma`.
   virtual void XYZFromRGB(Color c);
 
   // The tristimulus values. White has a `y` of 1.
@@ -45,19 +48,19 @@ class zrXYZ {
   Double y = 0;
   Double z = 0;
 
-  // Where the lines of confusion meet: u and v, which are the x and y of the CIE diagram of 1931, here and below.
+  // The points where the lines of confusion meet. Here and below, u and v are the x and y of the CIE 1931 diagram.
   std::array<std::array<Double, 2>, 3> confusionPoints{};
 
-  // Part of the class, but neither filled nor read: the conversions have their factors written into them.
+  // Part of the class, but never filled nor read: each conversion has its own factors.
   std::array<std::array<Double, 3>, 3> XYZtoRGBMatrix{};
   std::array<std::array<Double, 3>, 3> RGBtoXYZMatrix{};
 
-  // The axis of the colours that remain, from its beginning (B) to its end (E).
+  // The axis of the colours that a dichromat sees, from its beginning (B) to its end (E).
   std::array<Double, 3> ColorAxesEU{};
   std::array<Double, 3> ColorAxesEV{};
   std::array<Double, 3> ColorAxesBV{};
   std::array<Double, 3> ColorAxesBU{};
-  // Neither filled nor read.
+  // Never filled nor read.
   std::array<Double, 3> ColorAxesSlope{};
 
   // The exponent of the display's transfer curve. Writing it leaves `x`, `y` and `z` as they are.

@@ -4,14 +4,17 @@
 #include "runtime/gui/DragItem.h"
 #include "runtime/gui/RectControl.h"
 
-// How colours travel by drag, for all controls alike: as private data of the type "hcol" and as text of the hash form.
+// Colours in drags, for all controls. A dragged colour has two forms: private data of the type "hcol" (getRGBStr), and
+// text such as "#FF8000". Between programs the drag is the toolkit's; on X11 that is the XDND protocol, version 5
+// (freedesktop.org).
 namespace tavrelkin::ColorDrag {
 
-// What a control has to do to be a target: private data goes ahead of text, or is all that it takes.
+// Makes a control a target of colours. accept() takes private data and text, and prefers private data;
+// acceptPrivate() takes private data only.
 void accept(RectControl& control);
 void acceptPrivate(RectControl& control);
 
-// Takes the colour that an item carries. False where it carries none; `c` is written only on success.
+// Reads the colour of an item into `c`. Where the item has none, returns false and leaves `c` alone.
 bool take(const Ref<DragItem>& item, Color& c);
 bool takePrivate(const Ref<DragItem>& item, Color& c);
 
@@ -19,8 +22,8 @@ bool takePrivate(const Ref<DragItem>& item, Color& c);
 constexpr Int32 kLarge = 21;
 constexpr Int32 kSmall = 9;
 
-// Drags a colour out of a control, under an outline around the pointer, which stands at (x, y) of the control. Returns
-// when the drag is over.
+// Starts a drag of a colour out of a control, and returns when the drag is over. The pointer is at (x, y), in pixels
+// from the control's top left corner; a square outline with that side length follows it.
 void begin(RectControl& control, Color c, Int32 x, Int32 y, Int32 outline = kLarge);
 
 }  // namespace tavrelkin::ColorDrag

@@ -11,19 +11,20 @@ class zrColorCHBar : public Canvas {
  public:
   zrColorCHBar(Window& owner, String name, Int32 index = 0);
 
+  // The range of Value.
   Int32 Maximum = 255;
   Int32 Minimum = 0;
   // The channel's value, 0 to 255 for every channel.
   Int32 Value = 0;
-  // Part of the class, but neither read nor written.
+  // Part of the class, but never read nor written.
   Int32 ColorChannel = 0;
-  // The column of the indicator's centre.
+  // The column of the indicator's centre, in pixels from the left edge.
   Int32 Lastx = 6;
-  // Part of the class, but neither read nor written.
+  // Part of the class, but never read nor written.
   Int32 arrowLastX = 0;
   // The colour that the bar edits.
   Color propBaseColor;
-  // Whether letting go of the indicator takes the value down to a multiple of 51.
+  // Whether the value becomes the next lower multiple of 51 when the user releases the indicator.
   bool WebSafe = false;
   // The number of the channel; see ColorChannel.h.
   Int32 propColorChannel = 0;
@@ -34,7 +35,7 @@ class zrColorCHBar : public Canvas {
   Event<Int32()> SetColorChannel;
   // A key was pressed; propBaseColor is up to date.
   Event<void()> Change;
-  // A new value during a drag. HelpTag and Value tell it, propBaseColor does not yet.
+  // A new value during a drag. HelpTag and Value have it; propBaseColor changes at the end of the drag.
   Event<void()> ValueChanging;
 
   void Event_DropObject(const Ref<DragItem>& item, Int32 action) override;
@@ -48,15 +49,15 @@ class zrColorCHBar : public Canvas {
   virtual void DrawBorder();
   // The strip and the border around it.
   virtual void DrawValue();
-  // The indicator, centred on column x.
+  // The indicator, centred on column x in pixels.
   virtual void DrawArrow(Int32 x);
   virtual void DoMouseDrag(Int32 x, Int32 y);
 
-  // Pushes a colour into the bar. Raises nothing.
+  // Gives the bar a colour. Raises no event.
   virtual void SetBaseColor(Color c);
-  // Paints the bar anew.
+  // Paints the bar.
   virtual void Update();
-  // Moves the indicator to a value, without a look at its range. Raises nothing and leaves propBaseColor alone.
+  // Moves the indicator to a value, which is not limited to the range. Raises no event and leaves propBaseColor alone.
   virtual void SetValue(Int32 v);
   virtual void intSetTooltip();
   // Puts the value into propBaseColor.

@@ -10,11 +10,11 @@ namespace tavrelkin {
 
 class FolderItem;
 
-// A palette: a table of colours that begins with 256 white ones. No entry is ever missing; a free one is white, and so
-// is one whose colour was removed. A cursor, shared by Add and NextColor, fills the table or walks it from index 0 on.
+// A palette: a table of colours. A new table has 256 white entries. A free entry is white, and so is an entry whose
+// colour was removed. Add and NextColor share a cursor, which starts before index 0.
 //
-// `Count` is the table's upper bound, not a number of colours: indexes 0 to Count are valid. A Count below 0 stands for
-// an empty table. What an operation refuses, it refuses in silence.
+// `Count` is the upper bound of the table, not the number of colours: indexes 0 to Count are valid. A Count below 0
+// means an empty table. An operation that refuses its arguments does nothing and shows no message.
 class zrClut : public Object {
  public:
   zrClut();
@@ -29,8 +29,8 @@ class zrClut : public Object {
   // Moves the cursor on, and puts a colour there unless that is above Count.
   virtual void Add(Color c);
 
-  // Makes an entry white; nothing moves. An index outside 0 to 255 is ignored, one above Count otherwise throws
-  // OutOfBoundsException, and an empty table ignores all.
+  // Makes an entry white; no other entry moves. Does nothing for an index outside 0 to 255 and for an empty table.
+  // Throws OutOfBoundsException for any other index above Count.
   virtual void Remove(Int32 i);
 
   // The colour at an index, black outside 0 to Count.
@@ -42,24 +42,27 @@ class zrClut : public Object {
   // Puts the cursor before the first entry.
   virtual void Reset();
 
-  // Moves the cursor on and gives the colour there. Black, and the cursor stays, if it would pass 255; throws
-  // OutOfBoundsException if it passes a smaller Count.
+  // Moves the cursor to the next entry and gives its colour. At 255 the cursor stays and the result is black. Throws
+  // OutOfBoundsException where the cursor passes a Count below 255.
   virtual Color NextColor();
 
   // Makes the table as new: 256 white entries.
   virtual void Clear();
 
-  // The files. All give false for a nil item and, after a message, where the file can't be opened or made; the readers
-  // also, without a message, where there is none. A file with too few bytes is no failure.
+  // The files. Each function returns false for a nil item. It shows a message and returns false where the file can't be
+  // opened or made; a reader shows no message where the file does not exist. A file that is too short is no failure.
   //
-  // A colour table (.act) is 256 times red, green and blue, a byte each, and nothing else: entries that are missing are
-  // written black. The reader stops after 255 colours, so that the last entry keeps its own.
+  // A colour table (.act) holds 256 colours of three bytes: red, green, blue. The writer writes black for missing
+  // entries. The reader stops after 255 colours, so the last entry stays as it was.
   virtual bool WriteClut(const Ref<FolderItem>& file) const;
 
-  // A swatch file (.aco) as version 1 of the format has it: the numbers 1 and Count + 1, then each colour as a space (0
-  // for RGB), three channels and a 0, all of two bytes. Of that the reader looks at the number of colours and at the
-  // high bytes of the channels. It takes the number for Count, as it is: the table has one entry more than the file,
-  // which keeps its colour or, if it is new, is black. A number of 0x8000 or more is negative.
+  // A swatch file (.aco) is in version 1 of the Adobe Photoshop color swatches format, as the "Adobe Photoshop File
+  // Formats Specification" describes it. All numbers have two bytes, the high byte first: the version 1, the number of
+  // colours, and for each colour its space (0 for RGB), three channels and a 0.
+  //
+  // The reader uses only the number of colours and the high bytes of the channels. The number becomes Count, so the
+  // table has one entry more than the file; that entry keeps its colour, or is black where it is new. A number from
+  // 0x8000 counts as negative. The writer writes Count + 1 as the number.
   virtual bool ReadSwatch(const Ref<FolderItem>& file);
   virtual bool ReadClut(const Ref<FolderItem>& file);
   virtual bool writeSwatch(const Ref<FolderItem>& file) const;

@@ -43,9 +43,9 @@ void finish(BinaryStream& stream, FolderItem& file, const char* macType) {
   file.MacCreator = "8BIM";
 }
 
-// Adds colours of so many bytes each up to the end of the stream or the last but one entry. With a Count of 0 or less
-// the cursor never meets that: it goes over all the rest of the file, of which nothing is stored. That may be
-// gigabytes, and more entries than the cursor can count.
+// Adds colours of `bytes` bytes each, up to the end of the stream or the last entry but one. With a Count of 0 or less
+// there is no such entry: the cursor moves over the rest of the file, and nothing of it is stored. The rest may be
+// gigabytes long, so the cursor's move is calculated, and limited to what an Int32 holds.
 template <class ReadColor>
 void fill(zrClut& table, BinaryStream& stream, Int32 bytes, ReadColor readColor) {
   const bool storesAll = table.Count > 0;

@@ -27,33 +27,34 @@ class frmVesk : public Window {
  public:
   frmVesk();
 
-  // The live default window, which is the one made here; made and shown where there is none.
+  // The window that the program opens first. Makes and shows a new one where it has been closed.
   static Ref<frmVesk> Default();
 
-  // Zoom step, 1 to 3: a screen pixel is a cell of four times as many canvas pixels.
+  // The zoom step, 1 to 3. A pixel of the screen is a square cell of 4 * step canvas pixels a side.
   Int32 ScreenZoomValue = 0;
-  // The latest sample of the screen, a pixel for a pixel. Replaced by each sample, never edited by anyone else.
+  // The latest sample of the screen, not enlarged. Each sample replaces it; nothing else changes it.
   Ref<Picture> zoomImage;
   Color SelectedColor;
-  // Part of the class, but neither read nor written.
+  // Part of the class, but never read nor written.
   bool flgShowCoordinates = false;
   // Whether the window follows the pointer: the condition of the tracking loop.
   bool flgTrackMouse = false;
-  // Whether a coordinate of the sample is held, and where in screen pixels it was tracked or locked last.
+  // Whether a coordinate of the sample is locked, and the coordinate in screen pixels at which it was last tracked or
+  // locked.
   bool flgLockX = false;
   Int32 varLastX = 0;
   bool flgLockY = false;
   Int32 varLastY = 0;
   // Whether the grid lies over the preview.
   bool flgDrawGuide = false;
-  // The grid as an overlay with a mask.
+  // The grid: a picture over the preview, with a mask.
   Ref<Picture> gridImage;
-  // What the preview shows in place of the screen.
+  // Which view the preview shows in place of the screen. At most one is true, except while the window follows.
   bool flgShowSuggestions = false;
   bool flgShowColorsInScreen = false;
   bool flgShowColorBlind = false;
 
-  // Controls.
+  // The handlers of the controls' events.
   bool cmdColor_BeforeSelectColor();
   bool cmdColor_ShowCMM();
   void imgScreen_MouseDrag(Int32 x, Int32 y);
@@ -97,13 +98,14 @@ class frmVesk : public Window {
   void doTrackSysCursor();
   // Takes a sample around a screen point and draws it on imgScreen.
   void drawSys(Int32 x, Int32 y);
-  // Makes a colour the selected one and updates every display of it; the preview stays as it is. `b` means nothing.
+  // Makes a colour the selected one and updates every control that shows it. The preview stays as it is. `b` is
+  // ignored.
   void setColor(Color c, bool b);
   void doSetUpToolScreenPeeker();
-  // Makes the grid overlay anew for the zoom step.
+  // Makes gridImage for the zoom step.
   void drawGrid();
   void drawSuggestions(Graphics* g);
-  // Paints the preview from the sample there is.
+  // Paints the preview from zoomImage.
   void drawScreen(Graphics* g);
   void drawColorsInScreen(Graphics* g);
   void saveColorsInScreen();
@@ -135,44 +137,46 @@ class frmVesk : public Window {
  private:
   class PreviewAccessible;
 
+  // The parts of the constructor: places and sizes, the order of the Tab key, colours and ranges, fonts, the events'
+  // handlers, and the names for assistive technologies.
   void layOut();
-  // Who takes the keyboard by the tabulator key, and in which order.
   void orderTabs();
   void dress();
   void styleTexts();
   void wire();
-  // What the controls are called where they don't show it, and how the preview presents itself.
   void nameControls();
 
   // The item of that name in the window's menu bar.
   MenuItem& menuItem(const char* name) const;
-  // Shows a view in place of the screen, by its flag, or ends it where it is shown. It takes the place of another one.
+  // Shows or ends a view, given by its flag. A view that begins ends the other one.
   void toggleView(bool& shown);
-  // Ends the two views that a look at the screen replaces.
+  // Ends the views of suggestions and of distinct colours.
   void leaveColorViews();
-  // The end of a choice in the preview.
+  // Selects a colour that the user has chosen in the preview, and ends the views it was chosen in.
   void take(Color c);
+  // The same for the colour under the pointer.
   void takeFromScreen();
-  // Whether the screen can be read at once. If not, the user is asked for it, or picks a colour for this window.
+  // Whether the screen can be read now. If not, asks the user for permission, or lets the user pick a colour for this
+  // window.
   bool requestScreen();
   void rememberPointer();
-  // The colour under the pointer, which is at (x, y) of the preview. Without the screen it is the preview's own pixel;
-  // nothing outside of it.
+  // The colour on the screen under the pointer, which is at (x, y) of the preview. Where the screen can't be read, the
+  // preview's own pixel there, or nothing outside of the preview.
   std::optional<Color> colorUnderPointer(Int32 x, Int32 y);
 
-  // What the preview has come to show: cells, which keyboard and assistive technologies can choose, or the screen.
+  // Note what the preview now shows: a view's cells, which keys and assistive technologies can choose, or the screen.
   void showsCells(const char* view, std::vector<ColorCell> cells);
   void showsScreen();
-  // Arrow keys go from cell to cell, and the keys of a button choose the one that they have come to, or the pixel under
-  // the pointer.
+  // Arrow keys mark a cell. Space, Return and Enter take the marked cell's colour or, where no cell is marked, the
+  // colour under the pointer.
   bool imgScreen_KeyDown(const String& key);
   void markCell(std::size_t index);
 
-  bool pressTakes_ = true;  // whether the release of the press that is held, or was last, takes a colour
+  bool pressTakes_ = true;  // whether the release of the current press takes a colour
   static constexpr auto kScreenView = "Preview";
   String shownView_ = kScreenView;  // what the preview shows, in a word for the user
   std::vector<ColorCell> shownCells_;
-  Int32 markedCell_ = -1;
+  Int32 markedCell_ = -1;  // an index of shownCells_, or -1
 };
 
 }  // namespace tavrelkin

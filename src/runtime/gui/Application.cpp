@@ -42,7 +42,7 @@ Application& Application::current() {
   return *instance;
 }
 
-// The toolkit closes all windows first, and stays where one refuses.
+// Qt closes all windows first. It does not quit where a window refuses.
 void Application::Quit() {
   unblockAll();
   QCoreApplication::quit();

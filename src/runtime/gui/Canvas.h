@@ -15,7 +15,7 @@ namespace tavrelkin {
 
 class CanvasWidget;
 
-// Keys as KeyDown tells them.
+// The arrow keys, as KeyDown gives them.
 constexpr std::string_view kLeftArrow = "\x1C";
 constexpr std::string_view kRightArrow = "\x1D";
 constexpr std::string_view kUpArrow = "\x1E";
@@ -26,23 +26,22 @@ constexpr bool isPressKey(std::string_view key) {
   return key == " " || key == "\r";
 }
 
-// A control that the program draws by itself. Its surface keeps what is drawn on it, in a paint event or at any other
-// time, until the next paint event, ahead of which it is erased to the window's BackColor. That event comes when the
-// canvas is first shown, becomes visible, changes size, gets another backdrop, is enabled or disabled, and with
-// Refresh; a window that is uncovered or moved raises none. A canvas that is disabled gets no press, move or key, but
-// takes drops.
+// A control that the program draws itself. Its surface keeps what is drawn on it, in a Paint event or at any other
+// time. Before each Paint event the surface is erased to the window's BackColor. Paint comes when the canvas is first
+// shown, becomes visible, changes size, gets another backdrop, is enabled or disabled, and with Refresh. It does not
+// come when a window is uncovered or moved. A disabled canvas gets no press, move or key, but takes drops.
 class Canvas : public RectControl, private DrawingObserver {
  public:
   Canvas(Window& owner, String name);
   ~Canvas() override;
 
-  // A picture that lies behind the drawing: at the top left corner, at its natural size, where its mask lets it. None
-  // at first. Setting it shows it at once.
+  // A picture behind the drawing, at the top left corner, in its own size, through its mask. Nil at first. A new one
+  // shows at once.
   Property<Ref<Picture>> Backdrop;
 
   // Whether MouseDrag and MouseMove come again, with the same place, when the screen changes while the button is held
-  // or just after the pointer has moved: the desktop may show the pointer's place and the pixels there later than it
-  // tells of the movement. Without effect where the desktop shows both at once.
+  // or just after the pointer has moved. A desktop may deliver the pixels under the pointer later than the movement.
+  // Without effect where the desktop delivers both at once.
   bool FollowsScreen = false;
 
   // Draws straight on the control, also outside a paint event; reading a pixel gives what was drawn.
@@ -58,22 +57,23 @@ class Canvas : public RectControl, private DrawingObserver {
   // Tells them of a change, if there are any.
   void announce(AccessibleChange change);
 
-  // The events, for the host. Coordinates count from the canvas's top left corner and may lie outside of it during a
-  // drag. Only a MouseDown that returns true grants the MouseDrag and the MouseUp of that press; MouseMove comes while
-  // no button is held. KeyDown gets the key as one byte and returns true to keep it from the rest of the window. Keys
-  // that stand for no character raise none, but for the arrows; nor do Tab and Shift+Tab, which only move the focus. A
-  // key that presses a button raises one however long it is held. DropObject comes only for what the canvas accepts;
-  // its number is 0.
+  // The events, for the host. x and y are in pixels from the canvas's top left corner; during a drag they may lie
+  // outside of it. MouseDrag and MouseUp come only where MouseDown has returned true. MouseMove comes while no button
+  // is held.
+  //
+  // KeyDown gets the key as one byte; true keeps the key from the rest of the window. It comes for characters and
+  // arrows, and not for Tab and Shift+Tab, which only move the focus. A key that presses a button raises one KeyDown
+  // while it is held. DropObject comes only for what the canvas accepts; its `action` is 0.
   Event<void()> Open;
-  Event<void(tavrelkin::Graphics*)> Paint;
-  Event<bool(Int32, Int32)> MouseDown;
-  Event<void(Int32, Int32)> MouseDrag;
-  Event<void(Int32, Int32)> MouseUp;
-  Event<void(Int32, Int32)> MouseMove;
+  Event<void(tavrelkin::Graphics* g)> Paint;
+  Event<bool(Int32 x, Int32 y)> MouseDown;
+  Event<void(Int32 x, Int32 y)> MouseDrag;
+  Event<void(Int32 x, Int32 y)> MouseUp;
+  Event<void(Int32 x, Int32 y)> MouseMove;
   Event<void()> MouseEnter;
   Event<void()> MouseExit;
-  Event<bool(const String&)> KeyDown;
-  Event<void(const Ref<DragItem>&, Int32)> DropObject;
+  Event<bool(const String& key)> KeyDown;
+  Event<void(const Ref<DragItem>& item, Int32 action)> DropObject;
 
   // The same events, for a class of canvas. The base versions hand them to the host.
   void Event_Open() override { Open(); }

@@ -31,7 +31,7 @@ QAccessible::Role roleOf(const Accessible* described) {
   }
 }
 
-// A control below a window's fold is not.
+// False for a control below the fold of its window.
 bool isInSight(const QWidget& widget) {
   return widget.isVisible() && !widget.visibleRegion().isEmpty();
 }
@@ -214,7 +214,7 @@ void CanvasAccessible::tellAtRest(bool cellsToo) {
 
 void CanvasAccessible::tellChanges() {
   if (!described()) return;
-  const QString name = toQt(described()->name());  // the toolkit tells of any other
+  const QString name = toQt(described()->name());  // Qt announces changes of AccessibleName itself
   if (std::exchange(toldName_, name) != name) tell(QAccessible::NameChanged);
   const QString description = text(QAccessible::Description);
   if (std::exchange(toldDescription_, description) != description) tell(QAccessible::DescriptionChanged);

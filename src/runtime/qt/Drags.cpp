@@ -37,7 +37,8 @@ String toTriple(const QColor& c) {
   return Str(c.red()) + ", " + Str(c.green()) + ", " + Str(c.blue());
 }
 
-// What there is under the types of a drag; here only that there is something.
+// The data of a drag, by type. This base class is for a drag whose data can't be read yet: each type holds an empty
+// text.
 struct Content {
   Content() = default;
   Content(const Content&) = delete;
@@ -48,7 +49,7 @@ struct Content {
   virtual std::optional<String> text() const { return String(); }
 };
 
-// As the toolkit gives it.
+// The data that Qt holds: of a drag or clipboard of this program, and where no Offer exists.
 struct Held final : Content {
   explicit Held(const QMimeData& from) : data(from) {}
   std::optional<String> bytes(const QString& type) const override { return data.data(type).toStdString(); }
@@ -62,11 +63,11 @@ struct Held final : Content {
   const QMimeData& data;
 };
 
-// As another program sends it.
+// The data that another program sends. Each read asks that program.
 struct Sent final : Content {
   explicit Sent(Offer& from) : offer(from) {}
   std::optional<String> bytes(const QString& type) const override { return offer.bytes(fromQt(type)); }
-  // Four channels of two bytes, in the order of this machine: the high ones count.
+  // The type "application/x-color": red, green, blue and opacity of 16 bits each, in the byte order of this machine.
   std::optional<String> color() const override {
     std::array<std::uint16_t, 4> channels;
     const auto sent = offer.bytes(kDesktopColor);
@@ -78,7 +79,7 @@ struct Sent final : Content {
   Offer& offer;
 };
 
-// Reads no more than counts.
+// Reads only the types that count, since each read may take another program's time.
 Ref<DragItem> itemOf(const QMimeData& types, const Content& content) {
   Ref<DragItem> item = New<DragItem>();
   const QString prefix = QLatin1String(kPrivatePrefix);

@@ -9,7 +9,7 @@ namespace {
 
 constexpr Qt::KeyboardModifiers kCommand = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
 
-// The same press, said to be one that the keyboard repeats.
+// Sends the same press, marked as auto-repeat.
 void sendAsHeld(QObject& receiver, const QKeyEvent& press) {
   QKeyEvent held(press.type(), press.key(), press.modifiers(), press.nativeScanCode(), press.nativeVirtualKey(),
                  press.nativeModifiers(), press.text(), true, static_cast<quint16>(press.count()));
@@ -20,7 +20,7 @@ void sendAsHeld(QObject& receiver, const QKeyEvent& press) {
 }  // namespace
 
 bool HeldKeys::isHeld(const QKeyEvent& press) const {
-  const bool isKey = press.nativeScanCode() != 0;  // and not what another program made up
+  const bool isKey = press.nativeScanCode() != 0;  // 0 for an event that another program made
   return press.isAutoRepeat() || (isKey && press.nativeScanCode() == releasedCode_ && press.timestamp() == releasedAt_);
 }
 
@@ -41,8 +41,8 @@ bool HeldKeys::eventFilter(QObject* receiver, QEvent* event) {
   }
 }
 
-// The toolkit asks for each press whether it should look for a shortcut. Shortcuts ignore the auto-repeats that the
-// toolkit knows of.
+// Qt asks for each press whether a widget takes it before the shortcuts do. Shortcuts ignore a press that Qt itself has
+// marked as auto-repeat.
 bool HeldKeys::overridesShortcut(QKeyEvent& press) const {
   if (press.isAutoRepeat() || !isHeld(press)) return false;
   press.accept();
@@ -53,7 +53,7 @@ bool HeldKeys::replacesPress(QObject& receiver, const QKeyEvent& press) const {
   if (!isHeld(press)) return false;
   if (press.key() == Qt::Key_Return || press.key() == Qt::Key_Enter) return true;
   if (press.isAutoRepeat()) return false;
-  // It would have been a shortcut's, had the toolkit looked for one.
+  // Without the override above, a shortcut would have taken it.
   if (!(press.modifiers() & kCommand)) sendAsHeld(receiver, press);
   return true;
 }

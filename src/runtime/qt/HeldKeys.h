@@ -6,12 +6,15 @@ class QKeyEvent;
 
 namespace tavrelkin {
 
-// Marks the presses of a key that is held down as auto-repeats, as a filter on the events of all windows. Auto-repeat
-// comes as a release and a press with the same timestamp. The toolkit misses it where it looks at the release before
-// the press has arrived. A press that it missed reaches the window as an auto-repeat, and no shortcut. With a command
-// key it is dropped: a command acts once for a press, however long. Return and Enter reach a window once, too: a press
-// may open a dialog, whose own button the next would press. Two strokes of a key within one millisecond, which no hand
-// makes, count as auto-repeat.
+// Marks auto-repeated key presses, as an event filter of the application. X11 sends a held key as a release and a press
+// with the same timestamp. Qt does not pair them where it handles the release before the press has arrived; the press
+// then looks like a new one.
+//
+// A marked press reaches the window, but triggers no shortcut. A press with a command key (Ctrl, Alt, Meta) is dropped,
+// so a command acts once while its key is held. Return and Enter are dropped too: the first press may open a dialog,
+// and the next one would press its button.
+//
+// Two strokes of a key within one millisecond count as auto-repeat. No hand is that fast.
 class HeldKeys : public QObject {
  public:
   using QObject::QObject;

@@ -54,7 +54,8 @@ void WindowWidget::setContentSize(int width, int height) {
   if (const QWidget* focus = focusWidget(); focus && !isInSight(*focus)) leaveFocus();
 }
 
-// To the control before, as Shift+Tab would: in front of what a window unfolds stands the control that folds it.
+// Moves the focus to the previous control, like Shift+Tab. The control that folds a window comes before the controls
+// that are folded away.
 void WindowWidget::leaveFocus() {
   if (!focusNextPrevChild(false)) focusWidget()->clearFocus();
 }
@@ -98,8 +99,8 @@ void WindowWidget::showInFront() {
   activateWindow();
 }
 
-// A control outside of the window's content, such as one below the fold, is passed over. The toolkit's own way leads
-// through it, and assistive technologies would tell of each that the keyboard comes by.
+// Skips controls outside the window's content, such as those below the fold. Qt's own function moves the focus through
+// them, and a screen reader would announce each of them.
 bool WindowWidget::focusNextPrevChild(bool next) {
   QWidget* const from = focusWidget() ? focusWidget() : this;
   const auto step = [next](const QWidget* at) { return next ? at->nextInFocusChain() : at->previousInFocusChain(); };
@@ -111,8 +112,8 @@ bool WindowWidget::focusNextPrevChild(bool next) {
   return false;
 }
 
-// On a monitor of another scale the toolkit lets a window keep its pixels of the screen, and tells its size anew. While
-// a window manager moves and resizes it, it may seem to change monitors for a moment.
+// On a monitor with another scale factor Qt keeps the window's size in device pixels, so its size in logical pixels
+// changes. The timer waits, since a window that is being moved may change monitors for a moment only.
 void WindowWidget::resizeEvent(QResizeEvent*) {
   constexpr std::chrono::milliseconds settled(100);
   const qreal scale = devicePixelRatioF();
@@ -121,13 +122,13 @@ void WindowWidget::resizeEvent(QResizeEvent*) {
 
 void WindowWidget::takeSizeAgain() {
   const QSize whole = minimumSize();
-  // A window is on the monitor that has its middle: were that to move to the one it came from, it would go back and
-  // forth without end.
+  // A window belongs to the monitor that holds its centre. The new size must not move the centre back to the former
+  // monitor: the window would change its size again and again.
   const QRect monitor = screen()->geometry().adjusted(1, 1, -1, -1);
   const QPoint middle = QRect(geometry().topLeft(), whole).center();
   const QPoint inside(std::clamp(middle.x(), monitor.left(), monitor.right()),
                       std::clamp(middle.y(), monitor.top(), monitor.bottom()));
-  // The limits have to change for the window manager to learn what they are in pixels of this screen.
+  // The window manager learns the limits in this monitor's pixels only when they change.
   setMinimumSize(0, 0);
   if (inside != middle) setGeometry(QRect(geometry().topLeft() + inside - middle, whole));
   setFixedSize(whole);
@@ -142,7 +143,7 @@ bool WindowWidget::isInSight(const QWidget& control) const {
   return rect().intersects(QRect(control.mapTo(this, QPoint()), control.size()));
 }
 
-// Escape leaves a modal window as its close button does, whatever its buttons are.
+// Escape closes a modal window, like its close button.
 void WindowWidget::keyPressEvent(QKeyEvent* event) {
   if (isDialog() && event->matches(QKeySequence::Cancel)) {
     close();

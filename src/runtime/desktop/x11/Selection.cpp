@@ -51,7 +51,8 @@ Selection::Selection(XcbConnection connection, std::string_view name, xcb_timest
                     XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
 }
 
-// What is too long stays in the property, where it costs this program nothing, and another type would be no shorter.
+// A value that is too long is left in the property, on the server. The offer then ends, since another type of the same
+// data would be too long as well.
 std::optional<std::string> Selection::bytes(const std::string& type) {
   if (!isConverted(atom(connection_.get(), type))) return std::nullopt;
   std::string result;
@@ -74,7 +75,7 @@ XcbPtr<xcb_generic_event_t> Selection::waitFor(IsWanted isWanted) {
   return nullptr;
 }
 
-// False at the end of the patience and of the connection.
+// False where the time is over or the connection has failed.
 bool Selection::waitForData() {
   return !xcb_connection_has_error(connection_.get()) && waitForInput(xcb_get_file_descriptor(connection_.get()), end_);
 }
@@ -90,7 +91,8 @@ bool Selection::isConverted(xcb_atom_t target) {
   return event && reinterpret_cast<const xcb_selection_notify_event_t&>(*event).property == property_;
 }
 
-// A long one may come in parts, each when the one before is deleted, with an empty one at the end.
+// The owner may send a long value in parts (INCR). It sends each part when the one before has been deleted, and an empty
+// part at the end.
 bool Selection::takeAll(std::string& to) {
   const auto first = peek();
   if (!first) return false;

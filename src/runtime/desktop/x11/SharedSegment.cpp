@@ -45,8 +45,9 @@ bool SharedSegment::attach(int kernelId) {
   return true;
 }
 
-// Behind a tunnel or in a container of its own, the server may accept the number and attach another segment that has
-// it there. So see that what the server writes arrives: a pixel can't leave both of two different fillings as they are.
+// A server on another machine or in another container may attach a segment of its own that has the same id. So this
+// function checks that what the server writes arrives here. It fills the segment with two values in turn: a pixel of
+// the screen changes at least one of them.
 bool SharedSegment::isReached(xcb_window_t root) {
   for (const int filling : {0x00, 0xFF}) {
     std::uint8_t before[4];

@@ -21,9 +21,9 @@ class X11Offers final : public QAbstractNativeEventFilter, public OfferSource {
   std::unique_ptr<Offer> clipboard() override;
   std::unique_ptr<Offer> drop() override;
 
-  // Notes the time of a drop, by which its source knows which of its drags is asked for. Keeps a forged drag from the
-  // toolkit that claims to come from one of its own windows: it would watch that window as another program's, and no
-  // click or key would reach it any more. Its real ones don't come by messages.
+  // Notes the timestamp of a drop; the source uses it to know which of its drags is meant. Drops each message of a drag
+  // that claims to come from a window of this program, since such a message is forged: the toolkit's own drags send
+  // none. The toolkit would treat that window as another program's, and no click or key would reach it any more.
   bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
 
  private:
