@@ -46,6 +46,8 @@ RuntimeTest::~RuntimeTest() {
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   processEvents();
   installDesktop(nullptr);
+  // A quit that came while no event loop ran would end every later loop at once.
+  runUntilQuit([] { QCoreApplication::quit(); });
 }
 
 void RuntimeTest::start(Ref<Application> application) {

@@ -49,7 +49,7 @@ class frmVesk : public Window {
   bool flgDrawGuide = false;
   // The grid: a picture over the preview, with a mask.
   Ref<Picture> gridImage;
-  // Which view the preview shows in place of the screen. At most one is true, except while the window follows.
+  // Which view the preview shows in place of the screen. At most one is true.
   bool flgShowSuggestions = false;
   bool flgShowColorsInScreen = false;
   bool flgShowColorBlind = false;
