@@ -114,4 +114,6 @@ check "code (clang-tidy)" check_tidy
 check "on a real Wayland compositor" check_compositor
 check "unit and window tests, for their coverage" check_coverage
 report_coverage
+echo "The shape of the tree"
+scripts/report.py
 ((failures == 0))
