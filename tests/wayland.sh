@@ -13,9 +13,9 @@ pictures="$root/build/wayland"
 in_session="$root/driver/compositor/session.sh"
 export PYTHONPATH="$root/driver/compositor"
 
-require_packages build run wayland compositor
-is_configured release || configure release -DTAVRELKIN_TESTS=OFF
-cmake --build "$root/build/release" --target tavrelkin
+require_packages build run wayland compositor >&2
+is_configured release || configure release -DTAVRELKIN_TESTS=OFF >&2
+cmake --build "$root/build/release" --target tavrelkin >&2
 mkdir -p -- "$pictures"
 
 # Debian's own interpreter has the bindings.
