@@ -10,7 +10,7 @@ source "$root/scripts/build.sh"
 cd -- "$root"
 
 # Headers that other layers never see, and that may therefore name the libraries beneath.
-private_headers='^src/runtime/(qt|desktop/native|desktop/portal|desktop/wayland|desktop/x11)/|_p\.h$'
+private_headers='^src/runtime/(desktop/(native|portal|wayland|x11)|toolkit/(accessibility|widgets))/|_p\.h$'
 # The folders of those libraries' headers.
 private_libraries='/(qt6|boost|pipewire-0.3|spa-0.2|xcb|X11)/'
 

@@ -1,6 +1,6 @@
 # tavrelkin_layer(NAME FOLDER folder SOURCES ... [USES layers ...] [PRIVATE_LIBRARIES libraries ...])
 #
-# One static library for one folder below src/. Includes are written from src/ ("runtime/drawing/Color.h"), but src/
+# One static library for one folder below src/. Includes are written from src/ ("runtime/core/drawing/Color.h"), but src/
 # itself is on no include path: each layer sees a folder of links to itself and to the layers that it USES, so that an
 # include that goes upwards, or past a layer, does not compile.
 function(tavrelkin_layer name)

@@ -9,7 +9,7 @@
 #include <QApplication>
 #include <QTest>
 
-#include "runtime/Runtime.h"
+#include "runtime/toolkit/Runtime.h"
 
 namespace tavrelkin {
 

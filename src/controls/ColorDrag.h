@@ -1,8 +1,8 @@
 #pragma once
 
-#include "runtime/drawing/Color.h"
-#include "runtime/gui/DragItem.h"
-#include "runtime/gui/RectControl.h"
+#include "runtime/core/drawing/Color.h"
+#include "runtime/core/exchange/DragItem.h"
+#include "runtime/toolkit/RectControl.h"
 
 // How colours travel by drag, for all controls alike: as private data of the type "hcol" and as text of the hash form.
 namespace tavrelkin::ColorDrag {

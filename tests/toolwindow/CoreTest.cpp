@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <set>
 
-#include "runtime/gui/Clipboard.h"
+#include "runtime/toolkit/Clipboard.h"
 #include "toolwindow/ToolWindowTest.h"
 
 namespace tavrelkin {

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "runtime/core/base/Event.h"
+#include "runtime/core/concurrency/Control.h"
+
+namespace tavrelkin {
+
+// A cooperative thread of a window: it changes places with the event loop and with other threads only at its yields.
+class Thread : public Control {
+ public:
+  Thread(Window& owner, String name);
+
+  // As a window's design states it. All threads get the same turns, whatever it is.
+  Int32 Priority = 5;
+  // Bytes; 0 is the default of 1 MiB. Read when the thread is started.
+  Int32 StackSize = 0;
+
+  // Starts the thread; its first turn comes when the event loop is idle. The thread keeps its window alive until it has
+  // ended. Does nothing while the thread runs.
+  void Run();
+
+  // Ends the thread where it stands and unwinds its stack. Does nothing where it doesn't run.
+  void Kill();
+
+  bool IsRunning() const;
+
+  // What the thread does.
+  Event<void()> RunEvent;
+
+ protected:
+  virtual void Event_Run() { RunEvent(); }
+
+ private:
+  friend class Scheduler;
+  void runGuarded();
+};
+
+// The yield: in a thread it gives way when the thread's turn is over, on the main thread it may give a turn to other
+// threads when the main thread has been at work for long. Returns at once otherwise. It never delivers events, so that
+// no handler is entered while another is at work, and changes no result.
+void RuntimeBackgroundTask();
+
+}  // namespace tavrelkin
