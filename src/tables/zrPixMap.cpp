@@ -2,7 +2,7 @@
 
 #include <limits>
 
-#include "runtime/core/concurrency/Thread.h"
+#include "runtime/core/concurrency/RuntimeBackgroundTask.h"
 #include "runtime/core/drawing/Graphics.h"
 #include "runtime/core/drawing/Picture.h"
 #include "runtime/core/system/MsgBox.h"

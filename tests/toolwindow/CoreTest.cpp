@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <set>
 
+#include "runtime/core/concurrency/RuntimeBackgroundTask.h"
 #include "runtime/toolkit/Clipboard.h"
 #include "toolwindow/ToolWindowTest.h"
 

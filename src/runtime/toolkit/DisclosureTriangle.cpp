@@ -5,6 +5,7 @@
 #include <QToolButton>
 
 #include "runtime/core/scheduling/Delivery.h"
+#include "runtime/toolkit/Window.h"
 #include "runtime/toolkit/widgets/ReturnKey.h"
 
 namespace tavrelkin {

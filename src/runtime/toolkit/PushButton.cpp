@@ -5,6 +5,7 @@
 #include <QPushButton>
 
 #include "runtime/core/scheduling/Delivery.h"
+#include "runtime/toolkit/Window.h"
 #include "runtime/toolkit/widgets/Convert.h"
 #include "runtime/toolkit/widgets/Fonts.h"
 #include "runtime/toolkit/widgets/ReturnKey.h"

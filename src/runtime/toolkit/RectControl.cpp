@@ -39,6 +39,10 @@ RectControl::~RectControl() {
   native_->blockSignals(true);
 }
 
+Window& RectControl::ownerWindow() const {
+  return static_cast<Window&>(owner());
+}
+
 void RectControl::place(Int32 left, Int32 top, Int32 width, Int32 height) {
   Left.store(left);
   Top.store(top);

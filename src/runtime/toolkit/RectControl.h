@@ -10,11 +10,15 @@ class QWidget;
 
 namespace tavrelkin {
 
+class Window;
+
 // A control with a place in its window. Positions and sizes are in pixels at a scale of 100 %, counted from the top
 // left corner of the window's content. Every write takes effect at once.
 class RectControl : public Control {
  public:
   ~RectControl() override;
+
+  Window& ownerWindow() const;
 
   Property<Int32> Left;
   Property<Int32> Top;

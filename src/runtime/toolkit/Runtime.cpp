@@ -61,9 +61,18 @@ QIcon readIcon(const std::string& folder) {
   return icon;
 }
 
+// The message waits for the event loop, since a fault may come from a thread.
+void tellAndEndSoon(const std::string& fault) {
+  const auto tellAndEnd = [fault] {
+    desktop().messageBox("Tavrelkin has to close because of a fault in the program.\n\n" + fault);
+    QCoreApplication::exit(1);
+  };
+  QMetaObject::invokeMethod(QCoreApplication::instance(), tellAndEnd, Qt::QueuedConnection);
+}
+
 }  // namespace
 
-void applyLook(QApplication& toolkit) {
+void setUpToolkit(QApplication& toolkit) {
   QApplication::setStyle(QStringLiteral("fusion"));
   QApplication::setPalette(lightPalette());
   toolkit.setApplicationName(QStringLiteral("tavrelkin"));
@@ -71,12 +80,13 @@ void applyLook(QApplication& toolkit) {
   toolkit.setDesktopFileName(QStringLiteral("tavrelkin"));
   toolkit.setQuitOnLastWindowClosed(false);
   installAccessibility();
+  onFault(tellAndEndSoon);
 }
 
 // A write beyond a limit on the size of files would end the program; so it fails, and the user is told.
 Runtime::Runtime(const std::string& iconFolder) : toolkit_(makeToolkit()) {
   std::signal(SIGXFSZ, SIG_IGN);
-  applyLook(*toolkit_);
+  setUpToolkit(*toolkit_);
   toolkit_->installEventFilter(new HeldKeys(toolkit_.get()));
   QApplication::setWindowIcon(readIcon(iconFolder));
   installDesktop(makeNativeDesktop());

@@ -28,9 +28,9 @@ class Runtime {
   std::unique_ptr<QApplication> toolkit_;
 };
 
-// The look of the program, the same on every desktop, and what it tells assistive technologies: for a toolkit that has
-// just been made.
-void applyLook(QApplication& toolkit);
+// Makes a toolkit that has just been made the program's own: its look, the same on every desktop, what it tells
+// assistive technologies, and what the core takes from it.
+void setUpToolkit(QApplication& toolkit);
 
 // Ends all threads, and forgets a fault that was told. For the end of the runtime.
 void shutDownRuntime();

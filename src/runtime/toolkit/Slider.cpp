@@ -7,6 +7,7 @@
 #include <QSlider>
 
 #include "runtime/core/scheduling/Delivery.h"
+#include "runtime/toolkit/Window.h"
 
 namespace tavrelkin {
 

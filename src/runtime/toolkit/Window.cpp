@@ -31,7 +31,7 @@ Window::~Window() {
 void Window::constructed() {
   const Ref<Window> keep(this);
   AddMenuHandlers();
-  for (Control* each : controls_)
+  for (Control* each : controls())
     each->Event_Open();
   Event_Open();
 }
@@ -60,7 +60,7 @@ bool Window::isSeen() const {
 }
 
 Control* Window::control(const String& name, Int32 index) const {
-  for (Control* each : controls_) {
+  for (Control* each : controls()) {
     if (each->Name() == name && each->Index == index) return each;
   }
   return nullptr;

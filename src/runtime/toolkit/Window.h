@@ -6,6 +6,7 @@
 
 #include "runtime/core/base/Property.h"
 #include "runtime/core/base/Ref.h"
+#include "runtime/core/concurrency/Control.h"
 #include "runtime/core/drawing/Color.h"
 #include "runtime/core/text/Text.h"
 #include "runtime/toolkit/Menu.h"
@@ -15,7 +16,6 @@ class QWidget;
 
 namespace tavrelkin {
 
-class Control;
 class RectControl;
 class WindowWidget;
 
@@ -35,7 +35,7 @@ struct WindowDesign {
 
 // A window of the program. Made with New, which raises the Open events of its controls and then its own; it lives while
 // it is open, referred to, or kept by one of its threads.
-class Window : public Object {
+class Window : public ControlOwner {
  public:
   ~Window() override;
 
@@ -64,7 +64,7 @@ class Window : public Object {
   Window* blocker() const { return blocker_; }
 
   // False while the machine has said that nothing of the window is in sight, as when it is minimised.
-  bool isSeen() const;
+  bool isSeen() const override;
 
   // The control of that name and index, or null.
   Control* control(const String& name, Int32 index = 0) const;
@@ -102,7 +102,6 @@ class Window : public Object {
   void setTabOrder(std::initializer_list<const RectControl*> controls);
 
  private:
-  friend class Control;
   friend class WindowWidget;
 
   void applySize();
@@ -111,7 +110,6 @@ class Window : public Object {
 
   WindowWidget* native_;
   MenuHandlers handlers_;
-  std::vector<Control*> controls_;
   bool open_ = false;
   Window* blocker_ = nullptr;
 };

@@ -1,17 +1,23 @@
 #include "runtime/core/concurrency/Thread.h"
 
+#include <algorithm>
 #include <utility>
 
+#include "runtime/core/concurrency/RuntimeBackgroundTask.h"
 #include "runtime/core/scheduling/Delivery.h"
 #include "runtime/core/scheduling/Scheduler.h"
-#include "runtime/toolkit/Window.h"
 
 namespace tavrelkin {
 
-Thread::Thread(Window& owner, String name) : Control(owner, std::move(name)) {}
+Thread::Thread(ControlOwner& owner, String name) : Control(owner, std::move(name)) {}
 
 void Thread::Run() {
-  Scheduler::instance().start(*this, Ref<Window>(&ownerWindow()));
+  const auto isSeen = [this] { return owner().isSeen(); };
+  const auto body = [this] { guarded([this] { Event_Run(); }); };
+  Scheduler::instance().start(*this, {.owner = Ref<Object>(&owner()),
+                                      .isSeen = isSeen,
+                                      .body = body,
+                                      .stackSize = static_cast<std::size_t>(std::max(StackSize, 0))});
 }
 
 void Thread::Kill() {
@@ -20,10 +26,6 @@ void Thread::Kill() {
 
 bool Thread::IsRunning() const {
   return Scheduler::instance().runs(*this);
-}
-
-void Thread::runGuarded() {
-  guarded([this] { Event_Run(); });
 }
 
 void RuntimeBackgroundTask() {

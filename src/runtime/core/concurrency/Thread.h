@@ -8,7 +8,7 @@ namespace tavrelkin {
 // A cooperative thread of a window: it changes places with the event loop and with other threads only at its yields.
 class Thread : public Control {
  public:
-  Thread(Window& owner, String name);
+  Thread(ControlOwner& owner, String name);
 
   // As a window's design states it. All threads get the same turns, whatever it is.
   Int32 Priority = 5;
@@ -29,15 +29,6 @@ class Thread : public Control {
 
  protected:
   virtual void Event_Run() { RunEvent(); }
-
- private:
-  friend class Scheduler;
-  void runGuarded();
 };
-
-// The yield: in a thread it gives way when the thread's turn is over, on the main thread it may give a turn to other
-// threads when the main thread has been at work for long. Returns at once otherwise. It never delivers events, so that
-// no handler is entered while another is at work, and changes no result.
-void RuntimeBackgroundTask();
 
 }  // namespace tavrelkin

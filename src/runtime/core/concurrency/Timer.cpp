@@ -11,7 +11,7 @@ namespace {
 constexpr Int32 kRepeating = 2;
 }
 
-Timer::Timer(Window& owner, String name)
+Timer::Timer(ControlOwner& owner, String name)
     : Control(owner, std::move(name)),
       Mode(0, [this](Int32 mode) { apply(mode); }),
       alarm_(desktop().newAlarm([this] { ring(); })) {}
@@ -28,7 +28,7 @@ void Timer::apply(Int32 mode) {
 
 void Timer::ring() {
   apply(Mode);
-  deliver(ownerWindow(), [this] { Event_Action(); });
+  deliver(owner(), [this] { Event_Action(); });
 }
 
 }  // namespace tavrelkin

@@ -12,7 +12,7 @@ namespace tavrelkin {
 // Raises Action again and again, from the event loop.
 class Timer : public Control {
  public:
-  Timer(Window& owner, String name);
+  Timer(ControlOwner& owner, String name);
   ~Timer() override;
 
   // 2 is repeating, 0 off, as any other number is. Writing 2 while the timer runs starts the period afresh.

@@ -1,18 +1,23 @@
 #pragma once
 
+#include <functional>
+#include <string>
 #include <type_traits>
 
 #include "runtime/core/base/Exceptions.h"
 #include "runtime/core/base/Ref.h"
 #include "runtime/core/scheduling/Scheduler.h"
-#include "runtime/toolkit/Window.h"
 
 namespace tavrelkin {
 
 // The one place where the program's code is entered from outside. Every call that the toolkit or the scheduler makes
 // into a window, a control or the application goes through one of these.
 
-// Tells the user about a fault of the program and ends it, in order, with exit status 1. Called once at most.
+// What happens on the first fault of the program, given in words: it is to tell the user and to end the program, in
+// order, with exit status 1. It may be called on a thread, whose stack can't hold a dialog's loop. The toolkit sets it.
+void onFault(std::function<void(const std::string&)> end);
+
+// Calls what onFault() has set, once at most. No handler is entered from then on.
 void reportFault(const RuntimeException& fault);
 
 // The runtime has ended, and may begin anew.
@@ -41,11 +46,11 @@ auto deliver(Code&& code) -> std::invoke_result_t<Code> {
   return guarded(code);
 }
 
-// The same for a handler of a window or of one of its controls: the window outlives the call, whatever the handler
-// closes.
+// The same for a handler of a window or of one of its controls: the window, `owner`, outlives the call, whatever the
+// handler closes.
 template <class Code>
-auto deliver(Window& window, Code&& code) -> std::invoke_result_t<Code> {
-  const Ref<Window> keep(&window);
+auto deliver(Object& owner, Code&& code) -> std::invoke_result_t<Code> {
+  const Ref<Object> keep(&owner);
   return deliver(code);
 }
 

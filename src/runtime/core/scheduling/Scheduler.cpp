@@ -3,9 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "runtime/core/concurrency/Thread.h"
-#include "runtime/toolkit/Window.h"
-
 namespace tavrelkin {
 
 namespace {
@@ -34,20 +31,20 @@ Scheduler::Scheduler() : alarm_(desktop().newAlarm([this] { runDueThread(); })) 
 
 Scheduler::~Scheduler() = default;
 
-void Scheduler::start(Thread& thread, Ref<Window> owner) {
+void Scheduler::start(const Thread& thread, Work work) {
   if (runs(thread)) return;
   auto entry = std::make_unique<Entry>();
   entry->thread = &thread;
-  entry->owner = std::move(owner);
-  entry->fiber = std::make_unique<Fiber>([&thread] { thread.runGuarded(); },
-                                         static_cast<std::size_t>(std::max(thread.StackSize, 0)));
+  entry->owner = std::move(work.owner);
+  entry->isSeen = std::move(work.isSeen);
+  entry->fiber = std::make_unique<Fiber>(std::move(work.body), work.stackSize);
   entry->due = desktop().now();
   entries_.push_back(std::move(entry));
   watchWhileSeen();
   setAlarm();
 }
 
-void Scheduler::kill(Thread& thread) {
+void Scheduler::kill(const Thread& thread) {
   const auto found = std::find_if(entries_.begin(), entries_.end(), isFor(thread));
   if (found == entries_.end()) return;
   // What its destructors do is done in a turn of its own: a yield there is none of the main thread's.
@@ -121,7 +118,7 @@ void Scheduler::planNextTurn(Entry& entry) {
     entry.due = desktop().now();
     return;
   }
-  const bool isSeen = entry.owner->isSeen();
+  const bool isSeen = entry.isSeen();
   if (!isSeen) watchWhileSeen();
   const bool looksAgain = std::exchange(entry.missed, false) && isSeen && !entry.waits;
   if (entry.waits || !isSeen || desktop().screenReader().tellsEachChange()) {
@@ -141,7 +138,7 @@ void Scheduler::screenChanged() {
   const TimePoint now = desktop().now();
   for (const auto& entry : entries_) {
     entry->missed = !entry->waits && !entry->paced;
-    if (!entry->waits && !(entry->paced && entry->owner->isSeen())) continue;
+    if (!entry->waits && !(entry->paced && entry->isSeen())) continue;
     const TimePoint soonest = std::max(now, entry->lastPointerTurn + kPointerGap);
     if (entry->due <= soonest) continue;
     entry->forPointer = true;
@@ -156,7 +153,7 @@ void Scheduler::hasten(Entry& entry, TimePoint due) {
 
 // The pointer's movements and the changes of the screen are watched while they can cause a turn.
 void Scheduler::watchWhileSeen() {
-  const auto isSeen = [](const auto& entry) { return entry->owner->isSeen(); };
+  const auto isSeen = [](const auto& entry) { return entry->isSeen(); };
   if (std::none_of(entries_.begin(), entries_.end(), isSeen)) {
     watch_.reset();
   } else if (!watch_) {

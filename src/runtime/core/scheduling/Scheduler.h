@@ -1,6 +1,8 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -13,7 +15,6 @@
 namespace tavrelkin {
 
 class Thread;
-class Window;
 
 // Hands out turns to the threads of the program. The event loop gives them when it has nothing else to do, the main
 // thread at its own yields when it has been at work for long. A turn ends when its time is over or when the thread has
@@ -40,9 +41,17 @@ class Scheduler {
   Scheduler& operator=(const Scheduler&) = delete;
   ~Scheduler();
 
-  // Starts a thread, which keeps `owner` alive until it has ended. Does nothing while it runs.
-  void start(Thread& thread, Ref<Window> owner);
-  void kill(Thread& thread);
+  // What a thread runs, and for whom.
+  struct Work {
+    Ref<Object> owner;             // kept alive until the thread has ended
+    std::function<bool()> isSeen;  // whether anything of the owner is in sight
+    std::function<void()> body;    // what it throws must not leave it
+    std::size_t stackSize = 0;     // bytes; 0 is the default
+  };
+
+  // Starts a thread. Does nothing while it runs.
+  void start(const Thread& thread, Work work);
+  void kill(const Thread& thread);
   bool runs(const Thread& thread) const;
 
   // The yield: see RuntimeBackgroundTask.
@@ -77,8 +86,9 @@ class Scheduler {
   static constexpr unsigned kYieldsPerLook = 32;
 
   struct Entry {
-    Thread* thread = nullptr;
-    Ref<Window> owner;
+    const Thread* thread = nullptr;
+    Ref<Object> owner;
+    std::function<bool()> isSeen;
     std::unique_ptr<Fiber> fiber;
     TimePoint due{};
     TimePoint lastPointerTurn{};

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "runtime/core/concurrency/RuntimeBackgroundTask.h"
 #include "runtime/core/concurrency/Thread.h"
 #include "runtime/core/scheduling/Scheduler.h"
 #include "runtime/toolkit/Canvas.h"
