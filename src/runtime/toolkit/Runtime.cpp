@@ -15,6 +15,7 @@
 #include "runtime/desktop/Desktop.h"
 #include "runtime/desktop/native/NativeDesktop.h"
 #include "runtime/toolkit/accessibility/Accessibility.h"
+#include "runtime/toolkit/widgets/FontPainter.h"
 #include "runtime/toolkit/widgets/HeldKeys.h"
 
 namespace tavrelkin {
@@ -80,6 +81,7 @@ void setUpToolkit(QApplication& toolkit) {
   toolkit.setDesktopFileName(QStringLiteral("tavrelkin"));
   toolkit.setQuitOnLastWindowClosed(false);
   installAccessibility();
+  installTextPainter(std::make_unique<FontPainter>());
   onFault(tellAndEndSoon);
 }
 

@@ -6,8 +6,7 @@
 
 #include <QPainter>
 
-#include "runtime/toolkit/widgets/Convert.h"
-#include "runtime/toolkit/widgets/Fonts.h"
+#include "runtime/toolkit/widgets/FontPainter.h"
 
 namespace tavrelkin {
 
@@ -22,9 +21,7 @@ void put(const std::vector<std::uint32_t>& pixels, const Block& block, Surface& 
 void set(const DrawnText& text, QPainter& painter) {
   const Block& place = text.place;
   painter.setClipRect(place.left, place.top, place.width, place.height);
-  painter.setFont(fontFor("System", text.size, false));
-  painter.setPen(toQt(text.color));
-  painter.drawText(text.left, text.baseline, toQt(text.text));
+  FontPainter::draw(text, painter);
 }
 
 }  // namespace
