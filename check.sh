@@ -10,7 +10,7 @@ source "$root/scripts/build.sh"
 cd -- "$root"
 
 # Headers that other layers never see, and that may therefore name the libraries beneath.
-private_headers='^src/runtime/(qt|desktop/native|desktop/portal|desktop/wayland|desktop/x11)/|_p\.h$'
+private_headers='^src/runtime/(desktop/(native|portal|wayland|x11)|toolkit/(accessibility|widgets))/|_p\.h$'
 # The folders of those libraries' headers.
 private_libraries='/(qt6|boost|pipewire-0.3|spa-0.2|xcb|X11)/'
 
@@ -68,6 +68,23 @@ check_headers() {
   files 'src/*.h' | xargs -0 --no-run-if-empty -n 1 -P "$(nproc)" bash -c 'check_header "$1"' check_header
 }
 
+# includes HEADER FLAGS...: whether a source that is compiled with the flags can include the header.
+includes() { g++ -std=c++20 "${@:2}" -fsyntax-only -x c++ - <<<"#include \"$1\"" 2>/dev/null; }
+
+# What the color core must not see does not compile with its own include path; what it may see does.
+check_floors() {
+  local header status=0
+  local -a path
+  mapfile -t path < <(grep -E '^ *"command": .*/color/zrXYZ\.cpp"' build/release/compile_commands.json | grep -oE -- '-I[^ ]+')
+  includes runtime/core/drawing/Color.h "${path[@]}" || { echo "The color core sees no core" && status=1; }
+  for header in runtime/toolkit/Window.h runtime/toolkit/widgets/Drags.h runtime/core/scheduling/Delivery.h \
+    runtime/desktop/x11/X11ScreenReader.h runtime/desktop/native/NativeDesktop.h; do
+    [[ -e src/$header ]] || { echo "$header has moved" && status=1; }
+    ! includes "$header" "${path[@]}" || { echo "$header is open to the color core" && status=1; }
+  done
+  return "$status"
+}
+
 # Prints how many lines of each layer the unit and window tests reach. A report, with no bound that anyone could fail.
 check_coverage() {
   configure coverage -DTAVRELKIN_TESTS=ON
@@ -80,8 +97,9 @@ report_coverage() {
   gcovr --root . --filter src/ --object-directory build/coverage --csv - | tail -n +2 |
     awk -F, '{ sub("build/coverage/layers/[^/]*", "src", $1)  # where the layers have their headers
                split($1, folder, "/"); layer = folder[2] ~ /\./ ? "main" : folder[2]
+               if (layer == "runtime") layer = layer "/" folder[3]
                lines[layer] += $2; reached[layer] += $3; lines["all"] += $2; reached["all"] += $3 }
-             END { for (layer in lines) printf "      %-12s %5.1f %% of %d lines\n", layer,
+             END { for (layer in lines) printf "      %-16s %5.1f %% of %d lines\n", layer,
                    100 * reached[layer] / lines[layer], lines[layer] }' | sort
 }
 
@@ -108,6 +126,7 @@ require_packages build run test check
 check "build without warnings" check_build
 check "format (clang-format)" check_format
 check "headers compile alone; public ones hide the libraries" check_headers
+check "floors: what a layer must not see does not compile" check_floors
 check "scripts (shellcheck)" check_scripts
 check "desktop entry, metadata and man page" check_desktop
 check "code (clang-tidy)" check_tidy

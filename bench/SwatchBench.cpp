@@ -10,7 +10,7 @@
 
 #include "bench/support/Figures.h"
 #include "driver/Process.h"
-#include "runtime/files/FolderItem.h"
+#include "runtime/core/files/FolderItem.h"
 #include "tables/zrClut.h"
 
 namespace tavrelkin::bench {

@@ -20,10 +20,10 @@
 #include "bench/support/Medians.h"
 #include "driver/Process.h"
 #include "driver/ToolWindow.h"
-#include "runtime/Runtime.h"
+#include "runtime/core/scheduling/Delivery.h"
+#include "runtime/core/system/System.h"
 #include "runtime/desktop/Desktop.h"
-#include "runtime/qt/Delivery.h"
-#include "runtime/system/System.h"
+#include "runtime/toolkit/Runtime.h"
 #include "toolwindow/PreviewGrid.h"
 #include "toolwindow/frmVesk.h"
 

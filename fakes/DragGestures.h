@@ -1,7 +1,7 @@
 #pragma once
 
-#include "runtime/gui/DragItem.h"
-#include "runtime/gui/RectControl.h"
+#include "runtime/core/exchange/DragItem.h"
+#include "runtime/toolkit/RectControl.h"
 
 // What a user does to move data between controls, as real events of the toolkit.
 namespace tavrelkin::gesture {

@@ -11,11 +11,11 @@
 #include <gtest/gtest.h>
 
 #include "fakes/DragGestures.h"
-#include "runtime/gui/Window.h"
-#include "runtime/qt/Convert.h"
-#include "runtime/qt/Drags.h"
-#include "runtime/qt/Shortcut.h"
-#include "runtime/qt/WindowWidget.h"
+#include "runtime/toolkit/Window.h"
+#include "runtime/toolkit/widgets/Convert.h"
+#include "runtime/toolkit/widgets/Drags.h"
+#include "runtime/toolkit/widgets/Shortcut.h"
+#include "runtime/toolkit/widgets/WindowWidget.h"
 
 namespace tavrelkin::gesture {
 

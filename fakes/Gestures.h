@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runtime/gui/RectControl.h"
+#include "runtime/toolkit/RectControl.h"
 
 // What a user does to a control, as real events of the toolkit. Coordinates count from the control's top left corner
 // and may lie outside of it while the button is held.

@@ -9,7 +9,7 @@
 #include <QApplication>
 #include <QTest>
 
-#include "runtime/Runtime.h"
+#include "runtime/toolkit/Runtime.h"
 
 namespace tavrelkin {
 
@@ -18,7 +18,7 @@ namespace {
 // One toolkit for the whole test program, since it can't be made twice. It has to go before static objects do.
 class Toolkit : public ::testing::Environment {
  public:
-  void SetUp() override { applyLook(application_.emplace(count_, arguments_.data())); }
+  void SetUp() override { setUpToolkit(application_.emplace(count_, arguments_.data())); }
   void TearDown() override { application_.reset(); }
 
  private:

@@ -5,7 +5,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes/FakeDesktop.h"
-#include "runtime/gui/Application.h"
+#include "runtime/toolkit/Application.h"
 
 namespace tavrelkin {
 

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "runtime/files/FolderItem.h"
+#include "runtime/core/files/FolderItem.h"
 
 namespace tavrelkin {
 

@@ -11,8 +11,8 @@
 #include "color/zrColorLib.h"
 #include "controls/ColorDrag.h"
 #include "fuzz/support/Target.h"
-#include "runtime/qt/Convert.h"
-#include "runtime/qt/Drags.h"
+#include "runtime/toolkit/widgets/Convert.h"
+#include "runtime/toolkit/widgets/Drags.h"
 
 namespace tavrelkin {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 
 #include "fuzz/support/Target.h"
-#include "runtime/drawing/Picture.h"
+#include "runtime/core/drawing/Picture.h"
 #include "tables/zrPixMap.h"
 
 namespace tavrelkin {

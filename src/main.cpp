@@ -1,5 +1,5 @@
 #include "app/App.h"
-#include "runtime/Runtime.h"
+#include "runtime/toolkit/Runtime.h"
 
 int main() {
   tavrelkin::Runtime runtime(":/icon");

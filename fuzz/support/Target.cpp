@@ -5,7 +5,7 @@
 #include <memory>
 #include <utility>
 
-#include "runtime/Runtime.h"
+#include "runtime/toolkit/Runtime.h"
 
 namespace tavrelkin {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runtime/gui/Application.h"
+#include "runtime/toolkit/Application.h"
 
 namespace tavrelkin {
 

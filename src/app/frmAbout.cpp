@@ -1,6 +1,6 @@
 #include "app/frmAbout.h"
 
-#include "runtime/gui/Application.h"
+#include "runtime/toolkit/Application.h"
 
 namespace tavrelkin {
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "runtime/gui/PushButton.h"
-#include "runtime/gui/StaticText.h"
-#include "runtime/gui/Window.h"
+#include "runtime/toolkit/PushButton.h"
+#include "runtime/toolkit/StaticText.h"
+#include "runtime/toolkit/Window.h"
 
 namespace tavrelkin {
 

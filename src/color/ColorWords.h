@@ -1,7 +1,7 @@
 #pragma once
 
-#include "runtime/drawing/Color.h"
-#include "runtime/text/Text.h"
+#include "runtime/core/drawing/Color.h"
+#include "runtime/core/text/Text.h"
 
 namespace tavrelkin {
 

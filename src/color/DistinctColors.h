@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "runtime/drawing/Picture.h"
+#include "runtime/core/drawing/Picture.h"
 
 namespace tavrelkin {
 

@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "runtime/drawing/Color.h"
+#include "runtime/core/drawing/Color.h"
 
 namespace tavrelkin {
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "runtime/base/Ref.h"
-#include "runtime/base/Variant.h"
-#include "runtime/drawing/Color.h"
-#include "runtime/gui/DragItem.h"
-#include "runtime/text/Text.h"
+#include "runtime/core/base/Ref.h"
+#include "runtime/core/drawing/Color.h"
+#include "runtime/core/exchange/DragItem.h"
+#include "runtime/core/exchange/Variant.h"
+#include "runtime/core/text/Text.h"
 
 // The text forms of a colour, colours in drags, and the web-safe palette. All functions are without state, and none
 // fails: where a text can be refused, the Boolean says so and the out-argument keeps its value.

@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "runtime/base/Number.h"
-#include "runtime/drawing/Color.h"
+#include "runtime/core/base/Number.h"
+#include "runtime/core/drawing/Color.h"
 
 namespace tavrelkin {
 

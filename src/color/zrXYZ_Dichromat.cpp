@@ -1,7 +1,7 @@
 #include <cstddef>
 
 #include "color/zrXYZ.h"
-#include "runtime/base/Exceptions.h"
+#include "runtime/core/base/Exceptions.h"
 
 // The order of the operations is part of the result: fractions are dropped at the end, so the last bit may count. A
 // division by zero is let through, and `encoded` makes the best of what comes of it.

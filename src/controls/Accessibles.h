@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "runtime/gui/Accessible.h"
+#include "runtime/toolkit/Accessible.h"
 
 namespace tavrelkin {
 

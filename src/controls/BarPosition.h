@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runtime/base/Number.h"
+#include "runtime/core/base/Number.h"
 
 // Where the indicator of a bar stands for a value, and which value a position stands for. The three are no inverses of
 // each other: each belongs to the gestures that its comment names. Widths and positions are in pixels. No number is

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "runtime/drawing/Color.h"
-#include "runtime/gui/DragItem.h"
-#include "runtime/gui/RectControl.h"
+#include "runtime/core/drawing/Color.h"
+#include "runtime/core/exchange/DragItem.h"
+#include "runtime/toolkit/RectControl.h"
 
 // Colours in drags, for all controls. A dragged colour has two forms: private data of the type "hcol" (getRGBStr), and
 // text such as "#FF8000". Between programs the drag is the toolkit's; on X11 that is the XDND protocol, version 5

@@ -6,8 +6,8 @@
 
 #include "controls/Accessibles.h"
 #include "controls/ColorDrag.h"
-#include "runtime/gui/SelectColor.h"
-#include "runtime/system/Keyboard.h"
+#include "runtime/core/system/Keyboard.h"
+#include "runtime/toolkit/SelectColor.h"
 
 namespace tavrelkin {
 

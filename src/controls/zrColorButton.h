@@ -1,8 +1,8 @@
 #pragma once
 
-#include "runtime/base/Event.h"
-#include "runtime/drawing/Picture.h"
-#include "runtime/gui/Canvas.h"
+#include "runtime/core/base/Event.h"
+#include "runtime/core/drawing/Picture.h"
+#include "runtime/toolkit/Canvas.h"
 
 namespace tavrelkin {
 

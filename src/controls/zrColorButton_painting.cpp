@@ -2,7 +2,7 @@
 
 #include "color/zrColorLib.h"
 #include "controls/zrColorButton.h"
-#include "runtime/gui/ThemeColors.h"
+#include "runtime/toolkit/ThemeColors.h"
 
 namespace tavrelkin {
 

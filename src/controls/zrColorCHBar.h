@@ -1,7 +1,7 @@
 #pragma once
 
-#include "runtime/base/Event.h"
-#include "runtime/gui/Canvas.h"
+#include "runtime/core/base/Event.h"
+#include "runtime/toolkit/Canvas.h"
 
 namespace tavrelkin {
 

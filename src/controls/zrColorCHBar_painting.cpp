@@ -2,7 +2,7 @@
 
 #include "color/ColorChannel.h"
 #include "controls/zrColorCHBar.h"
-#include "runtime/concurrency/Thread.h"
+#include "runtime/core/concurrency/RuntimeBackgroundTask.h"
 
 namespace tavrelkin {
 

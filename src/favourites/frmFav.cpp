@@ -4,7 +4,7 @@
 
 #include "color/zrColorLib.h"
 #include "menubar/MenuBar1.h"
-#include "runtime/gui/Clipboard.h"
+#include "runtime/toolkit/Clipboard.h"
 
 namespace tavrelkin {
 

@@ -2,9 +2,9 @@
 
 #include "controls/zrClutPalette.h"
 #include "controls/zrColorBox.h"
-#include "runtime/files/FolderItem.h"
-#include "runtime/gui/StaticText.h"
-#include "runtime/gui/Window.h"
+#include "runtime/core/files/FolderItem.h"
+#include "runtime/toolkit/StaticText.h"
+#include "runtime/toolkit/Window.h"
 #include "tables/zrClut.h"
 
 namespace tavrelkin {

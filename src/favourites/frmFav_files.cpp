@@ -1,8 +1,8 @@
 // The favourites window's palettes in files.
 
 #include "favourites/frmFav.h"
-#include "runtime/files/GetSaveFolderItem.h"
-#include "runtime/gui/MsgBox.h"
+#include "runtime/core/files/GetSaveFolderItem.h"
+#include "runtime/core/system/MsgBox.h"
 
 namespace tavrelkin {
 

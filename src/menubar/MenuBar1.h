@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runtime/gui/Menu.h"
+#include "runtime/toolkit/Menu.h"
 
 namespace tavrelkin {
 

@@ -3,9 +3,9 @@
 #include "color/zrColorLib.h"
 #include "color/zrXYZ.h"
 #include "menubar/MenuBar1.h"
-#include "runtime/gui/Application.h"
-#include "runtime/gui/Clipboard.h"
-#include "runtime/gui/MsgBox.h"
+#include "runtime/core/system/MsgBox.h"
+#include "runtime/toolkit/Application.h"
+#include "runtime/toolkit/Clipboard.h"
 
 namespace tavrelkin {
 

@@ -4,13 +4,13 @@
 #include <optional>
 
 #include "controls/zrColorBox.h"
-#include "runtime/gui/Line.h"
-#include "runtime/gui/PopupMenu.h"
-#include "runtime/gui/PushButton.h"
-#include "runtime/gui/Rectangle.h"
-#include "runtime/gui/StaticText.h"
-#include "runtime/gui/TextField.h"
-#include "runtime/gui/Window.h"
+#include "runtime/toolkit/Line.h"
+#include "runtime/toolkit/PopupMenu.h"
+#include "runtime/toolkit/PushButton.h"
+#include "runtime/toolkit/Rectangle.h"
+#include "runtime/toolkit/StaticText.h"
+#include "runtime/toolkit/TextField.h"
+#include "runtime/toolkit/Window.h"
 
 namespace tavrelkin {
 

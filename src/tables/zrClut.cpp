@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "runtime/base/Exceptions.h"
+#include "runtime/core/base/Exceptions.h"
 
 namespace tavrelkin {
 

@@ -3,8 +3,8 @@
 #include <cstddef>
 #include <vector>
 
-#include "runtime/base/Ref.h"
-#include "runtime/drawing/Color.h"
+#include "runtime/core/base/Ref.h"
+#include "runtime/core/drawing/Color.h"
 
 namespace tavrelkin {
 

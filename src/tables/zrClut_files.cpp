@@ -3,8 +3,8 @@
 
 #include <cstdint>
 
-#include "runtime/files/FolderItem.h"
-#include "runtime/gui/MsgBox.h"
+#include "runtime/core/files/FolderItem.h"
+#include "runtime/core/system/MsgBox.h"
 #include "tables/zrClut.h"
 
 namespace tavrelkin {

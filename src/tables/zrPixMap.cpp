@@ -2,10 +2,10 @@
 
 #include <limits>
 
-#include "runtime/concurrency/Thread.h"
-#include "runtime/drawing/Graphics.h"
-#include "runtime/drawing/Picture.h"
-#include "runtime/gui/MsgBox.h"
+#include "runtime/core/concurrency/RuntimeBackgroundTask.h"
+#include "runtime/core/drawing/Graphics.h"
+#include "runtime/core/drawing/Picture.h"
+#include "runtime/core/system/MsgBox.h"
 
 namespace tavrelkin {
 

@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
-#include "runtime/base/Ref.h"
-#include "runtime/drawing/Color.h"
-#include "runtime/text/Text.h"
+#include "runtime/core/base/Ref.h"
+#include "runtime/core/drawing/Color.h"
+#include "runtime/core/text/Text.h"
 
 namespace tavrelkin {
 

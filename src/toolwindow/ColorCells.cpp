@@ -2,7 +2,7 @@
 
 #include <cstdlib>
 
-#include "runtime/gui/Canvas.h"
+#include "runtime/toolkit/Canvas.h"
 
 namespace tavrelkin {
 

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "runtime/drawing/Graphics.h"
-#include "runtime/text/Text.h"
+#include "runtime/core/drawing/Graphics.h"
+#include "runtime/core/text/Text.h"
 
 namespace tavrelkin {
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "runtime/base/Number.h"
+#include "runtime/core/base/Number.h"
 
 namespace tavrelkin {
 

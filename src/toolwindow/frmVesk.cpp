@@ -3,7 +3,7 @@
 #include <initializer_list>
 
 #include "menubar/MenuBar1.h"
-#include "runtime/gui/Application.h"
+#include "runtime/toolkit/Application.h"
 #include "tables/zrPixMap.h"
 #include "toolwindow/WebSafeBadge.h"
 

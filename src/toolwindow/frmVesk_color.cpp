@@ -1,7 +1,8 @@
 // The selected colour of the tool window, and the controls that show and change it.
 
 #include "color/zrColorLib.h"
-#include "runtime/system/System.h"
+#include "runtime/core/concurrency/RuntimeBackgroundTask.h"
+#include "runtime/core/system/System.h"
 #include "toolwindow/frmVesk.h"
 
 namespace tavrelkin {

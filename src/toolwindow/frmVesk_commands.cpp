@@ -1,8 +1,9 @@
 // The tool window's menu commands, but for those that choose a view, and the loop that follows the pointer.
 
 #include "color/zrColorLib.h"
-#include "runtime/gui/Clipboard.h"
-#include "runtime/system/System.h"
+#include "runtime/core/concurrency/RuntimeBackgroundTask.h"
+#include "runtime/core/system/System.h"
+#include "runtime/toolkit/Clipboard.h"
 #include "toolwindow/frmVesk.h"
 
 namespace tavrelkin {

@@ -1,7 +1,8 @@
 // The preview of the tool window: how the screen is sampled, drawn enlarged, and picked from.
 
 #include "color/zrColorLib.h"
-#include "runtime/system/System.h"
+#include "runtime/core/concurrency/RuntimeBackgroundTask.h"
+#include "runtime/core/system/System.h"
 #include "toolwindow/PreviewGrid.h"
 #include "toolwindow/frmVesk.h"
 

@@ -5,7 +5,7 @@
 #include "fakes/TemporaryFolder.h"
 #include "favourites/frmFav.h"
 #include "menubar/MenuBar1.h"
-#include "runtime/base/Exceptions.h"
+#include "runtime/core/base/Exceptions.h"
 #include "toolwindow/frmVesk.h"
 
 namespace tavrelkin {

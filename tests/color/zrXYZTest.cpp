@@ -8,7 +8,7 @@
 #include <gtest/gtest.h>
 
 #include "color/zrXYZ.h"
-#include "runtime/base/Exceptions.h"
+#include "runtime/core/base/Exceptions.h"
 
 namespace tavrelkin {
 namespace {

@@ -1,6 +1,6 @@
 #include "controls/ControlsTest.h"
 #include "fakes/DragGestures.h"
-#include "runtime/base/Exceptions.h"
+#include "runtime/core/base/Exceptions.h"
 
 namespace tavrelkin {
 namespace {

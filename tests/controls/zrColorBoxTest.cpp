@@ -10,7 +10,7 @@
 #include <QWidget>
 
 #include "controls/ControlsTest.h"
-#include "runtime/qt/Drags.h"
+#include "runtime/toolkit/widgets/Drags.h"
 
 namespace tavrelkin {
 namespace {

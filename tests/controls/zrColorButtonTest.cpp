@@ -1,8 +1,8 @@
 #include <optional>
 
 #include "controls/ControlsTest.h"
-#include "runtime/drawing/Picture.h"
-#include "runtime/gui/ThemeColors.h"
+#include "runtime/core/drawing/Picture.h"
+#include "runtime/toolkit/ThemeColors.h"
 
 namespace tavrelkin {
 namespace {

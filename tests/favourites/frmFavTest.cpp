@@ -6,7 +6,7 @@
 #include "fakes/TemporaryFolder.h"
 #include "favourites/frmFav.h"
 #include "menubar/MenuBar1.h"
-#include "runtime/gui/Clipboard.h"
+#include "runtime/toolkit/Clipboard.h"
 
 namespace tavrelkin {
 namespace {

@@ -3,7 +3,7 @@
 #include "fakes/Gestures.h"
 #include "fakes/RuntimeTest.h"
 #include "menubar/MenuBar1.h"
-#include "runtime/gui/Clipboard.h"
+#include "runtime/toolkit/Clipboard.h"
 #include "simulator/frmColorBlind.h"
 
 namespace tavrelkin {

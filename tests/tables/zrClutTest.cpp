@@ -6,7 +6,7 @@
 
 #include "fakes/RuntimeTest.h"
 #include "fakes/TemporaryFolder.h"
-#include "runtime/base/Exceptions.h"
+#include "runtime/core/base/Exceptions.h"
 #include "tables/zrClut.h"
 
 namespace tavrelkin {

@@ -3,7 +3,7 @@
 #include <limits>
 
 #include "fakes/RuntimeTest.h"
-#include "runtime/drawing/Picture.h"
+#include "runtime/core/drawing/Picture.h"
 #include "tables/zrPixMap.h"
 
 namespace tavrelkin {

@@ -3,7 +3,8 @@
 #include <algorithm>
 #include <set>
 
-#include "runtime/gui/Clipboard.h"
+#include "runtime/core/concurrency/RuntimeBackgroundTask.h"
+#include "runtime/toolkit/Clipboard.h"
 #include "toolwindow/ToolWindowTest.h"
 
 namespace tavrelkin {

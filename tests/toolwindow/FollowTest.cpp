@@ -1,6 +1,6 @@
 // Following the pointer, locks and Poke, and how all of it ends.
 
-#include "runtime/Runtime.h"
+#include "runtime/toolkit/Runtime.h"
 #include "toolwindow/ToolWindowTest.h"
 
 namespace tavrelkin {

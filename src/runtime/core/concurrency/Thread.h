@@ -1,0 +1,34 @@
+#pragma once
+
+#include "runtime/core/base/Event.h"
+#include "runtime/core/concurrency/Control.h"
+
+namespace tavrelkin {
+
+// A cooperative thread of a window: it changes places with the event loop and with other threads only at its yields.
+class Thread : public Control {
+ public:
+  Thread(ControlOwner& owner, String name);
+
+  // As a window's design states it. All threads get the same turns, whatever it is.
+  Int32 Priority = 5;
+  // Bytes; 0 is the default of 1 MiB. Read when the thread is started.
+  Int32 StackSize = 0;
+
+  // Starts the thread; its first turn comes when the event loop is idle. The thread keeps its window alive until it has
+  // ended. Does nothing while the thread runs.
+  void Run();
+
+  // Ends the thread where it stands and unwinds its stack. Does nothing where it doesn't run.
+  void Kill();
+
+  bool IsRunning() const;
+
+  // What the thread does.
+  Event<void()> RunEvent;
+
+ protected:
+  virtual void Event_Run() { RunEvent(); }
+};
+
+}  // namespace tavrelkin

@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "runtime/core/drawing/Color.h"
+
+namespace tavrelkin {
+
+// The pixels of a picture or a canvas, row by row from the top. In each word the upper 8 bits are set, as the toolkit's
+// opaque 32-bit images want them.
+class Surface {
+ public:
+  static constexpr std::uint32_t kOpaque = 0xFF000000;
+
+  // A surface of `width` by `height` pixels, all of one colour. A negative size counts as 0.
+  Surface(Int32 width, Int32 height, Color fill);
+
+  Int32 width() const { return width_; }
+  Int32 height() const { return height_; }
+  bool contains(Int32 x, Int32 y) const { return x >= 0 && y >= 0 && x < width_ && y < height_; }
+
+  // The first word of row y, which must exist.
+  std::uint32_t* row(Int32 y) { return pixels_.data() + offset(y); }
+  const std::uint32_t* row(Int32 y) const { return pixels_.data() + offset(y); }
+
+  void fill(Color c);
+
+ private:
+  std::size_t offset(Int32 y) const { return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_); }
+
+  Int32 width_;
+  Int32 height_;
+  std::vector<std::uint32_t> pixels_;
+};
+
+}  // namespace tavrelkin

@@ -1,0 +1,135 @@
+#include "runtime/core/files/FileReplacement.h"
+
+#include <cerrno>
+#include <system_error>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include "runtime/core/files/FileAttributes.h"
+#include "runtime/core/files/Overwrite.h"
+
+namespace tavrelkin {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+// The file that a name stands for in the end, which may be missing. A ring of links stays a link.
+fs::path behindLinks(fs::path path) {
+  constexpr int kMostLinks = 40;
+  std::error_code failed;
+  for (int i = 0; i < kMostLinks && fs::is_symlink(path, failed); ++i)
+    path = path.parent_path() / fs::read_symlink(path, failed);
+  return path;
+}
+
+// Why the file with this state may not be written, as an error number, or 0.
+int refusal(const fs::path& path, const struct stat& old) {
+  if (!S_ISREG(old.st_mode)) return EISDIR;
+  return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
+}
+
+// Whether the old file may still take the bytes where a new one beside it could not.
+bool mayFitInPlace(int error) {
+  return error == ENOSPC || error == EDQUOT;
+}
+
+}  // namespace
+
+FileReplacement::FileReplacement(const std::string& path) : target_(behindLinks(path)) {
+  struct stat old {};
+  const bool exists = stat(target_.c_str(), &old) == 0;
+  if (exists)
+    error_ = refusal(target_, old);
+  else if (errno != ENOENT)
+    error_ = errno;
+  if (error_ != 0) return;
+  if (!exists || old.st_nlink == 1) openBeside();
+  if (!exists || (isOpen() && takeAttributes(descriptor_, target_, old))) return;
+  discard();
+  openInPlace();
+}
+
+FileReplacement::~FileReplacement() {
+  discard();
+}
+
+void FileReplacement::discard() {
+  if (isOpen()) close(std::exchange(descriptor_, -1));
+  if (!temporary_.empty()) unlink(temporary_.c_str());
+  temporary_.clear();
+}
+
+// The name is a short one of its own, since the target's may be as long as names can be. Left-overs of a program that
+// crashed are passed over.
+void FileReplacement::openBeside() {
+  constexpr int kMostTries = 1000;
+  const std::string stem = ".tavrelkin-" + std::to_string(getpid()) + "-";
+  for (int i = 0; i < kMostTries; ++i) {
+    const fs::path path = target_.parent_path() / (stem + std::to_string(i));
+    descriptor_ = open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (isOpen()) return void(temporary_ = path);
+    error_ = errno;
+    if (error_ != EEXIST) return;
+  }
+}
+
+void FileReplacement::openInPlace() {
+  descriptor_ = open(target_.c_str(), O_RDWR | O_NOFOLLOW | O_CLOEXEC);
+  error_ = isOpen() ? 0 : errno;
+}
+
+bool FileReplacement::commit(std::string_view bytes) {
+  if (!temporary_.empty()) replaceWhole(bytes);
+  if (isOpen()) writeInPlace(bytes);
+  return error_ == 0;
+}
+
+// The old file is left open for writing where that may still do: a folder can allow new files and no replacements.
+void FileReplacement::replaceWhole(std::string_view bytes) {
+  error_ = writeAll(descriptor_, bytes).error;
+  if (close(std::exchange(descriptor_, -1)) != 0 && error_ == 0) error_ = errno;
+  const bool isWritten = error_ == 0;
+  if (isWritten && rename(temporary_.c_str(), target_.c_str()) == 0) return temporary_.clear();
+  const int error = isWritten ? errno : error_;
+  discard();
+  if (isWritten || mayFitInPlace(error)) openInPlace();
+  if (!isOpen()) error_ = error;
+}
+
+void FileReplacement::writeInPlace(std::string_view bytes) {
+  const OverwriteResult result = overwrite(descriptor_, bytes);
+  error_ = result.error;
+  isDamaged_ = result.isDamaged;
+  discard();
+}
+
+std::string FileReplacement::reason() const {
+  switch (error_) {
+    case ENOSPC:
+      return "The disk is full.";
+    case EDQUOT:
+      return "There is no room left for your files on the disk.";
+    case EACCES:
+    case EPERM:
+    case EROFS:
+      return "You may not write there.";
+    case ENOENT:
+    case ENOTDIR:
+      return "The folder does not exist.";
+    case EISDIR:
+      return "Something that is no ordinary file has this name.";
+    default:
+      return std::generic_category().message(error_) + ".";
+  }
+}
+
+std::string FileReplacement::failure() const {
+  const char* const state = isDamaged_ ? "What it held before is lost." : "Nothing in its folder has changed.";
+  return "The file \"" + target_.filename().string() + "\" was not saved. " + reason() + "\n\n" + state;
+}
+
+}  // namespace tavrelkin

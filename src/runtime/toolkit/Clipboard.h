@@ -1,0 +1,21 @@
+#pragma once
+
+#include "runtime/core/text/Text.h"
+
+namespace tavrelkin {
+
+// A view of the system's clipboard.
+class Clipboard {
+ public:
+  // The text on the clipboard; empty where there is none, and where another program doesn't give it within two seconds
+  // or gives more than 1 MiB.
+  String Text() const;
+
+  // Replaces what is on the clipboard by a text.
+  void SetText(const String& text);
+
+  // Ends the use of the object; the text stays on the clipboard.
+  void Close() {}
+};
+
+}  // namespace tavrelkin

@@ -1,0 +1,121 @@
+#include "runtime/toolkit/Runtime.h"
+
+#include <array>
+#include <csignal>
+#include <cstdlib>
+#include <iostream>
+
+#include <QApplication>
+#include <QDir>
+#include <QIcon>
+#include <QPalette>
+
+#include "runtime/core/scheduling/Delivery.h"
+#include "runtime/core/scheduling/Scheduler.h"
+#include "runtime/desktop/Desktop.h"
+#include "runtime/desktop/native/NativeDesktop.h"
+#include "runtime/toolkit/accessibility/Accessibility.h"
+#include "runtime/toolkit/widgets/FontPainter.h"
+#include "runtime/toolkit/widgets/HeldKeys.h"
+
+namespace tavrelkin {
+
+namespace {
+
+// Without a display the toolkit ends the program as in a crash, in words for a developer. Its other messages name what
+// was tried.
+void tellNoDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  if (type != QtFatalMsg)
+    return void(std::cerr << qFormatLogMessage(type, context, message).toStdString() << std::endl);
+  std::cerr
+      << "Tavrelkin: no display was found to show its windows on. Start it in a desktop session, or set DISPLAY to "
+         "a display that it may use."
+      << std::endl;
+  std::_Exit(1);
+}
+
+// The program has no command line: the toolkit gets its name and nothing else.
+std::unique_ptr<QApplication> makeToolkit() {
+  static std::array name{'t', 'a', 'v', 'r', 'e', 'l', 'k', 'i', 'n', '\0'};
+  static std::array<char*, 2> arguments{name.data(), nullptr};
+  static int count = 1;
+  const QtMessageHandler usual = qInstallMessageHandler(tellNoDisplay);
+  auto toolkit = std::make_unique<QApplication>(count, arguments.data());
+  qInstallMessageHandler(usual);
+  return toolkit;
+}
+
+// Light, whatever the desktop's theme is: the windows have light colours of their own.
+QPalette lightPalette() {
+  QPalette colors(QColor(0xEFEFEF));
+  colors.setColor(QPalette::Highlight, QColor(0x308CC6));
+  colors.setColor(QPalette::HighlightedText, Qt::white);
+  colors.setColor(QPalette::ToolTipBase, QColor(0xFFF8CE));
+  colors.setColor(QPalette::ToolTipText, Qt::black);
+  return colors;
+}
+
+QIcon readIcon(const std::string& folder) {
+  QIcon icon;
+  for (const QFileInfo& picture : QDir(QString::fromStdString(folder)).entryInfoList(QDir::Files))
+    icon.addFile(picture.filePath());
+  return icon;
+}
+
+// The message waits for the event loop, since a fault may come from a thread.
+void tellAndEndSoon(const std::string& fault) {
+  const auto tellAndEnd = [fault] {
+    desktop().messageBox("Tavrelkin has to close because of a fault in the program.\n\n" + fault);
+    QCoreApplication::exit(1);
+  };
+  QMetaObject::invokeMethod(QCoreApplication::instance(), tellAndEnd, Qt::QueuedConnection);
+}
+
+}  // namespace
+
+void setUpToolkit(QApplication& toolkit) {
+  QApplication::setStyle(QStringLiteral("fusion"));
+  QApplication::setPalette(lightPalette());
+  toolkit.setApplicationName(QStringLiteral("tavrelkin"));
+  toolkit.setApplicationDisplayName({});
+  toolkit.setDesktopFileName(QStringLiteral("tavrelkin"));
+  toolkit.setQuitOnLastWindowClosed(false);
+  installAccessibility();
+  installTextPainter(std::make_unique<FontPainter>());
+  onFault(tellAndEndSoon);
+}
+
+// A write beyond a limit on the size of files would end the program; so it fails, and the user is told.
+Runtime::Runtime(const std::string& iconFolder) : toolkit_(makeToolkit()) {
+  std::signal(SIGXFSZ, SIG_IGN);
+  setUpToolkit(*toolkit_);
+  toolkit_->installEventFilter(new HeldKeys(toolkit_.get()));
+  QApplication::setWindowIcon(readIcon(iconFolder));
+  installDesktop(makeNativeDesktop());
+}
+
+Runtime::~Runtime() {
+  installDesktop(nullptr);
+}
+
+int Runtime::run(Ref<Application> application) {
+  deliver([&] {
+    application->AddMenuHandlers();
+    application->MakeDefaultView();
+  });
+  QMetaObject::invokeMethod(
+      toolkit_.get(), [&] { deliver([&] { application->Event_Open(); }); }, Qt::QueuedConnection);
+  const int status = QApplication::exec();
+  shutDownRuntime();
+  application = nullptr;
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  return status;
+}
+
+void shutDownRuntime() {
+  Scheduler::shutDown();
+  desktop().screenReader().dropRequest();
+  forgetFault();
+}
+
+}  // namespace tavrelkin

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "runtime/core/base/Property.h"
+#include "runtime/core/drawing/Color.h"
+#include "runtime/toolkit/RectControl.h"
+
+namespace tavrelkin {
+
+class TextLabel;
+
+enum class TextAlignment { left, centred, right };
+
+// A text that the user can't edit. A single line stands in the middle of the control's height, several begin at its
+// top. A line that is too wide for the control is set narrower until it fits, down to two thirds of its width.
+class StaticText : public RectControl {
+ public:
+  // `parent` is the control that the text is part of, or null; the text shows and moves with it.
+  StaticText(Window& owner, String name, const RectControl* parent = nullptr);
+
+  // "\r" begins a new line.
+  Property<String> Text;
+  // A family; "System" is the desktop's own.
+  Property<String> TextFont;
+  // The height in pixels at a scale of 100 %.
+  Property<Int32> TextSize;
+  Property<bool> Bold;
+  Property<Color> TextColor;
+  Property<TextAlignment> TextAlign;
+
+ protected:
+  void resized() override;
+
+ private:
+  TextLabel& label() const;
+  void applyFont();
+};
+
+}  // namespace tavrelkin

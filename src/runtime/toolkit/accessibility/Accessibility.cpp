@@ -1,0 +1,43 @@
+#include "runtime/toolkit/accessibility/Accessibility.h"
+
+#include <QAccessibleWidget>
+
+#include "runtime/toolkit/accessibility/CanvasAccessible.h"
+#include "runtime/toolkit/widgets/CanvasWidget.h"
+#include "runtime/toolkit/widgets/TextLabel.h"
+#include "runtime/toolkit/widgets/WindowWidget.h"
+
+namespace tavrelkin {
+
+namespace {
+
+// A label is called what it says, unless it has a name.
+class LabelAccessible : public QAccessibleWidget {
+ public:
+  explicit LabelAccessible(TextLabel& label) : QAccessibleWidget(&label, QAccessible::StaticText) {}
+
+  QString text(QAccessible::Text kind) const override {
+    const QString own = QAccessibleWidget::text(kind);
+    return kind == QAccessible::Name && own.isEmpty() ? static_cast<TextLabel*>(object())->text() : own;
+  }
+};
+
+QAccessible::Role roleOf(const WindowWidget& window) {
+  return window.isDialog() ? QAccessible::Dialog : QAccessible::Window;
+}
+
+// The toolkit takes over what is made, and asks by the class that it knows best for each object.
+QAccessibleInterface* makeInterface(const QString&, QObject* object) {
+  if (auto* canvas = dynamic_cast<CanvasWidget*>(object)) return new CanvasAccessible(*canvas);
+  if (auto* label = dynamic_cast<TextLabel*>(object)) return new LabelAccessible(*label);
+  if (auto* window = dynamic_cast<WindowWidget*>(object)) return new QAccessibleWidget(window, roleOf(*window));
+  return nullptr;
+}
+
+}  // namespace
+
+void installAccessibility() {
+  QAccessible::installFactory(makeInterface);
+}
+
+}  // namespace tavrelkin

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QColor>
+#include <QString>
+
+#include "runtime/core/drawing/Color.h"
+#include "runtime/core/text/Text.h"
+
+namespace tavrelkin {
+
+inline QString toQt(const String& text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+inline String fromQt(const QString& text) {
+  return text.toStdString();
+}
+
+// A text of several lines as the toolkit shows it; the program's own mark for a new line is "\r".
+inline QString toDisplayText(const String& text) {
+  return toQt(text).replace(QLatin1Char('\r'), QLatin1Char('\n'));
+}
+
+inline QColor toQt(Color c) {
+  return QColor::fromRgb(c.bits);
+}
+
+}  // namespace tavrelkin

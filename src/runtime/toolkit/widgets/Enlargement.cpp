@@ -1,0 +1,77 @@
+#include "runtime/toolkit/widgets/Enlargement.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstring>
+
+#include <QPainter>
+
+#include "runtime/toolkit/widgets/FontPainter.h"
+
+namespace tavrelkin {
+
+namespace {
+
+void put(const std::vector<std::uint32_t>& pixels, const Block& block, Surface& surface) {
+  auto from = pixels.begin();
+  for (Int32 y = block.top; y < block.top + block.height; ++y, from += block.width)
+    std::copy_n(from, block.width, surface.row(y) + block.left);
+}
+
+void set(const DrawnText& text, QPainter& painter) {
+  const Block& place = text.place;
+  painter.setClipRect(place.left, place.top, place.width, place.height);
+  FontPainter::draw(text, painter);
+}
+
+}  // namespace
+
+bool Enlargement::isWhole() const {
+  return scale_ == qFloor(scale_);
+}
+
+int Enlargement::edge(int i) const {
+  return qFloor(i * scale_ + 0.5);
+}
+
+int Enlargement::pixelAt(int onScreen) const {
+  return qCeil((onScreen + 0.5) / scale_) - 1;
+}
+
+QImage Enlargement::blocksOf(const Surface& surface) const {
+  QImage result(edge(surface.width()), edge(surface.height()), QImage::Format_RGB32);
+  std::vector<int> columns(static_cast<std::size_t>(result.width()));
+  for (int x = 0; x < surface.width(); ++x)
+    std::fill(columns.begin() + edge(x), columns.begin() + edge(x + 1), x);
+
+  for (int y = 0; y < surface.height(); ++y) {
+    const std::uint32_t* from = surface.row(y);
+    auto* first = reinterpret_cast<std::uint32_t*>(result.scanLine(edge(y)));
+    std::ranges::transform(columns, first, [from](int column) { return from[column]; });
+    for (int below = edge(y) + 1; below < edge(y + 1); ++below)
+      std::memcpy(result.scanLine(below), first, columns.size() * sizeof(std::uint32_t));
+  }
+  return result;
+}
+
+QImage Enlargement::of(const Surface& surface, const std::vector<DrawnText>& texts) const {
+  std::vector<const DrawnText*> whole;
+  for (const DrawnText& text : texts)
+    if (text.isWholeOn(surface)) whole.push_back(&text);
+  if (whole.empty()) return blocksOf(surface);
+
+  // The coarse ones would show behind the sharp ones.
+  Surface ground = surface;
+  for (const DrawnText* text : whole)
+    put(text->ground, text->place, ground);
+  QImage result = blocksOf(ground);
+  result.setDevicePixelRatio(scale_);
+  QPainter painter(&result);
+  for (const DrawnText* text : whole)
+    set(*text, painter);
+  painter.end();
+  result.setDevicePixelRatio(1);
+  return result;
+}
+
+}  // namespace tavrelkin

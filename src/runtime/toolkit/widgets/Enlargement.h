@@ -1,0 +1,36 @@
+#pragma once
+
+#include <vector>
+
+#include <QImage>
+
+#include "runtime/core/drawing/DrawnText.h"
+
+namespace tavrelkin {
+
+// How a canvas shows on a screen with more pixels than it has itself: each of its pixels as a hard-edged block. Where
+// the scale is no whole number, each edge between two of them lies at the screen's nearest, so that two blocks differ
+// by one pixel at the most.
+class Enlargement {
+ public:
+  // `scale` is at least 1.
+  explicit Enlargement(qreal scale) : scale_(scale) {}
+
+  qreal scale() const { return scale_; }
+  bool isWhole() const;  // as a number
+
+  // Where pixel `i` begins, in pixels of the screen from the canvas's first. Negative ones lie ahead of it.
+  int edge(int i) const;
+  // The pixel whose block a pixel of the screen belongs to.
+  int pixelAt(int onScreen) const;
+
+  // The surface at the screen's size. Those of the texts that are whole on it are set anew, and sharp.
+  QImage of(const Surface& surface, const std::vector<DrawnText>& texts) const;
+
+ private:
+  QImage blocksOf(const Surface& surface) const;
+
+  qreal scale_;
+};
+
+}  // namespace tavrelkin
