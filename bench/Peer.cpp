@@ -47,7 +47,7 @@ RunningProgram::RunningProgram(PeerDesktop& desktop, const Program& program) : d
   if (!test::waitUntil(isOpen)) throw std::runtime_error(program.name + " shows no window. " + process_->errors());
   window_ = desktop_.windows.all().front();
   usage_.emplace(fileName(program.path));
-  std::this_thread::sleep_for(2s);  // some come to rest and begin anew
+  std::this_thread::sleep_for(2s);  // some programs become idle and start again
   area_ = desktop_.windows.area(window_);
 }
 

@@ -75,7 +75,7 @@ Process::File Process::newFile(const std::string& content) {
   return file;
 }
 
-// Opened anew, since the process shares the position in the file.
+// Opened again, since the process shares the position in the file.
 std::string Process::contentOf(const File& file) {
   std::ifstream stream("/proc/self/fd/" + std::to_string(fileno(file.get())));
   return {std::istreambuf_iterator<char>(stream), {}};

@@ -81,9 +81,9 @@ void checkRead(const QMimeData& drag, const Ref<DragItem>& item) {
   if (drag.hasFormat(kPrivate)) {
     const String payload = drag.data(kPrivate).toStdString();
     require(item->MacData("hcol") == payload, "a payload comes in as it is");
-    require(color == getColorFromRGB(payload), "the private type goes ahead of all others");
+    require(color == getColorFromRGB(payload), "the private type comes first");
   } else if (desktops.isValid()) {
-    require(color == RGB(desktops.red(), desktops.green(), desktops.blue()), "the desktop's colour goes ahead of text");
+    require(color == RGB(desktops.red(), desktops.green(), desktops.blue()), "the desktop's colour comes before text");
   } else {
     require(!item->MacDataAvailable("hcol"), "a malformed colour counts as absent");
     require(color == colorOfText(*item), "a text is all that is left");

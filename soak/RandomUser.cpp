@@ -99,7 +99,7 @@ void RandomUser::moveOrMinimise(xcb_window_t window) {
   session_.windows.activate(window);
 }
 
-// A save dialog is now and then answered. False where there is none.
+// Answers a save dialog now and then. False if no dialog is open.
 bool RandomUser::leaveDialog() {
   const auto windows = session_.windows.all();
   const auto titleOf = [this](xcb_window_t window) { return session_.windows.title(window); };

@@ -29,7 +29,7 @@ def windows(is_owner):
 
 
 def called(window, role, name):
-    """The part of the window with this role, and a name that has `name` in it; None where there is none."""
+    """The part of the window with this role, and a name that has `name` in it; None if no part has."""
     parts = (part for part in below(window) if part.get_role_name() == role and name in part.get_name())
     return next(parts, None)
 

@@ -12,7 +12,7 @@ namespace {
 
 const auto start = QStringLiteral("Start");
 
-// The number that is the argument at `index`; 0 where there is none.
+// The number of the argument at `index`; 0 if there is no such argument.
 int number(const QStringList& arguments, int index) {
   return arguments.value(index).toInt();
 }

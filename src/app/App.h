@@ -15,12 +15,12 @@ class App : public Application {
 
   // The commands; each reports itself as handled.
 
-  // Opens a tool window with the selected colour of the default one, which is made where there is none.
+  // Opens a tool window with the selected colour of the default window. Makes a default window if it has been closed.
   bool mnuNewVeskWindow();
   bool mnuAbout();
   // Opens a new palette.
   bool mnuNewColors();
-  // Opens the user's favourites from their file; where there is none yet, an empty one is made.
+  // Opens the user's favourites from their file. Makes an empty file if it does not exist.
   bool mnuMyFav();
   // Opens a new simulator, at each call another one. A tool window in front has this command to itself.
   bool mnuColorBlind();

@@ -11,7 +11,7 @@ class frmAbout : public Window {
  public:
   frmAbout();
 
-  // The live default window; made and shown where there is none.
+  // The window that is open. Makes and shows one if it has been closed.
   static Ref<frmAbout> Default();
 
   void PushButton1_Action();

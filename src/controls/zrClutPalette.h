@@ -14,7 +14,7 @@ class zrClutPalette : public Canvas {
  public:
   zrClutPalette(Window& owner, String name);
 
-  // The table shown; nil until SetClut, ahead of which there may be no click.
+  // The table shown; nil until SetClut. No click may come before that.
   Ref<zrClut> TheClut;
   // The index of the selected cell, -1 for none.
   Int32 Selected = 0;

@@ -39,7 +39,7 @@ class zrColorButton : public Canvas {
 
   // A click on the swatch is over, with or without a dialog, whatever the user did in it.
   Event<void()> Action;
-  // A click on the swatch, ahead of the dialog: true skips it.
+  // A click on the swatch, before the dialog opens; true skips the dialog.
   Event<bool()> BeforeSelectColor;
   // Never raised.
   Event<bool()> ShowCMM;

@@ -21,7 +21,7 @@ class frmColorBlind : public Window {
  public:
   frmColorBlind();
 
-  // The live default window; made and shown where there is none.
+  // The window that is open. Makes and shows one if it has been closed.
   static Ref<frmColorBlind> Default();
 
   // Part of the class, but neither read nor written: the gamma in force is the text of txtGamma.

@@ -49,7 +49,7 @@ class zrPixMap : public Object {
   // don't fit become index 0. A nil picture, or one of more than 255 pixels in a direction, is refused with a message.
   virtual void CreateFromPicture(const Ref<Picture>& pic);
 
-  // The index of the first entry of that colour, which is added where there is none; 0 where the table is full.
+  // The index of the first entry of that colour, which is added if it is missing; 0 if the table is full.
   virtual Int32 GetColorIdx(Color c);
 
   // Draws the image with its top left corner at (x, y). Pixels of the mask's colour are left out, unless that is black.

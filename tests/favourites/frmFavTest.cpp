@@ -68,7 +68,7 @@ TEST_F(frmFavTest, TheSelectedColorIsShownAndCopiedWithAHash) {
 TEST_F(frmFavTest, APasteOrDropChangesTheSelectedColorAndLeavesTheDisplays) {
   selectOrange();
   for (const char* text : {"nonsense", " #123456\n"}) {
-    EXPECT_EQ(window->TheClut->getColor(12), kOrange) << "ahead of " << text;
+    EXPECT_EQ(window->TheClut->getColor(12), kOrange) << "before " << text;
     Clipboard().SetText(text);
     choose("EditPaste");
   }

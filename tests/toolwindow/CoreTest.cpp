@@ -92,7 +92,7 @@ TEST_F(CoreTest, ANewColorLetsThreadsRunBetweenTheBars) {
     while (now != kBlack) {
       done.insert(std::ranges::count(window->cmdMixer, now, &zrColorCHBar::propBaseColor));
       EXPECT_EQ(window->SelectedColor, now);
-      EXPECT_EQ(window->sm.Value, now) << "the last ahead of the bars";
+      EXPECT_EQ(window->sm.Value, now) << "the last before the bars";
       RuntimeBackgroundTask();
     }
   };

@@ -150,7 +150,7 @@ TEST_F(ViewsTest, NineSwatchesShowTheColorOfTheLastPaintAsDichromatsSeeIt) {
 
 TEST_F(ViewsTest, OneAtATimeExceptWhileFollowing) {
   // S, J and D choose the three views, F follows, G shows the guides, and c clicks in the preview. After each command
-  // come the letters of what is marked, with an asterisk where the preview has been painted anew.
+  // come the letters of what is marked, with an asterisk where the preview has been painted again.
   const std::pair<const char*, const char*> names[] = {
       {"Follow ", "F"}, {"Suggestions ", "S"}, {"ShowColors ", "J"}, {"ColorBlind ", "D"}, {"ShowGuide ", "G"}};
   String trace;

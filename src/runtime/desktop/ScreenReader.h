@@ -49,7 +49,7 @@ class ScreenReader {
   // Whether `unavailable` still leaves the user a way to pick single colours, see request().
   virtual bool canPickColor() const { return false; }
 
-  // The program's code is entered anew: what pointer() and pixel() keep for speed is stale from here on. Cheap.
+  // A handler or a thread's turn begins: drops what pointer() and pixel() have cached. Cheap.
   virtual void beginTurn() {}
 
   // The pixel at `at` as 0xRRGGBB, whichever window shows there. Black off the screen. Within one turn the answers may

@@ -19,7 +19,7 @@ class Application : public Object {
   Application();
   ~Application() override;
 
-  // The one that exists; throws NilObjectException where there is none.
+  // The application; throws NilObjectException if there is no application.
   static Application& current();
 
   Property<Ref<tavrelkin::MenuBar>> MenuBar;
@@ -54,7 +54,7 @@ class Application : public Object {
     const auto found = defaults_.find(typeid(W));
     return found == defaults_.end() ? Ref<W>() : Ref<W>(static_cast<W*>(found->second));
   }
-  // The default window of a class; made and shown where there is none.
+  // The default window of a class. Makes and shows one if it has been closed.
   template <class W>
   Ref<W> defaultWindowOrNew() {
     if (Ref<W> live = defaultWindow<W>()) return live;

@@ -7,8 +7,8 @@ namespace tavrelkin {
 // A view of the system's clipboard.
 class Clipboard {
  public:
-  // The text on the clipboard; empty where there is none, and where another program doesn't give it within two seconds
-  // or gives more than 1 MiB.
+  // The text on the clipboard. Empty if there is no text, if another program does not send it within two seconds, or if
+  // it is longer than 1 MiB.
   String Text() const;
 
   // Replaces what is on the clipboard by a text.

@@ -84,7 +84,7 @@ class MenuBar : public Object {
   void Append(const Ref<MenuItem>& menu) { menus_.push_back(menu); }
   const std::vector<Ref<MenuItem>>& menus() const { return menus_; }
 
-  // The item of that name, at any depth; nil where there is none.
+  // The item of that name, at any depth; nil if no item has it.
   Ref<MenuItem> Child(const String& name) const;
 
   // For a window: enters all menus, or has their shortcuts act though the window shows no menus.

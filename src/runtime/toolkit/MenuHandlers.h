@@ -19,7 +19,7 @@ class MenuHandlers {
 
   bool has(const String& itemName) const { return handlers_.contains(itemName); }
 
-  // Runs the handler of that name. False where there is none, or where it says so.
+  // Runs the handler of that name and gives its result. False if there is no such handler.
   bool run(const String& itemName) const {
     const auto found = handlers_.find(itemName);
     return found != handlers_.end() && found->second();

@@ -17,7 +17,7 @@ class PopupMenu : public RectControl {
   // The selected row. Writing it raises nothing; a number that no row has selects none, which is -1.
   Property<Int32> ListIndex;
 
-  // The text of the selected row; empty where there is none.
+  // The text of the selected row; empty if no row is selected.
   String Text() const;
 
   // The user has chosen a row, the one that was selected before perhaps.

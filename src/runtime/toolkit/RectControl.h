@@ -61,7 +61,7 @@ class RectControl : public Control {
   QWidget& native() const { return *native_; }
 
  protected:
-  // Takes over `native`, which belongs to `parent`, or to the window where there is none.
+  // Takes over `native`, which belongs to `parent`, or to the window if `parent` is null.
   RectControl(Window& owner, String name, QWidget* native, const RectControl* parent = nullptr);
 
   // Called after a change of size.

@@ -31,7 +31,7 @@ class FieldWidget : public QLineEdit {
   }
 
  protected:
-  // The toolkit asks the field ahead of the menus, and would let it keep the keys for copying, pasting and the like.
+  // Qt asks the field before the menus, and the field would keep the keys for copy, paste and so on.
   bool event(QEvent* event) override {
     const bool handled = QLineEdit::event(event);
     if (event->type() == QEvent::ShortcutOverride && belongsToMenu(*static_cast<QKeyEvent*>(event))) event->ignore();

@@ -60,7 +60,7 @@ class Window : public ControlOwner {
 
   bool isOpen() const { return open_; }
 
-  // The modal window that has to be closed before this one takes anything from the user; null where there is none.
+  // The modal window that blocks this window's input, or null.
   Window* blocker() const { return blocker_; }
 
   // False while the machine has said that nothing of the window is in sight, as when it is minimised.
@@ -69,7 +69,7 @@ class Window : public ControlOwner {
   // The control of that name and index, or null.
   Control* control(const String& name, Int32 index = 0) const;
 
-  // Registers the handlers of the window's commands; called once, ahead of the Open events.
+  // Registers the handlers of the window's commands; called once, before the Open events.
   virtual void AddMenuHandlers() {}
 
   virtual void Event_Open() {}

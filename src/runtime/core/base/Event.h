@@ -8,7 +8,7 @@ namespace tavrelkin {
 template <class Signature>
 class Event;
 
-// An event that a class offers to its host, with one handler at most. Raising it without a handler gives R{}.
+// An event that a class offers to its host, with at most one handler. Without a handler, calling it returns R{}.
 template <class R, class... Args>
 class Event<R(Args...)> {
  public:

@@ -4,8 +4,8 @@
 
 namespace tavrelkin {
 
-// A fault of the program itself. Nothing above the runtime catches these: the runtime's delivery of events does, tells
-// the user what happened and ends the program in order, with exit status 1.
+// A fault of the program itself. Only the runtime catches it, where it delivers events: it shows a message and ends the
+// program with exit status 1.
 class RuntimeException : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;

@@ -5,8 +5,8 @@
 
 namespace tavrelkin {
 
-// A value that reads and is written like a plain member, and whose owner learns of each write at once. Can't be
-// made as a copy, so that `auto` takes no proxy by accident.
+// A value that is read and written like a plain member. A hook tells its owner of each write. It has no copy
+// constructor, so `auto` can't copy the property in place of its value.
 template <class T>
 class Property {
  public:
@@ -27,7 +27,8 @@ class Property {
   const T& get() const { return value_; }
   const T& operator->() const { return value_; }
 
-  // Takes a value that the toolkit already shows, a slider that the user moved for instance, without calling the hook.
+  // Stores a value without calling the hook. For a value that the toolkit shows already, such as a slider's that the
+  // user has moved.
   void store(T value) { value_ = std::move(value); }
 
  private:

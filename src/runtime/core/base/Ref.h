@@ -14,8 +14,8 @@ class Ref;
 template <class T, class... Args>
 Ref<T> New(Args&&... args);
 
-// Base of everything that is shared by reference: windows, pictures, menus, tables. An object counts its references and
-// goes with the last one. The program has one OS thread, so the count is a plain number.
+// The base of all classes that are shared by reference: windows, pictures, menus, tables. An object counts its
+// references and is deleted with the last one. The program has one OS thread, so the count is a plain number.
 class Object {
  public:
   Object(const Object&) = delete;
@@ -25,7 +25,7 @@ class Object {
  protected:
   Object() = default;
 
-  // Called by New once the most derived constructor has run, so that virtual operations reach every override.
+  // New() calls this after the most derived constructor. Virtual functions reach every override then.
   virtual void constructed() {}
 
  private:
@@ -34,7 +34,7 @@ class Object {
   template <class T, class... Args>
   friend Ref<T> New(Args&&... args);
 
-  // Starts at 1, which New takes over: a constructor may hand out references to its own object.
+  // Starts at 1 for the reference that New() returns. So a constructor may make references to its own object.
   std::size_t references_ = 1;
 };
 

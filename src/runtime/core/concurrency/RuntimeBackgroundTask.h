@@ -2,9 +2,9 @@
 
 namespace tavrelkin {
 
-// The yield: in a thread it gives way when the thread's turn is over, on the main thread it may give a turn to other
-// threads when the main thread has been at work for long. Returns at once otherwise. It never delivers events, so that
-// no handler is entered while another is at work, and changes no result.
+// The yield. In a thread it suspends the thread when its turn is over. On the main thread it gives another thread a
+// turn when the main thread has worked for long. Otherwise it returns at once. It never delivers events, so no handler
+// starts while another one runs.
 void RuntimeBackgroundTask();
 
 }  // namespace tavrelkin

@@ -5,12 +5,12 @@
 
 namespace tavrelkin {
 
-// A cooperative thread of a window: it changes places with the event loop and with other threads only at its yields.
+// A cooperative thread of a window. The event loop and other threads run only while it yields.
 class Thread : public Control {
  public:
   Thread(ControlOwner& owner, String name);
 
-  // As a window's design states it. All threads get the same turns, whatever it is.
+  // Part of a window's design. It has no effect: all threads get the same turns.
   Int32 Priority = 5;
   // Bytes; 0 is the default of 1 MiB. Read when the thread is started.
   Int32 StackSize = 0;
@@ -19,7 +19,7 @@ class Thread : public Control {
   // ended. Does nothing while the thread runs.
   void Run();
 
-  // Ends the thread where it stands and unwinds its stack. Does nothing where it doesn't run.
+  // Ends the thread at its present place and unwinds its stack. Does nothing if it does not run.
   void Kill();
 
   bool IsRunning() const;

@@ -9,16 +9,16 @@
 
 namespace tavrelkin {
 
-// Raises Action again and again, from the event loop.
+// Raises Action periodically, from the event loop.
 class Timer : public Control {
  public:
   Timer(ControlOwner& owner, String name);
   ~Timer() override;
 
-  // 2 is repeating, 0 off, as any other number is. Writing 2 while the timer runs starts the period afresh.
+  // 2 turns the timer on; 0 and any other number turn it off. Writing 2 while it runs starts a new period.
   Property<Int32> Mode;
 
-  // Milliseconds, 1 at least; takes effect with the next period.
+  // In milliseconds, at least 1. A new value takes effect with the next period.
   Int32 Period = 1000;
 
   Event<void()> Action;

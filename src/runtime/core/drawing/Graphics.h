@@ -9,7 +9,7 @@ namespace tavrelkin {
 class Picture;
 struct DrawnText;
 
-// Learns that something is being drawn: a canvas, which then shows its surface anew.
+// Is told that something is being drawn. A canvas then shows its surface again.
 class DrawingObserver {
  public:
   virtual void drawn() = 0;

@@ -22,14 +22,14 @@ class DragItem : public Object {
   // The types that have a payload.
   std::vector<String> MacDataTypes() const;
   bool MacDataAvailable(std::string_view type) const;
-  // The payload of a type, or the empty string where there is none.
+  // The payload of a type, or the empty string if the item has none.
   String MacData(std::string_view type) const;
   // Adds a payload, or replaces the one of the same type.
   void MacData(std::string_view type, String payload);
 
   // True once a text was set, an empty one too.
   bool TextAvailable() const;
-  // The text, or the empty text where there is none.
+  // The text, or the empty string if the item has none.
   String Text() const;
   void SetText(String text);
 

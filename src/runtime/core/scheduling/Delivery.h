@@ -20,7 +20,7 @@ void onFault(std::function<void(const std::string&)> end);
 // Calls what onFault() has set, once at most. No handler is entered from then on.
 void reportFault(const RuntimeException& fault);
 
-// The runtime has ended, and may begin anew.
+// The runtime has ended, and may start again.
 void forgetFault();
 
 // Prepares for a handler: what was read of the screen before is stale. False where the program is ending.

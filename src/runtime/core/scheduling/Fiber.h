@@ -6,14 +6,14 @@
 
 namespace tavrelkin {
 
-// A function that runs on a stack of its own and can be left in the middle and taken up again. All of it happens on the
-// one OS thread: between resume() and the next suspend(), nothing else runs.
+// A function with a stack of its own, which can be suspended and resumed. All fibers run on the one OS thread: nothing
+// else runs between resume() and the next suspend().
 class Fiber {
  public:
   static constexpr std::size_t kDefaultStackSize = 1 << 20;
 
-  // Prepares `body`; it starts at the first resume(). `stackSize` is in bytes, 0 means the default. What `body` throws
-  // must not leave it, but for what suspend() throws.
+  // `body` starts at the first resume(). `stackSize` is in bytes; 0 is the default. `body` must catch all exceptions
+  // but the one that suspend() throws.
   explicit Fiber(std::function<void()> body, std::size_t stackSize = 0);
   Fiber(const Fiber&) = delete;
   Fiber& operator=(const Fiber&) = delete;
@@ -26,12 +26,12 @@ class Fiber {
 
   bool finished() const;
 
-  // Ends the body where it stands and unwinds its stack. A suspended one has ended when this returns; a fiber that
-  // kills itself does not return from here.
+  // Ends the body at its present place and unwinds its stack. A suspended body has ended when kill() returns. A fiber
+  // that kills itself does not return from kill().
   void kill();
 
-  // Leaves the running body; returns when it is resumed. Returns at once in a body that has been killed, since its
-  // destructors may come here while its stack unwinds. May only be called from within a body.
+  // Suspends the running body, and returns when it is resumed. Returns at once in a killed body, whose destructors may
+  // call it while the stack unwinds. Call it only within a body.
   static void suspend();
 
  private:

@@ -20,7 +20,7 @@ Scheduler& Scheduler::instance() {
   return *installed;
 }
 
-// The threads end before the scheduler is let go of: their destructors may still yield or draw.
+// The threads end first: the destructors on their stacks may still yield or draw.
 void Scheduler::shutDown() {
   while (installed && !installed->entries_.empty())
     installed->kill(*installed->entries_.back()->thread);
@@ -47,7 +47,7 @@ void Scheduler::start(const Thread& thread, Work work) {
 void Scheduler::kill(const Thread& thread) {
   const auto found = std::find_if(entries_.begin(), entries_.end(), isFor(thread));
   if (found == entries_.end()) return;
-  // What its destructors do is done in a turn of its own: a yield there is none of the main thread's.
+  // The destructors on its stack run as in a turn of the thread: a yield there is not one of the main thread.
   Entry& entry = **found;
   Entry* const outer = std::exchange(current_, &entry);
   entry.fiber->kill();
@@ -125,15 +125,19 @@ void Scheduler::planNextTurn(Entry& entry) {
     entry.due = looksAgain ? turnBegan_ + kPointerGap : kNotByTime;
     return;
   }
-  // Frames follow each other in step, however long the turns take. While the pointer moves, its movements set the pace
-  // and the frame stands back a little, or else the two would take turns in pairs.
   const auto frame = desktop().frameInterval();
-  const bool pointerLeads = entry.lastPointerTurn == turnBegan_;
-  const TimePoint inStep = entry.due + frame;
-  entry.due = pointerLeads ? turnBegan_ + frame * 5 / 4 : inStep > turnBegan_ ? inStep : turnBegan_ + frame;
+  if (entry.lastPointerTurn == turnBegan_) {
+    // While the pointer moves, its movements set the pace. The frame comes later than them, or each movement would be
+    // followed by a second turn.
+    entry.due = turnBegan_ + frame * 5 / 4;
+    return;
+  }
+  // Turns stay in step with the frames, however long they take.
+  entry.due += frame;
+  if (entry.due <= turnBegan_) entry.due = turnBegan_ + frame;
 }
 
-// A window that nobody sees takes no part: it would only look at what it can't show.
+// A thread of a window that is not visible gets no turn: it could not show what it samples.
 void Scheduler::screenChanged() {
   const TimePoint now = desktop().now();
   for (const auto& entry : entries_) {
@@ -151,7 +155,7 @@ void Scheduler::hasten(Entry& entry, TimePoint due) {
   setAlarm();
 }
 
-// The pointer's movements and the changes of the screen are watched while they can cause a turn.
+// Watches the pointer and the screen while a change can cause a turn.
 void Scheduler::watchWhileSeen() {
   const auto isSeen = [](const auto& entry) { return entry->isSeen(); };
   if (std::none_of(entries_.begin(), entries_.end(), isSeen)) {
@@ -178,7 +182,7 @@ Scheduler::Entry* Scheduler::earliest() {
 
 void Scheduler::remove(const Thread& thread) {
   const auto found = std::find_if(entries_.begin(), entries_.end(), isFor(thread));
-  // Taken out first: letting go of the owner may end its window, and with it the thread.
+  // Removed first: releasing the owner may destroy its window, and with it the thread.
   const std::unique_ptr<Entry> gone = std::move(*found);
   entries_.erase(found);
   watchWhileSeen();

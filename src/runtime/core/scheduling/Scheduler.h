@@ -16,23 +16,26 @@ namespace tavrelkin {
 
 class Thread;
 
-// Hands out turns to the threads of the program. The event loop gives them when it has nothing else to do, the main
-// thread at its own yields when it has been at work for long. A turn ends when its time is over or when the thread has
-// drawn on a canvas: a thread that draws faster than the display shows would only burn power. It goes on when the next
-// frame is due, or at once when the pointer has moved, so that a preview neither lags behind the hand nor misses a
-// screen that changes under a still pointer. Where the desktop tells of each change on the screen, or where nobody sees
-// the thread's window, it doesn't wait for the frame, but for such a change or for the window to be seen again.
+// Gives turns to the threads of the program. The event loop gives a turn when it is idle. The main thread gives one at
+// its own yields when it has worked for long.
+//
+// A turn ends when its time is over, or when the thread has drawn on a canvas: drawing faster than the display shows
+// would only burn power. The next turn comes when the next frame is due, and at once when the pointer has moved. So a
+// preview does not lag behind the pointer, and follows a screen that changes under a pointer at rest.
+//
+// Two kinds of thread do not wait for the frame. Where the desktop reports each change of the screen, a thread waits
+// for such a change. Where its window is not visible, a thread waits until the window is visible again.
 class Scheduler {
  public:
   using TimePoint = Desktop::TimePoint;
 
-  // How long a thread, or the main thread between two looks at the others, keeps the processor.
+  // How long a thread keeps the processor, and how long the main thread keeps it before it gives others a turn.
   static constexpr std::chrono::milliseconds kTurn{2};
-  // How close together two turns may be that movements of the pointer have asked for.
+  // The shortest time between two turns that movements of the pointer have caused.
   static constexpr std::chrono::milliseconds kPointerGap{4};
 
-  // The one scheduler, made at first use with the desktop that is installed then. shutDown() ends all threads and lets
-  // it go.
+  // The only scheduler. The first use makes it, with the desktop that is installed then. shutDown() ends all threads
+  // and destroys it.
   static Scheduler& instance();
   static void shutDown();
 
@@ -59,21 +62,22 @@ class Scheduler {
     if (++yields_ % kYieldsPerLook == 0 || drew_) lookAtClock();
   }
 
-  // A canvas is being drawn on, by whoever runs.
+  // Call this when a canvas is drawn on. The turn of the thread that runs, if any, ends at its next yield.
   void canvasDrawn() { drew_ = current_ != nullptr; }
 
-  // A handler is entered from the event loop. It may change what a thread is to draw, so that each gets a turn soon.
+  // Call this when a handler is entered from the event loop. The handler may change what a thread draws, so each thread
+  // that waits for a change gets a turn soon.
   void beginMainTurn();
 
-  // The thread that runs gives way until the desktop tells of a change of the screen or of its state. False, and no
-  // waiting, outside of a thread.
+  // Suspends the running thread until the desktop reports a change of the screen or of its state. Outside of a thread
+  // it returns false at once.
   bool waitForScreen();
 
-  // A window has come into sight, or gone out of it.
+  // Call this when a window has become visible or invisible.
   void windowSeen();
 
-  // Held while the toolkit runs a handler. A thread may have made it do so, by showing a control for instance; it gives
-  // way only afterwards, so that no half-done work of the toolkit waits on its stack, or is unwound.
+  // Lives while the toolkit runs a handler. A thread can cause that, for instance by showing a control. Such a thread
+  // is not suspended, since its stack holds unfinished work of the toolkit.
   class InHandler {
    public:
     InHandler() { ++instance().handlers_; }
@@ -92,13 +96,13 @@ class Scheduler {
     std::unique_ptr<Fiber> fiber;
     TimePoint due{};
     TimePoint lastPointerTurn{};
-    bool paced = false;       // it has drawn and waits for the next frame or a movement of the pointer
-    bool forPointer = false;  // the turn it waits for was asked for by a movement
-    bool waits = false;       // it gave way in waitForScreen()
-    bool missed = false;      // the screen has changed since it began what it is about to draw
+    bool paced = false;       // has drawn; waits for the next frame, or for a change
+    bool forPointer = false;  // a movement of the pointer has caused the turn that is due
+    bool waits = false;       // is suspended in waitForScreen()
+    bool missed = false;      // the screen has changed while it was in the middle of its work
   };
 
-  // When a thread is due that waits for something else than the time.
+  // The due time of a thread that waits for a change.
   static constexpr TimePoint kNotByTime = TimePoint::max();
 
   void lookAtClock();
@@ -116,7 +120,7 @@ class Scheduler {
   std::unique_ptr<Alarm> alarm_;
   Entry* current_ = nullptr;
   bool drew_ = false;
-  int handlers_ = 0;  // at work in this turn, one within the other
+  int handlers_ = 0;  // nesting depth of the handlers that run in this turn
   unsigned yields_ = 0;
   TimePoint turnBegan_{};
   TimePoint mainTurnBegan_{};

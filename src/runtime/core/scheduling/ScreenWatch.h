@@ -4,7 +4,8 @@
 
 namespace tavrelkin {
 
-// While it lives, `changed` is called from the event loop after each change that the desktop's ScreenReader tells of.
+// While the object lives, `changed` is called from the event loop after each change that the desktop's ScreenReader
+// reports.
 // Any number can live at a time.
 class ScreenWatch {
  public:

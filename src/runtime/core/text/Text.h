@@ -48,7 +48,7 @@ Int32 InStr(std::string_view text, std::string_view find);
 
 // Fields are what lies between separators: an empty text is one empty field, and an empty separator divides nothing.
 Int32 CountFields(std::string_view text, std::string_view separator);
-// The field number n, from 1, or the empty text where there is none.
+// The field with the number n, from 1, or the empty string if the text has fewer fields.
 String NthField(std::string_view text, std::string_view separator, Int32 n);
 
 // A string of one byte, made of the low 8 bits of the value.

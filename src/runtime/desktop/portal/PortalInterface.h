@@ -29,7 +29,7 @@ struct PortalInterface {
   QString owner;  // the unique name of the portal's process
   QVariantMap properties;
 
-  // The value of a property of type UINT32; 0 where there is none of that type.
+  // The value of a property of type UINT32; 0 if the property is missing or has another type.
   std::uint32_t number(const char* property) const;
 };
 

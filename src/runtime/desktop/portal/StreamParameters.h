@@ -9,7 +9,7 @@
 
 namespace tavrelkin {
 
-// Parameters by which a stream is negotiated, which PipeWire calls pods, and the memory that they are in. It is enough
+// Parameters of a stream's negotiation, which PipeWire calls pods, and the memory that they are in. It is enough
 // for those of one operation.
 class StreamParameters {
  public:

@@ -31,7 +31,7 @@ class PointerWatch {
 
   xcb_connection_t* connection_;
   xcb_window_t root_;
-  std::uint8_t opcode_ = 0;  // of XInput2; 0 where there is none
+  std::uint8_t opcode_ = 0;  // of XInput2; 0 if the server lacks it
   std::function<void()> moved_;
   bool motionSeen_ = false;
   bool deliveryPosted_ = false;

@@ -44,7 +44,7 @@ class CanvasWidget : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  // Brings what is shown up to date; gives the part to be painted anew.
+  // Updates the picture that is shown; gives the part that has to be painted.
   QRect takeChanges();
   void paintEnlarged(QPainter& painter, const Enlargement& enlargement);
   // Whether the window need not paint beneath. It must at a scale that is no whole number, where the toolkit may leave

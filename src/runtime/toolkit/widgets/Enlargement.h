@@ -19,7 +19,7 @@ class Enlargement {
   qreal scale() const { return scale_; }
   bool isWhole() const;  // as a number
 
-  // Where pixel `i` begins, in pixels of the screen from the canvas's first. Negative ones lie ahead of it.
+  // The first pixel of the screen that shows pixel `i`, counted from the canvas's left or top edge. May be negative.
   int edge(int i) const;
   // The pixel whose block a pixel of the screen belongs to.
   int pixelAt(int onScreen) const;

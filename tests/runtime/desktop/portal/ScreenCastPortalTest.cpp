@@ -330,7 +330,7 @@ TEST_F(ScreenCastPortalTest, FailsIfThePortalOrTheSessionEndsWhileAsking) {
   EXPECT_EQ(std::get<Failure>(*result), Failure::failed);
 }
 
-// The portal's answers to what was taken back come late, ahead of those to the next question.
+// The portal's answers to a withdrawn request come late, before those to the next request.
 TEST_F(ScreenCastPortalTest, TakesTheQuestionBackAtAnyTime) {
   const struct {
     std::string how;

@@ -31,7 +31,7 @@ class HeldKeysTest : public RuntimeTest {
     QCoreApplication::sendEvent(&window, &event);
   }
 
-  // As the toolkit does: whether it looks for a shortcut ahead of the press.
+  // As the toolkit does: whether it looks for a shortcut before the press.
   bool pressCommand(quint64 time) {
     QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_N, Qt::ControlModifier, 57, 0, 0);
     event.setTimestamp(time);
