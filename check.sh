@@ -75,7 +75,11 @@ includes() { g++ -std=c++20 "${@:2}" -fsyntax-only -x c++ - <<<"#include \"$1\""
 check_floors() {
   local header status=0
   local -a path
-  mapfile -t path < <(grep -E '^ *"command": .*/color/zrXYZ\.cpp"' build/release/compile_commands.json | grep -oE -- '-I[^ ]+')
+  mapfile -t path < <(python3 -c '
+import json, shlex
+for entry in json.load(open("build/release/compile_commands.json")):
+    if entry["file"].endswith("/color/zrXYZ.cpp"):
+        print(*(word for word in shlex.split(entry["command"]) if word.startswith("-I")), sep="\n")')
   includes runtime/core/drawing/Color.h "${path[@]}" || { echo "The color core sees no core" && status=1; }
   for header in runtime/toolkit/Window.h runtime/toolkit/widgets/Drags.h runtime/core/scheduling/Delivery.h \
     runtime/desktop/x11/X11ScreenReader.h runtime/desktop/native/NativeDesktop.h; do

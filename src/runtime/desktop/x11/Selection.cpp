@@ -91,8 +91,8 @@ bool Selection::isConverted(xcb_atom_t target) {
   return event && reinterpret_cast<const xcb_selection_notify_event_t&>(*event).property == property_;
 }
 
-// The owner may send a long value in parts (INCR). It sends each part when the one before has been deleted, and an empty
-// part at the end.
+// The owner may send a long value in parts (INCR). It sends each part when the one before has been deleted, and an
+// empty part at the end.
 bool Selection::takeAll(std::string& to) {
   const auto first = peek();
   if (!first) return false;
