@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "runtime/core/base/Ref.h"
-#include "runtime/core/scheduling/Fiber.h"
 #include "runtime/core/scheduling/ScreenWatch.h"
 #include "runtime/desktop/Desktop.h"
+#include "runtime/desktop/Fiber.h"
 
 namespace tavrelkin {
 

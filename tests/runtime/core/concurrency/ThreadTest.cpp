@@ -6,7 +6,7 @@
 #include "fakes/RuntimeTest.h"
 #include "runtime/core/concurrency/Timer.h"
 #include "runtime/core/concurrency/Worker.h"
-#include "runtime/core/scheduling/Fiber.h"
+#include "runtime/desktop/Fiber.h"
 
 namespace tavrelkin {
 namespace {

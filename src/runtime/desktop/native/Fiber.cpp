@@ -1,4 +1,4 @@
-#include "runtime/core/scheduling/Fiber.h"
+#include "runtime/desktop/Fiber.h"
 
 #include <cassert>
 #include <utility>
