@@ -1,4 +1,4 @@
-"""compositor_figures.py PROGRAM: measures, on one monitor, what only a compositor shows, and prints rows of a Markdown table."""
+"""compositor_figures.py PROGRAM: measures what only a compositor shows, on one monitor, as rows of a Markdown table."""
 import os
 import statistics
 import subprocess

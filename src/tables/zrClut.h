@@ -56,9 +56,9 @@ class zrClut : public Object {
   // entries. The reader stops after 255 colours, so the last entry stays as it was.
   virtual bool WriteClut(const Ref<FolderItem>& file) const;
 
-  // A swatch file (.aco) is in version 1 of the Adobe Photoshop color swatches format, as the "Adobe Photoshop File
-  // Formats Specification" describes it. All numbers have two bytes, the high byte first: the version 1, the number of
-  // colours, and for each colour its space (0 for RGB), three channels and a 0.
+  // A swatch file (.aco) is in version 1 of the format for color swatches that Adobe has published. All numbers have
+  // two bytes, the high byte first: the version 1, the number of colours, and for each colour its space (0 for RGB),
+  // three channels and a 0.
   //
   // The reader uses only the number of colours and the high bytes of the channels. The number becomes Count, so the
   // table has one entry more than the file; that entry keeps its colour, or is black where it is new. A number from

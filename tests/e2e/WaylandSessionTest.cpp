@@ -13,8 +13,6 @@ using namespace std::chrono_literals;
 
 class WaylandSessionTest : public testing::Test {
  protected:
-  void desktop(const std::vector<std::string>& lines) { session_.cast(lines); }
-
   // A monitor of 1280 by 800 at the top left corner, unless told otherwise.
   using Screen = std::function<std::uint32_t(int, int)>;
   static Screen oneMonitor(std::uint32_t frame = 0) {
@@ -28,7 +26,7 @@ class WaylandSessionTest : public testing::Test {
   // Whether it follows once the keys are pressed again, which would end what still goes on.
   testing::AssertionResult followsAgain() {
     tool_.keys("Ctrl+F");
-    desktop({"pointer 640 400"});
+    session_.cast({"pointer 640 400"});
     return shows({640, 400});
   }
 
@@ -44,20 +42,20 @@ class WaylandSessionTest : public testing::Test {
 };
 
 TEST_F(WaylandSessionTest, FollowsAndPokesOnceTheUserHasAllowedIt) {
-  desktop({"undecided", "pointer 300 200"});
+  session_.cast({"undecided", "pointer 300 200"});
   const Pixels before = tool_.preview();
   tool_.keys("Ctrl+F");
   ASSERT_TRUE(tool_.paste(0x102030)) << "it stays usable meanwhile";
   EXPECT_EQ(tool_.preview(), before);
-  desktop({"decide"});
+  session_.cast({"decide"});
   EXPECT_TRUE(shows({300, 200}));
 
-  desktop({"response 1", "pointer 0 799"});
+  session_.cast({"response 1", "pointer 0 799"});
   EXPECT_TRUE(shows({0, 799}));
-  desktop({"frame 7"});
+  session_.cast({"frame 7"});
   EXPECT_TRUE(shows({0, 799}, oneMonitor(7)));
   tool_.keys("Ctrl+F");
-  desktop({"pointer 1279 0"});
+  session_.cast({"pointer 1279 0"});
   tool_.keys("Ctrl+Alt+P");
   EXPECT_TRUE(tool_.getsTitleOf(playedPixel(7, 0, 1279, 0))) << "without a second question";
 }
@@ -65,7 +63,7 @@ TEST_F(WaylandSessionTest, FollowsAndPokesOnceTheUserHasAllowedIt) {
 TEST_F(WaylandSessionTest, AFirstPokeOnlyAsks) {
   tool_.keys("Ctrl+Alt+P");
   ASSERT_TRUE(tool_.paste(0x102030));
-  desktop({"pointer 5 6"});
+  session_.cast({"pointer 5 6"});
   const auto takes = [this] {
     tool_.keys("Ctrl+Alt+P");
     return tool_.title() == titleOf(playedPixel(0, 0, 5, 6));
@@ -87,18 +85,18 @@ class WaylandEndingTest : public WaylandSessionTest, public testing::WithParamIn
 
 TEST_P(WaylandEndingTest, EndsFollowingAndTheNextFollowTriesAgain) {
   const Ending& row = GetParam();
-  desktop(row.before);
+  session_.cast(row.before);
   tool_.keys("Ctrl+F");
   if (!row.after.empty()) {
-    desktop({"pointer 100 100"});
+    session_.cast({"pointer 100 100"});
     ASSERT_TRUE(shows({100, 100}));
-    desktop(row.after);
+    session_.cast(row.after);
   }
   if (row.isTold) closeMessage();
   // The desktop's own end of a session may be followed by a change of monitors for a moment.
   if (!row.isTold) std::this_thread::sleep_for(1s);
   if (row.mended.empty()) return;
-  desktop(row.mended);
+  session_.cast(row.mended);
   EXPECT_TRUE(followsAgain());
   EXPECT_EQ(session_.windows.all().size(), 1U);
 }
@@ -118,9 +116,9 @@ INSTANTIATE_TEST_SUITE_P(, WaylandEndingTest, testing::ValuesIn(kEndings),
 
 TEST_F(WaylandSessionTest, GoesOnWhenTheMonitorsChange) {
   tool_.keys("Ctrl+F");
-  desktop({"pointer 100 100"});
+  session_.cast({"pointer 100 100"});
   ASSERT_TRUE(shows({100, 100}));
-  desktop({"monitors 400x300+0+0*2 480x600+400-100", "close"});
+  session_.cast({"monitors 400x300+0+0*2 480x600+400-100", "close"});
   session_.client.splitScreen(400);
   // The largest scale is 2: the second monitor begins at twice its logical place, and leaves gaps.
   const auto screen = [](int x, int y) {
@@ -128,17 +126,17 @@ TEST_F(WaylandSessionTest, GoesOnWhenTheMonitorsChange) {
     if (x >= 800 && x < 1280 && y >= -200 && y < 400) return playedPixel(0, 1, x - 800, y + 200);
     return 0U;
   };
-  desktop({"pointer 790 590 0"});
+  session_.cast({"pointer 790 590 0"});
   EXPECT_TRUE(shows({790, 590}, screen));
-  desktop({"pointer 3 4 1"});
+  session_.cast({"pointer 3 4 1"});
   EXPECT_TRUE(shows({803, -196}, screen));
 }
 
 TEST_F(WaylandSessionTest, PokeTakesThePickedColorWhereTheDesktopDoesNotTellThePointer) {
-  desktop({"modes 3", "picker 2", "pick 18 52 86"});
+  session_.cast({"modes 3", "picker 2", "pick 18 52 86"});
   tool_.keys("Ctrl+Alt+P");
   EXPECT_TRUE(tool_.getsTitleOf(0x123456));
-  desktop({"pick 1 2 3"});
+  session_.cast({"pick 1 2 3"});
   tool_.keys("Ctrl+Alt+P");
   EXPECT_TRUE(tool_.getsTitleOf(0x010203));
   tool_.keys("Ctrl+F");
@@ -147,18 +145,18 @@ TEST_F(WaylandSessionTest, PokeTakesThePickedColorWhereTheDesktopDoesNotTellTheP
 
 TEST_F(WaylandSessionTest, LooksAgainForAPortalThatWasThereOnce) {
   tool_.keys("Ctrl+F");
-  desktop({"pointer 100 100"});
+  session_.cast({"pointer 100 100"});
   ASSERT_TRUE(shows({100, 100}));
-  desktop({"leave"});
+  session_.cast({"leave"});
   closeMessage();
   tool_.keys("Ctrl+F");
   closeMessage();
-  desktop({"enter"});
+  session_.cast({"enter"});
   EXPECT_TRUE(followsAgain());
 }
 
 TEST_F(WaylandSessionTest, PokeTakesThePickedColorWhereTheDesktopAnnouncesThePointerAndNeverTellsIt) {
-  desktop({"gone", "picker 2", "pick 18 52 86"});
+  session_.cast({"gone", "picker 2", "pick 18 52 86"});
   tool_.keys("Ctrl+F");
   closeMessage();
   tool_.keys("Ctrl+Alt+P");
@@ -166,7 +164,7 @@ TEST_F(WaylandSessionTest, PokeTakesThePickedColorWhereTheDesktopAnnouncesThePoi
 }
 
 TEST_F(WaylandSessionTest, APortalThatNeverAnswersHoldsNothingUp) {
-  desktop({"mute CreateSession"});
+  session_.cast({"mute CreateSession"});
   tool_.keys("Ctrl+F");
   EXPECT_TRUE(tool_.paste(0x123456));
   tool_.keys("Ctrl+F");

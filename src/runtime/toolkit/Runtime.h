@@ -32,7 +32,8 @@ class Runtime {
 // assistive technologies, and what the core takes from it.
 void setUpToolkit(QApplication& toolkit);
 
-// Ends all threads, and forgets a fault that was told. For the end of the runtime.
+// Ends all threads, and forgets the request for the screen that is under way and a fault that was told. For the end of
+// the runtime.
 void shutDownRuntime();
 
 }  // namespace tavrelkin

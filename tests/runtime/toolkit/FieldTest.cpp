@@ -2,6 +2,7 @@
 
 #include <string>
 #include <tuple>
+#include <vector>
 
 #include <QAbstractEventDispatcher>
 #include <QApplication>
@@ -37,6 +38,22 @@ class Host : public Window {
 class FieldTest : public RuntimeTest {
  protected:
   FieldTest() { window->Show(); }
+
+  // What the slider tells of a press at the first column and a drag over the others, and after the dot of the release.
+  String slide(bool live, const std::vector<Int32>& columns) const {
+    Slider& slider = window->slider;
+    slider.Value = 0;
+    slider.LiveScroll = live;
+    window->log.clear();
+    gesture::press(slider, columns.front(), 10);
+    EXPECT_TRUE(QAbstractEventDispatcher::instance()->registeredTimers(&slider.native()).isEmpty()) << "it repeats";
+    for (std::size_t i = 1; i < columns.size(); ++i)
+      gesture::dragTo(slider, columns[i], 10);
+    window->log += ".";
+    gesture::release(slider, columns.back(), 10);
+    return window->log;
+  }
+
   const Ref<Host> window = New<Host>();
 };
 
@@ -73,15 +90,7 @@ TEST_F(FieldTest, ASliderKeepsItsValueInItsRangeAndTellsOfTheHandOnly) {
   EXPECT_EQ(slider.Value, 60);
   EXPECT_EQ(window->log, "");
   for (const auto& [live, log] : {std::pair{true, "slid slid ."}, {false, ".slid "}}) {
-    slider.Value = 0;
-    slider.LiveScroll = live;
-    window->log.clear();
-    gesture::press(slider, 6, 10);
-    gesture::dragTo(slider, 40, 10);
-    gesture::dragTo(slider, 60, 10);
-    window->log += ".";
-    gesture::release(slider, 60, 10);
-    EXPECT_EQ(window->log, log);
+    EXPECT_EQ(slide(live, {6, 40, 60}), log);
     EXPECT_GT(slider.Value, 0);
   }
 }
@@ -89,14 +98,7 @@ TEST_F(FieldTest, ASliderKeepsItsValueInItsRangeAndTellsOfTheHandOnly) {
 TEST_F(FieldTest, APressBesideTheHandleIsOneStepThatIsToldLikeADrag) {
   Slider& slider = window->slider;
   for (const auto& [live, log] : {std::pair{true, "slid ."}, {false, ".slid "}}) {
-    slider.Value = 0;
-    slider.LiveScroll = live;
-    window->log.clear();
-    gesture::press(slider, 70, 10);
-    EXPECT_TRUE(QAbstractEventDispatcher::instance()->registeredTimers(&slider.native()).isEmpty()) << "it repeats";
-    window->log += ".";
-    gesture::release(slider, 70, 10);
-    EXPECT_EQ(window->log, log);
+    EXPECT_EQ(slide(live, {70}), log);
     EXPECT_EQ(slider.Value, 10);
   }
 }

@@ -5,8 +5,7 @@
 namespace tavrelkin {
 
 // While the object lives, `changed` is called from the event loop after each change that the desktop's ScreenReader
-// reports.
-// Any number can live at a time.
+// reports. Any number of objects can live at a time.
 class ScreenWatch {
  public:
   explicit ScreenWatch(std::function<void()> changed);

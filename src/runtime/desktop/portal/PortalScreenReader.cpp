@@ -26,8 +26,6 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-// After an idle stream is asked for frames. They take some 20 ms; a desktop that is busy may take much longer.
-constexpr auto kFramesAgain = 2s;
 // The stream goes on for so long after a read, since the next read often follows at once.
 constexpr auto kLinger = 1s;
 // How long the stream may be behind the pointer. Where it is not up to date yet, it comes to another place within this
@@ -244,7 +242,7 @@ void PortalScreenReader::watch(std::function<void()> changed) {
 bool PortalScreenReader::isReadable() {
   if (state_ == ScreenState::idle) {
     setActive(true);
-    if (session_.frames()->waitForFrames(kFramesAgain)) {
+    if (session_.frames()->waitForFrames(ScreenSession::kFramesAgain)) {
       state_ = ScreenState::live;
     } else {
       session_.giveUp();
@@ -298,7 +296,7 @@ bool PortalScreenReader::eventFilter(QObject* watched, QEvent* event) {
   return false;
 }
 
-// Only what the event calls forth asks for the place of its moment.
+// The place of the event's moment matters to the handlers that run within the event only.
 void PortalScreenReader::expectLatePointer() {
   mayBeLate_ = true;
   QMetaObject::invokeMethod(

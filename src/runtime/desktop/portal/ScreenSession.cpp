@@ -16,8 +16,6 @@ using namespace std::chrono_literals;
 constexpr auto kFirstFrames = 5s;
 // From there to the first place of the pointer: a desktop that has not told it by then won't do so.
 constexpr auto kFirstPlace = 1s;
-// From an idle stream's waking to its frames, which take some 20 ms.
-constexpr auto kFramesAgain = 2s;
 // A pause that nobody asked for is over by then, or the stream does not go on.
 constexpr auto kPause = 1s;
 // The desktop ends the cast when its monitors change, at about the time at which the toolkit learns of the change.
@@ -140,11 +138,7 @@ void ScreenSession::monitorsChanged() {
 
 void ScreenSession::reopen() {
   interrupt();
-  limit_.stop();
-  streams_.reset();
-  isStopped_ = false;
-  awaitsPlace_ = false;
-  isWaking_ = false;
+  dropStreams();
   open();
 }
 
@@ -152,13 +146,18 @@ void ScreenSession::interrupt() {
   if (std::exchange(hasBegun_, false)) events_.interrupted();
 }
 
-void ScreenSession::end(End how) {
+// With all that was known of them.
+void ScreenSession::dropStreams() {
   limit_.stop();
-  hasBegun_ = false;
   isStopped_ = false;
   awaitsPlace_ = false;
   isWaking_ = false;
   streams_.reset();
+}
+
+void ScreenSession::end(End how) {
+  hasBegun_ = false;
+  dropStreams();
   if (portal_) {
     portal_->close();
     // By the token the same monitors would be shared again, without a question.

@@ -43,7 +43,11 @@ class ScreenSession {
   // Asks for the screen. Does nothing while the session is open or is being opened.
   void open();
 
-  // Has frames() sent, or no more; see ScreenStreams. Of use while frames() is there.
+  // From waking an idle stream to its frames. They take some 20 ms; a desktop that is busy may take much longer.
+  static constexpr std::chrono::seconds kFramesAgain{2};
+
+  // Has frames() sent, or no more; see ScreenStreams. Of use while frames() is there. The session ends as lost where
+  // frames that are wanted don't come within kFramesAgain.
   void setActive(bool active);
 
   // Ends the session as lost: its frames have failed the reader.
@@ -64,6 +68,7 @@ class ScreenSession {
   void monitorsChanged();
   void reopen();
   void interrupt();
+  void dropStreams();
   void end(End how);
   void waitAtMost(std::chrono::milliseconds longest, End orElse);
   bool sharesAllMonitors() const;
@@ -74,7 +79,7 @@ class ScreenSession {
   bool isOpening_ = false;
   bool hasBegun_ = false;
   bool awaitsPlace_ = false;     // of the pointer: all frames are there
-  bool hasMissedPlace_ = false;  // in the session before this one
+  bool hasMissedPlace_ = false;  // none has come since a session had all frames
   bool isWaking_ = false;        // has been made active, and frames have not come yet
   bool isStopped_ = false;       // the desktop has ended it, and may tell of a change of its monitors next
   std::optional<Clock::time_point> monitorsChanged_;  // since the session was opened

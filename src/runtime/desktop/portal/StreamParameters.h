@@ -9,8 +9,8 @@
 
 namespace tavrelkin {
 
-// Parameters of a stream's negotiation, which PipeWire calls pods, and the memory that they are in. It is enough
-// for those of one operation.
+// Parameters of a stream's negotiation, which PipeWire calls pods, and the memory that they are in. It is enough for
+// those of one operation.
 class StreamParameters {
  public:
   StreamParameters() { spa_pod_builder_init(&builder_, memory_.data(), static_cast<std::uint32_t>(memory_.size())); }
