@@ -1,13 +1,11 @@
 // A colour table file.
 
-#include "fakes/TemporaryFolder.h"
-#include "fuzz/support/Target.h"
+#include "fuzz/support/FileInput.h"
 #include "tables/zrClut.h"
 
 namespace tavrelkin {
 namespace {
 
-constexpr const char* kFile = "table.act";
 constexpr std::size_t kFileSize = 768;
 
 // What a new table writes after it has read the file: its bytes, up to the last entry. What a colour lacks is 0.
@@ -43,16 +41,13 @@ void checkShortTable(const Ref<FolderItem>& file, const zrClut& read) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace tavrelkin;
-  static const TemporaryFolder folder;
-  const FakeDesktop& desktop = freshDesktop();
-  const String bytes(data, data + size);
-  const Ref<FolderItem> file = folder.write(kFile, bytes);
+  const FileInput input(data, size);
   zrClut table;
-  require(table.ReadClut(file), "any bytes are read");
+  require(table.ReadClut(input.file), "any bytes are read");
   checkBounds(table);
-  checkShortTable(file, table);
-  require(table.WriteClut(file), "a table can be written");
-  require(folder.read(kFile) == expected(bytes), "what was read is written");
-  require(desktop.messages.empty(), "there is nothing to say");
+  checkShortTable(input.file, table);
+  require(table.WriteClut(input.file), "a table can be written");
+  require(input.content() == expected(input.bytes), "what was read is written");
+  input.requireSilence();
   return 0;
 }

@@ -2,14 +2,11 @@
 
 #include <algorithm>
 
-#include "fakes/TemporaryFolder.h"
-#include "fuzz/support/Target.h"
+#include "fuzz/support/FileInput.h"
 #include "tables/zrClut.h"
 
 namespace tavrelkin {
 namespace {
-
-constexpr const char* kFile = "swatch.aco";
 
 // The size of a table with this upper bound.
 std::size_t entries(Int32 upperBound) {
@@ -38,11 +35,11 @@ void checkRead(const zrClut& table, const String& bytes) {
   require(table.getColor(table.Count + 1) == kBlack, "there is nothing above the bound");
 }
 
-void checkWritten(const zrClut& table, const TemporaryFolder& folder) {
-  require(table.writeSwatch(folder.item(kFile)), "a table can be written");
-  require(folder.read(kFile).size() == 4 + 10 * entries(table.Count), "a file has all entries");
+void checkWritten(const zrClut& table, const FileInput& input) {
+  require(table.writeSwatch(input.file), "a table can be written");
+  require(input.content().size() == 4 + 10 * entries(table.Count), "a file has all entries");
   zrClut again;
-  require(again.ReadSwatch(folder.item(kFile)), "a written file can be read");
+  require(again.ReadSwatch(input.file), "a written file can be read");
   require(again.Count == table.Count + 1, "a round adds an entry");
   for (Int32 i = 0; i <= table.Count; ++i)
     require(again.getColor(i) == table.getColor(i), "a written colour is read back");
@@ -53,17 +50,14 @@ void checkWritten(const zrClut& table, const TemporaryFolder& folder) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace tavrelkin;
-  static const TemporaryFolder folder;
-  const FakeDesktop& desktop = freshDesktop();
-  const String bytes(data, data + size);
-  const Ref<FolderItem> file = folder.write(kFile, bytes);
+  const FileInput input(data, size);
   zrClut table;
-  require(table.ReadSwatch(file), "any bytes are read");
-  checkRead(table, bytes);
-  require(table.ReadSwatch(file), "a file can be read twice");
-  checkRead(table, bytes);
+  for (const char* rule : {"any bytes are read", "a file can be read twice"}) {
+    require(table.ReadSwatch(input.file), rule);
+    checkRead(table, input.bytes);
+  }
   // Not the longest ones, which cost too much time.
-  if (table.Count < 1000) checkWritten(table, folder);
-  require(desktop.messages.empty(), "there is nothing to say");
+  if (table.Count < 1000) checkWritten(table, input);
+  input.requireSilence();
   return 0;
 }
