@@ -47,7 +47,7 @@ String colorInWords(Color c) {
 }
 
 String colorInWordsAndNumbers(Color c) {
-  return colorInWords(c) + ", " + getDottedStr(c) + ", #" + getHexStr(c);
+  return colorInWords(c) + ", " + getDottedAndHexStr(c);
 }
 
 }  // namespace tavrelkin

@@ -19,6 +19,8 @@ String getRGBStr(Color c);
 String getDottedStr(Color c);
 // "FF8000".
 String getHexStr(Color c);
+// "255.128.0, #FF8000".
+String getDottedAndHexStr(Color c);
 // "Color: 255.128.0, 30.100.100, #FF8000": the channels, hue in degrees, saturation and value in percent, all cut down
 // to whole numbers.
 String getStdColorString(Color c);

@@ -4,9 +4,8 @@
 
 #include "color/ColorChannel.h"
 #include "color/ColorWords.h"
+#include "controls/ColorSwatch.h"
 #include "controls/zrClutPalette.h"
-#include "controls/zrColorBox.h"
-#include "controls/zrColorButton.h"
 #include "controls/zrColorCHBar.h"
 
 namespace tavrelkin {
@@ -26,26 +25,18 @@ class BarAccessible : public Accessible {
   zrColorCHBar& bar_;
 };
 
-bool answersClicks(const zrColorBox& box) {
-  return static_cast<bool>(box.Action);
-}
-bool answersClicks(const zrColorButton&) {
-  return true;
-}
-
-template <class Swatch>
 class SwatchAccessible : public Accessible {
  public:
-  explicit SwatchAccessible(Swatch& swatch) : swatch_(swatch) {}
+  explicit SwatchAccessible(ColorSwatch& swatch) : swatch_(swatch) {}
 
   AccessibleRole role() const override {
-    return answersClicks(swatch_) ? AccessibleRole::button : AccessibleRole::picture;
+    return swatch_.answersClicks() ? AccessibleRole::button : AccessibleRole::picture;
   }
   String description() const override { return colorInWordsAndNumbers(swatch_.Value); }
   void press() override { swatch_.press(); }
 
  private:
-  Swatch& swatch_;
+  ColorSwatch& swatch_;
 };
 
 class PaletteAccessible : public Accessible {
@@ -72,12 +63,8 @@ std::unique_ptr<Accessible> accessibleOf(zrColorCHBar& bar) {
   return std::make_unique<BarAccessible>(bar);
 }
 
-std::unique_ptr<Accessible> accessibleOf(zrColorButton& button) {
-  return std::make_unique<SwatchAccessible<zrColorButton>>(button);
-}
-
-std::unique_ptr<Accessible> accessibleOf(zrColorBox& box) {
-  return std::make_unique<SwatchAccessible<zrColorBox>>(box);
+std::unique_ptr<Accessible> accessibleOf(ColorSwatch& swatch) {
+  return std::make_unique<SwatchAccessible>(swatch);
 }
 
 std::unique_ptr<Accessible> accessibleOf(zrClutPalette& palette) {

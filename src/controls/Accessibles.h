@@ -6,18 +6,16 @@
 
 namespace tavrelkin {
 
+class ColorSwatch;
 class zrClutPalette;
-class zrColorBox;
-class zrColorButton;
 class zrColorCHBar;
 
-// How the colour controls present themselves to assistive technologies; of use as long as the control lives.
+// What the colour controls are to assistive technologies. Each result refers to its control, which must outlive it.
 
-// A slider that is called as its channel is.
+// A slider with the name of its channel.
 std::unique_ptr<Accessible> accessibleOf(zrColorCHBar& bar);
-// A button, with its colour as the description. A box whose clicks nobody answers is a picture.
-std::unique_ptr<Accessible> accessibleOf(zrColorButton& button);
-std::unique_ptr<Accessible> accessibleOf(zrColorBox& box);
+// A button, with its colour as the description; a picture where nobody answers its clicks.
+std::unique_ptr<Accessible> accessibleOf(ColorSwatch& swatch);
 // A list of colours, one of which can be selected.
 std::unique_ptr<Accessible> accessibleOf(zrClutPalette& palette);
 

@@ -1,6 +1,7 @@
 #include "controls/ColorDrag.h"
 
 #include "color/zrColorLib.h"
+#include "runtime/toolkit/Clipboard.h"
 
 namespace tavrelkin::ColorDrag {
 
@@ -21,6 +22,10 @@ bool takePrivate(const Ref<DragItem>& item, Color& c) {
   if (!item->MacDataAvailable(kColorData)) return false;
   c = getColorFromDrop(item);
   return true;
+}
+
+bool paste(Color& c) {
+  return getColorFromString(Trim(Clipboard().Text()), c);
 }
 
 void begin(RectControl& control, Color c, Int32 x, Int32 y, Int32 outline) {

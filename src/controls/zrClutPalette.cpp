@@ -111,12 +111,18 @@ bool zrClutPalette::Event_KeyDown(const String& key) {
 }
 
 Int32 zrClutPalette::cellTowards(const String& key) const {
-  const Int32 step = key == kLeftArrow    ? -1
-                     : key == kRightArrow ? 1
-                     : key == kUpArrow    ? -columns()
-                     : key == kDownArrow  ? columns()
-                                          : 0;
-  if (step == 0 && !isPressKey(key)) return -1;
+  Int32 step = 0;
+  if (key == kLeftArrow) {
+    step = -1;
+  } else if (key == kRightArrow) {
+    step = 1;
+  } else if (key == kUpArrow) {
+    step = -columns();
+  } else if (key == kDownArrow) {
+    step = columns();
+  } else if (!isPressKey(key)) {
+    return -1;
+  }
   if (Selected < 0 || Selected >= TheClut->Count) return 0;
   const Int32 index = Selected + step;
   return index >= 0 && index < TheClut->Count ? index : Selected;

@@ -1,20 +1,16 @@
 #pragma once
 
+#include "controls/ColorSwatch.h"
 #include "runtime/core/base/Event.h"
-#include "runtime/toolkit/Canvas.h"
 
 namespace tavrelkin {
 
 // A framed rectangle filled with one colour. It can be clicked, dragged away with the Option key held, and can take a
 // dropped colour if its host agrees. What a click means is the host's affair.
-class zrColorBox : public Canvas {
+class zrColorBox : public ColorSwatch {
  public:
   zrColorBox(Window& owner, String name);
 
-  // The colour shown.
-  Color Value;
-  // From the start of a drag until the next press or release.
-  bool IsDrag = false;
   // As a window's design states it; the Option key alone decides.
   bool optionAllowDrag = false;
 
@@ -25,15 +21,12 @@ class zrColorBox : public Canvas {
   // A drop has changed Value.
   Event<void()> ColorChanged;
 
-  // A click by key, or by assistive technology.
-  void press() { Action(); }
+  void press() override { Action(); }
+  bool answersClicks() const override { return static_cast<bool>(Action); }
 
   void Event_DropObject(const Ref<DragItem>& item, Int32 action) override;
   void Event_Open() override;
-  void Event_MouseDrag(Int32 x, Int32 y) override;
   void Event_MouseUp(Int32 x, Int32 y) override;
-  bool Event_MouseDown(Int32 x, Int32 y) override;
-  bool Event_KeyDown(const String& key) override;
   void Event_Paint(tavrelkin::Graphics& g) override;
 
   // Shows a colour and tells it in the help tag. Raises nothing.

@@ -1,19 +1,17 @@
 #pragma once
 
+#include "controls/ColorSwatch.h"
 #include "runtime/core/base/Event.h"
 #include "runtime/core/drawing/Picture.h"
-#include "runtime/toolkit/Canvas.h"
 
 namespace tavrelkin {
 
 // A colour as a small swatch with its numbers beside it. A click on the swatch opens the desktop's colour dialog; a
 // drag with the Option key held carries the colour away, and a dropped one replaces it.
-class zrColorButton : public Canvas {
+class zrColorButton : public ColorSwatch {
  public:
   zrColorButton(Window& owner, String name);
 
-  // The colour shown.
-  Color Value;
   // Part of the class, but neither read nor written: this and the next four.
   String Label;
   Int32 ButtonOffsetX = 0;
@@ -34,8 +32,6 @@ class zrColorButton : public Canvas {
   Int32 propColorFormat = 0;
   // The title of the colour dialog.
   String propColorSelectionPrompt;
-  // From the start of a drag until the next press or release.
-  bool IsDrag = false;
 
   // A click on the swatch is over, with or without a dialog, whatever the user did in it.
   Event<void()> Action;
@@ -46,18 +42,14 @@ class zrColorButton : public Canvas {
   // A drop has changed Value.
   Event<void()> Change;
 
-  // A click on the swatch, by hand, by key or by assistive technology.
-  void press();
+  void press() override;
 
   void Event_DropObject(const Ref<DragItem>& item, Int32 action) override;
   void Event_MouseEnter() override;
   void Event_MouseExit() override;
   void Event_MouseUp(Int32 x, Int32 y) override;
-  bool Event_MouseDown(Int32 x, Int32 y) override;
-  bool Event_KeyDown(const String& key) override;
   void Event_Open() override;
   void Event_Paint(tavrelkin::Graphics& g) override;
-  void Event_MouseDrag(Int32 x, Int32 y) override;
 
   // Shows a colour. Raises nothing.
   virtual void SetValue(Color c);

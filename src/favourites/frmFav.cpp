@@ -1,9 +1,10 @@
-// The favourites window's layout and its way with colours; its files are in frmFav_files.cpp.
-
 #include "favourites/frmFav.h"
 
 #include "color/zrColorLib.h"
+#include "controls/ColorDrag.h"
 #include "menubar/MenuBar1.h"
+#include "runtime/core/files/GetSaveFolderItem.h"
+#include "runtime/core/system/MsgBox.h"
 #include "runtime/toolkit/Clipboard.h"
 
 namespace tavrelkin {
@@ -90,7 +91,7 @@ void frmFav::copy(String (*toText)(Color)) const {
 
 bool frmFav::EditPaste() {
   Color c = hasSelection() ? TheClut->getColor(imgClut.Selected) : kBlack;
-  if (!getColorFromString(Trim(Clipboard().Text()), c)) return true;
+  if (!ColorDrag::paste(c)) return true;
   if (hasSelection()) {
     DoSetSelection(c);
   } else {
@@ -102,6 +103,37 @@ bool frmFav::EditPaste() {
 bool frmFav::mnuCloseWin() {
   Close();
   return true;
+}
+
+bool frmFav::mnuSaveClut() {
+  SaveColors(currFile);
+  return true;
+}
+
+bool frmFav::mnuSaveAS() {
+  SaveColors(nullptr);
+  return true;
+}
+
+// The old table is gone from the start, also where the load fails.
+void frmFav::ReadColors(const Ref<FolderItem>& f) {
+  if (!f) return;
+  TheClut = New<zrClut>();
+  const String extension = Right(f->Name(), 3);
+  const bool isRead =
+      (sameText(extension, "aco") && TheClut->ReadSwatch(f)) || (sameText(extension, "act") && TheClut->ReadClut(f));
+  if (!isRead) return Close();
+  currFile = f;
+  Title = f->Name();
+  UpdatePalette();
+}
+
+void frmFav::SaveColors(Ref<FolderItem> f) {
+  if (!TheClut) return MsgBox("Unable to save color. No colors available");
+  if (!f) f = GetSaveFolderItem("", "Untitled.aco");
+  if (!f || !TheClut->writeSwatch(f)) return;
+  currFile = f;
+  Title = f->Name();
 }
 
 }  // namespace tavrelkin

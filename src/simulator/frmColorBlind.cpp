@@ -2,10 +2,10 @@
 
 #include "color/zrColorLib.h"
 #include "color/zrXYZ.h"
+#include "controls/ColorDrag.h"
 #include "menubar/MenuBar1.h"
 #include "runtime/core/system/MsgBox.h"
 #include "runtime/toolkit/Application.h"
-#include "runtime/toolkit/Clipboard.h"
 
 namespace tavrelkin {
 
@@ -173,7 +173,7 @@ void frmColorBlind::cmdUpdate_Action() {
 
 bool frmColorBlind::EditPaste() {
   Color pasted = SelectedColor;
-  if (getColorFromString(Trim(Clipboard().Text()), pasted)) SetValue(pasted);
+  if (ColorDrag::paste(pasted)) SetValue(pasted);
   return true;
 }
 

@@ -1,14 +1,71 @@
 #include "tables/zrClut.h"
 
 #include <algorithm>
+#include <cstdint>
 
 #include "runtime/core/base/Exceptions.h"
+#include "runtime/core/files/FolderItem.h"
+#include "runtime/core/system/MsgBox.h"
 
 namespace tavrelkin {
 
 namespace {
 
 constexpr Int32 kUpperBound = 255;
+
+void writeTwice(BinaryStream& stream, Int32 byte) {
+  stream.WriteByte(byte);
+  stream.WriteByte(byte);
+}
+
+// A byte as the high half of a channel, less the low half.
+Int32 readHighByte(BinaryStream& stream) {
+  const Int32 high = stream.ReadByte();
+  stream.Position += 1;
+  return high;
+}
+
+// The stream of a file, or nil; the user is told where there is a file but it can't be opened, or none can be made.
+Ref<BinaryStream> opened(const Ref<FolderItem>& file, const char* complaint) {
+  if (!file || !file->Exists()) return nullptr;
+  Ref<BinaryStream> stream = file->OpenAsBinaryFile(false);
+  if (!stream) MsgBox(complaint);
+  return stream;
+}
+Ref<BinaryStream> created(const Ref<FolderItem>& file, const char* typeName, const char* complaint) {
+  if (!file) return nullptr;
+  Ref<BinaryStream> stream = file->CreateBinaryFile(typeName);
+  if (!stream) MsgBox(complaint);
+  return stream;
+}
+
+void finish(BinaryStream& stream, FolderItem& file, const char* macType) {
+  stream.Close();
+  file.MacType = macType;
+  file.MacCreator = "8BIM";
+}
+
+// Moves the cursor over the rest of the stream, as Add would for each colour of `bytes` bytes. The rest may be
+// gigabytes long, so the move is calculated, and limited to what an Int32 holds.
+void skipRest(zrClut& table, const BinaryStream& stream, Int32 bytes) {
+  const std::int64_t passed = (stream.size() - stream.Position + bytes - 1) / bytes;
+  table.Index = toInt32(static_cast<Double>(table.Index + passed));
+}
+
+// Adds colours of `bytes` bytes each, up to the end of the stream or the last entry but one. A table with a Count of 0
+// or less has no such entry, and stores at most one colour.
+template <class ReadColor>
+void fill(zrClut& table, BinaryStream& stream, Int32 bytes, ReadColor readColor) {
+  while (!stream.EOF()) {
+    table.Add(readColor());
+    if (table.Index + 1 == table.Count) break;
+    if (table.Index >= table.Count) {
+      skipRest(table, stream, bytes);
+      break;
+    }
+  }
+  stream.Close();
+}
 
 }  // namespace
 
@@ -58,6 +115,66 @@ void zrClut::Reset() {
 Color zrClut::NextColor() {
   if (Index + 1 > kUpperBound) return kBlack;
   return aColors[place(++Index)];
+}
+
+// Readers and writers of a format don't mirror each other, and this is meant: files in use depend on it.
+bool zrClut::writeSwatch(const Ref<FolderItem>& file) const {
+  const Ref<BinaryStream> stream = created(file, "ColorSwatch", "Unable to save swatch file");
+  if (!stream) return false;
+  stream->WriteShort(1);
+  stream->WriteShort(Count + 1);
+  for (Int32 i = 0; i <= Count; ++i) {
+    const Color c = getColor(i);
+    stream->WriteShort(0);
+    writeTwice(*stream, c.red());
+    writeTwice(*stream, c.green());
+    writeTwice(*stream, c.blue());
+    stream->WriteShort(0);
+  }
+  finish(*stream, *file, "8BCO");
+  return true;
+}
+
+bool zrClut::WriteClut(const Ref<FolderItem>& file) const {
+  const Ref<BinaryStream> stream = created(file, "ColorClut", "Unable to save clut file");
+  if (!stream) return false;
+  for (Int32 i = 0; i <= 255; ++i) {
+    const Color c = getColor(i);
+    stream->WriteByte(c.red());
+    stream->WriteByte(c.green());
+    stream->WriteByte(c.blue());
+  }
+  finish(*stream, *file, "8BCT");
+  return true;
+}
+
+bool zrClut::ReadSwatch(const Ref<FolderItem>& file) {
+  const Ref<BinaryStream> stream = opened(file, "Unable to read color swatch");
+  if (!stream) return false;
+  stream->Position = 2;
+  resize(stream->ReadShort());
+  stream->Position = 6;
+  fill(*this, *stream, 10, [&] {
+    const Int32 red = readHighByte(*stream);
+    const Int32 green = readHighByte(*stream);
+    const Int32 blue = readHighByte(*stream);
+    stream->Position += 4;
+    return RGB(red, green, blue);
+  });
+  return true;
+}
+
+bool zrClut::ReadClut(const Ref<FolderItem>& file) {
+  const Ref<BinaryStream> stream = opened(file, "Unable to read color clut");
+  if (!stream) return false;
+  resize(255);
+  fill(*this, *stream, 3, [&] {
+    const Int32 red = stream->ReadByte();
+    const Int32 green = stream->ReadByte();
+    const Int32 blue = stream->ReadByte();
+    return RGB(red, green, blue);
+  });
+  return true;
 }
 
 }  // namespace tavrelkin

@@ -2,6 +2,7 @@
 
 #include <cstdlib>
 
+#include "controls/ColorSwatch.h"
 #include "runtime/toolkit/Canvas.h"
 
 namespace tavrelkin {
@@ -9,7 +10,6 @@ namespace tavrelkin {
 namespace {
 
 constexpr Color kGround{0xA0A0A0};
-constexpr Color kSwatchFrame{0x909090};
 constexpr Color kMark{0x308CC6};
 constexpr Int32 kLeft = 13;
 constexpr Int32 kTop = 10;
@@ -25,15 +25,6 @@ void drawAround(Graphics& g, const ColorCell& cell, Color c) {
 }
 
 }  // namespace
-
-void drawSwatch(Graphics& g, Int32 x, Int32 y, Int32 side, Color c) {
-  g.ForeColor = kSwatchFrame;
-  g.DrawRect(x, y, side, side);
-  g.ForeColor = kWhite;
-  g.DrawRect(x + 1, y + 1, side - 2, side - 2);
-  g.ForeColor = c;
-  g.FillRect(x + 2, y + 2, side - 4, side - 4);
-}
 
 void drawMark(Graphics& g, const ColorCell& cell) {
   drawAround(g, cell, kMark);
@@ -68,7 +59,7 @@ std::vector<ColorCell> drawCells(Graphics& g, const std::vector<Color>& colors) 
       x = kLeft;
       y += kStepDown;
     }
-    drawSwatch(g, x, y, kCell, c);
+    drawSwatch(g, x, y, kCell, kCell, c);
     cells.push_back({c, x, y, kCell, {}});
     x += kStepAcross;
   }

@@ -16,9 +16,6 @@ struct ColorCell {
   String label;
 };
 
-// A square of one colour in a grey and a white frame; `side` is its size in pixels, frames included.
-void drawSwatch(Graphics& g, Int32 x, Int32 y, Int32 side, Color c);
-
 // Puts the keyboard's mark around a cell, on the two pixels beside its frame, or takes it away again.
 void drawMark(Graphics& g, const ColorCell& cell);
 void eraseMark(Graphics& g, const ColorCell& cell);

@@ -1,6 +1,7 @@
 // The tool window's menu commands, but for those that choose a view, and the loop that follows the pointer.
 
 #include "color/zrColorLib.h"
+#include "controls/ColorDrag.h"
 #include "runtime/core/concurrency/RuntimeBackgroundTask.h"
 #include "runtime/core/system/System.h"
 #include "runtime/toolkit/Clipboard.h"
@@ -101,7 +102,7 @@ bool frmVesk::mnuEditCopyHex() {
 
 bool frmVesk::EditPaste() {
   Color pasted = SelectedColor;
-  if (getColorFromString(Trim(Clipboard().Text()), pasted)) setColor(pasted, false);
+  if (ColorDrag::paste(pasted)) setColor(pasted, false);
   return true;
 }
 

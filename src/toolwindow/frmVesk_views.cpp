@@ -91,7 +91,7 @@ void frmVesk::drawColorBlind(Graphics* g) {
     for (Int32 index = 0; index < 3; ++index) {
       const Color seen = color.getDichromatTranformation(index, c);
       const Int32 x = 100 + index * 48;
-      drawSwatch(*g, x, y, side, seen);
+      drawSwatch(*g, x, y, side, side, seen);
       cells.push_back({seen, x, y, side, names.at(static_cast<std::size_t>(index)) + String(", gamma ") + text});
     }
     y += 44;
