@@ -17,6 +17,7 @@ Canvas::Canvas(Window& owner, String name)
     : RectControl(owner, std::move(name), new CanvasWidget(*this)),
       Backdrop(nullptr, [this](const Ref<Picture>&) { backdropChanged(); }),
       surface_(0, 0, kWhite),
+      ground_(0, 0, kWhite),
       graphics_(surface_, this) {}
 
 Canvas::~Canvas() {
@@ -37,6 +38,7 @@ void Canvas::Refresh(bool now) {
 }
 
 void Canvas::paintAfresh() {
+  texts_.clear();
   surface_.fill(ownerWindow().BackColor);
   if (Backdrop.get()) tavrelkin::Graphics(surface_).DrawPicture(*Backdrop.get(), 0, 0);
   deliver(ownerWindow(), [this] { Event_Paint(graphics_); });
@@ -66,14 +68,20 @@ void Canvas::announce(AccessibleChange change) {
   CanvasAccessible::announce(widget(), change);
 }
 
-void Canvas::drawn() {
-  Scheduler::instance().canvasDrawn();
-  widget().showSoon();
+void Canvas::willDraw() {
+  texts_.clear();
+  surfaceChanges();
 }
 
-void Canvas::textDrawn(DrawnText text) {
-  std::erase_if(texts_, [&](const DrawnText& other) { return other.place.meets(text.place); });
-  texts_.push_back(std::move(text));
+void Canvas::willDrawText(const DrawnText& text) {
+  if (texts_.empty()) ground_ = surface_;
+  texts_.push_back(text);
+  surfaceChanges();
+}
+
+void Canvas::surfaceChanges() {
+  Scheduler::instance().canvasDrawn();
+  widget().showSoon();
 }
 
 }  // namespace tavrelkin

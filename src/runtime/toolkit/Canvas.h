@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "runtime/core/base/Event.h"
-#include "runtime/core/drawing/DrawnText.h"
 #include "runtime/core/drawing/Graphics.h"
+#include "runtime/core/drawing/TextPainter.h"
 #include "runtime/toolkit/Accessible.h"
 #include "runtime/toolkit/RectControl.h"
 
@@ -94,16 +94,18 @@ class Canvas : public RectControl, private DrawingObserver {
  private:
   friend class CanvasWidget;
 
-  void drawn() override;
-  void textDrawn(DrawnText text) override;
+  void willDraw() override;
+  void willDrawText(const DrawnText& text) override;
+  void surfaceChanges();
   void paintAfresh();
   void backdropChanged();
 
   CanvasWidget& widget() const;
 
   Surface surface_;
-  // Those that may still be whole; no two of them meet.
+  // The texts drawn since the last drawing of another kind, and the surface as it was before them.
   std::vector<DrawnText> texts_;
+  Surface ground_;
   tavrelkin::Graphics graphics_;
   std::unique_ptr<Accessible> accessible_;
   bool shown_ = false;

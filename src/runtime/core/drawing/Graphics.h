@@ -9,12 +9,12 @@ namespace tavrelkin {
 class Picture;
 struct DrawnText;
 
-// Is told that something is being drawn. A canvas then shows its surface again.
+// Learns of each drawing before it changes the surface.
 class DrawingObserver {
  public:
-  virtual void drawn() = 0;
-  // A text has been drawn, after drawn().
-  virtual void textDrawn(DrawnText text) = 0;
+  // Anything but a text is about to be drawn.
+  virtual void willDraw() = 0;
+  virtual void willDrawText(const DrawnText& text) = 0;
 
  protected:
   ~DrawingObserver() = default;
@@ -64,7 +64,8 @@ class Graphics {
   // A line one pixel wide, both ends included.
   void DrawLine(Int32 x1, Int32 y1, Int32 x2, Int32 y2);
 
-  // Draws a text of one line that begins at x, with its baseline at y.
+  // Draws a text of one line that begins at x, with its baseline at y. Where a canvas is shown enlarged, its texts are
+  // sharp until anything else is drawn on it; so draw them last.
   void DrawString(const String& text, Int32 x, Int32 y);
 
   // Draws a picture at its natural size, where its mask lets it.
@@ -80,7 +81,7 @@ class Graphics {
   void drawStraight(Int32 left, Int32 top, Int32 right, Int32 bottom);
 
   void touch() {
-    if (observer_) observer_->drawn();
+    if (observer_) observer_->willDraw();
   }
 
   Surface& surface_;

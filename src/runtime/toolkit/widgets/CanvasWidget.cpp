@@ -120,9 +120,9 @@ void CanvasWidget::paintEvent(QPaintEvent* event) {
 }
 
 void CanvasWidget::paintEnlarged(QPainter& painter, const Enlargement& enlargement) {
-  static const std::vector<DrawnText> kNone;
   if (enlarged_.isNull() || enlargedBy_ != enlargement.scale()) {
-    enlarged_ = enlargement.of(surface_, canvas_ ? canvas_->texts_ : kNone);
+    const bool hasTexts = canvas_ && !canvas_->texts_.empty();
+    enlarged_ = hasTexts ? enlargement.of(canvas_->ground_, canvas_->texts_) : enlargement.of(surface_);
     enlargedBy_ = enlargement.scale();
   }
   // Pixel for pixel: the painter's own scaling would set edges between two pixels of the screen.

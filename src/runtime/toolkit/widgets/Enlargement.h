@@ -4,7 +4,7 @@
 
 #include <QImage>
 
-#include "runtime/core/drawing/DrawnText.h"
+#include "runtime/core/drawing/TextPainter.h"
 
 namespace tavrelkin {
 
@@ -24,12 +24,12 @@ class Enlargement {
   // The pixel whose block a pixel of the screen belongs to.
   int pixelAt(int onScreen) const;
 
-  // The surface at the screen's size. Those of the texts that are whole on it are set anew, and sharp.
-  QImage of(const Surface& surface, const std::vector<DrawnText>& texts) const;
+  // The surface at the screen's size.
+  QImage of(const Surface& surface) const;
+  // The same with texts on it, which are drawn in the screen's pixels and so are sharp.
+  QImage of(const Surface& ground, const std::vector<DrawnText>& texts) const;
 
  private:
-  QImage blocksOf(const Surface& surface) const;
-
   qreal scale_;
 };
 

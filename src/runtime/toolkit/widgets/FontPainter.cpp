@@ -9,25 +9,8 @@
 
 namespace tavrelkin {
 
-namespace {
-
-QFontMetrics metricsOf(Int32 size) {
-  return QFontMetrics(fontFor("System", size, false));
-}
-
-}  // namespace
-
 Int32 FontPainter::ascent(Int32 size) const {
-  return metricsOf(size).ascent();
-}
-
-// With a rim for what smoothing adds.
-Block FontPainter::placeOf(const DrawnText& text, const Surface& surface) const {
-  constexpr int rim = 2;
-  const QRectF ink = metricsOf(text.size).boundingRect(toQt(text.text)).adjusted(-rim, -rim, rim, rim);
-  const QRectF whole(0, 0, surface.width(), surface.height());
-  const QRect place = (ink.translated(text.left, text.baseline) & whole).toAlignedRect();
-  return {place.x(), place.y(), place.width(), place.height()};
+  return QFontMetrics(fontFor("System", size, false)).ascent();
 }
 
 void FontPainter::draw(const DrawnText& text, Surface& surface) const {

@@ -11,7 +11,6 @@ namespace tavrelkin {
 class FontPainter final : public TextPainter {
  public:
   Int32 ascent(Int32 size) const override;
-  Block placeOf(const DrawnText& text, const Surface& surface) const override;
   void draw(const DrawnText& text, Surface& surface) const override;
 
   // Draws the text by a painter of the toolkit's.
