@@ -5,7 +5,7 @@
 #include "color/zrColorLib.h"
 #include "controls/Accessibles.h"
 #include "controls/ColorDrag.h"
-#include "runtime/core/system/Keyboard.h"
+#include "runtime/core/system/System.h"
 
 namespace tavrelkin {
 

@@ -6,8 +6,8 @@
 
 #include "controls/Accessibles.h"
 #include "controls/ColorDrag.h"
-#include "runtime/core/system/Keyboard.h"
-#include "runtime/toolkit/SelectColor.h"
+#include "runtime/core/system/Dialogs.h"
+#include "runtime/core/system/System.h"
 
 namespace tavrelkin {
 

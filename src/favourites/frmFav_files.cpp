@@ -1,8 +1,8 @@
 // The favourites window's palettes in files.
 
 #include "favourites/frmFav.h"
-#include "runtime/core/files/GetSaveFolderItem.h"
-#include "runtime/core/system/MsgBox.h"
+#include "runtime/core/files/FolderItem.h"
+#include "runtime/core/system/Dialogs.h"
 
 namespace tavrelkin {
 

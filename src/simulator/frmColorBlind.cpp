@@ -3,7 +3,7 @@
 #include "color/zrColorLib.h"
 #include "color/zrXYZ.h"
 #include "menubar/MenuBar1.h"
-#include "runtime/core/system/MsgBox.h"
+#include "runtime/core/system/Dialogs.h"
 #include "runtime/toolkit/Application.h"
 #include "runtime/toolkit/Clipboard.h"
 

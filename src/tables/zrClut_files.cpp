@@ -4,7 +4,7 @@
 #include <cstdint>
 
 #include "runtime/core/files/FolderItem.h"
-#include "runtime/core/system/MsgBox.h"
+#include "runtime/core/system/Dialogs.h"
 #include "tables/zrClut.h"
 
 namespace tavrelkin {

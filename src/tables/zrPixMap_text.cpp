@@ -1,6 +1,6 @@
 // The text form of a pixel map, written and read.
 
-#include "runtime/core/system/MsgBox.h"
+#include "runtime/core/system/Dialogs.h"
 #include "tables/zrPixMap.h"
 
 namespace tavrelkin {

@@ -9,7 +9,6 @@
 #include "runtime/core/scheduling/Delivery.h"
 #include "runtime/toolkit/Application.h"
 #include "runtime/toolkit/widgets/Convert.h"
-#include "runtime/toolkit/widgets/Shortcut.h"
 
 namespace tavrelkin {
 

@@ -15,7 +15,7 @@
 #include "runtime/desktop/Desktop.h"
 #include "runtime/desktop/native/NativeDesktop.h"
 #include "runtime/toolkit/accessibility/Accessibility.h"
-#include "runtime/toolkit/widgets/FontPainter.h"
+#include "runtime/toolkit/widgets/Fonts.h"
 #include "runtime/toolkit/widgets/HeldKeys.h"
 
 namespace tavrelkin {

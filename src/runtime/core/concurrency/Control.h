@@ -1,5 +1,6 @@
 #pragma once
 
+#include <utility>
 #include <vector>
 
 #include "runtime/core/base/Number.h"
@@ -45,7 +46,7 @@ class Control {
 
  protected:
   // Enters the control in its window, in the order in which the window's Open events come.
-  Control(ControlOwner& owner, String name);
+  Control(ControlOwner& owner, String name) : owner_(owner), name_(std::move(name)) { owner.controls_.push_back(this); }
 
  private:
   ControlOwner& owner_;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -14,7 +16,8 @@ class Surface {
   static constexpr std::uint32_t kOpaque = 0xFF000000;
 
   // A surface of `width` by `height` pixels, all of one colour. A negative size counts as 0.
-  Surface(Int32 width, Int32 height, Color fill);
+  Surface(Int32 width, Int32 height, Color fill)
+      : width_(std::max(width, 0)), height_(std::max(height, 0)), pixels_(offset(height_), kOpaque | fill.bits) {}
 
   Int32 width() const { return width_; }
   Int32 height() const { return height_; }
@@ -24,7 +27,7 @@ class Surface {
   std::uint32_t* row(Int32 y) { return pixels_.data() + offset(y); }
   const std::uint32_t* row(Int32 y) const { return pixels_.data() + offset(y); }
 
-  void fill(Color c);
+  void fill(Color c) { std::fill(pixels_.begin(), pixels_.end(), kOpaque | c.bits); }
 
  private:
   std::size_t offset(Int32 y) const { return static_cast<std::size_t>(y) * static_cast<std::size_t>(width_); }

@@ -1,6 +1,8 @@
 #include "runtime/core/files/FileReplacement.h"
 
+#include <algorithm>
 #include <cerrno>
+#include <cstddef>
 #include <system_error>
 #include <utility>
 
@@ -9,7 +11,6 @@
 #include <unistd.h>
 
 #include "runtime/core/files/FileAttributes.h"
-#include "runtime/core/files/Overwrite.h"
 
 namespace tavrelkin {
 
@@ -35,6 +36,74 @@ int refusal(const fs::path& path, const struct stat& old) {
 // Whether the old file may still take the bytes where a new one beside it could not.
 bool mayFitInPlace(int error) {
   return error == ENOSPC || error == EDQUOT;
+}
+
+int errorOf(int result) {
+  return result == 0 ? 0 : errno;
+}
+
+// Makes `kept` as long as the file, at most, and fills it with the file's first bytes.
+int keep(int descriptor, std::string& kept) {
+  std::size_t count = 0;
+  while (count < kept.size()) {
+    const ssize_t more = pread(descriptor, kept.data() + count, kept.size() - count, static_cast<off_t>(count));
+    if (more < 0 && errno != EINTR) return errno;
+    if (more == 0) break;
+    if (more > 0) count += static_cast<std::size_t>(more);
+  }
+  kept.resize(count);
+  return 0;
+}
+
+// Has the disk keep room for a file of so many bytes, so that nothing is overwritten in vain.
+int reserve(int descriptor, off_t oldSize, off_t size) {
+  if (size <= oldSize) return 0;
+  const int error = posix_fallocate(descriptor, oldSize, size - oldSize);
+  return error != 0 && ftruncate(descriptor, oldSize) != 0 ? errno : error;
+}
+
+struct WriteResult {
+  std::size_t count;  // of the bytes that are in the file now
+  int error;          // an error number, or 0
+};
+
+// Writes bytes at the beginning of an open file, as far as that works.
+WriteResult writeAll(int descriptor, std::string_view bytes) {
+  std::size_t count = 0;
+  while (count < bytes.size()) {
+    const ssize_t more = pwrite(descriptor, bytes.data() + count, bytes.size() - count, static_cast<off_t>(count));
+    if (more < 0 && errno != EINTR) return {count, errno};
+    if (more > 0) count += static_cast<std::size_t>(more);
+  }
+  return {count, 0};
+}
+
+struct OverwriteResult {
+  int error = 0;           // an error number, or 0
+  bool isDamaged = false;  // after an error: whether the old contents are lost
+};
+
+// Gives an open file other contents, and waits until they are on the disk. What that destroys is kept in memory until
+// then, and is put back after an error. The file has to be open for reading and writing.
+// The end of a longer file is cut off last, when nothing else can fail.
+OverwriteResult overwrite(int descriptor, std::string_view bytes) {
+  struct stat old {};
+  if (fstat(descriptor, &old) != 0) return {.error = errno};
+  std::string kept(bytes.size(), '\0');
+  if (const int error = keep(descriptor, kept); error != 0) return {.error = error};
+
+  if (const int error = reserve(descriptor, old.st_size, static_cast<off_t>(bytes.size())); error != 0)
+    return {.error = error};
+
+  auto [count, error] = writeAll(descriptor, bytes);
+  if (error == 0) error = errorOf(fsync(descriptor));
+  if (error == 0) error = errorOf(ftruncate(descriptor, static_cast<off_t>(bytes.size())));
+  if (error == 0) return {};
+
+  kept.resize(std::min(kept.size(), count));
+  const bool restored =
+      writeAll(descriptor, kept).error == 0 && ftruncate(descriptor, old.st_size) == 0 && fsync(descriptor) == 0;
+  return {.error = error, .isDamaged = !restored};
 }
 
 }  // namespace

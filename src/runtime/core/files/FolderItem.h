@@ -4,10 +4,16 @@
 
 #include "runtime/core/base/Ref.h"
 #include "runtime/core/files/BinaryStream.h"
-#include "runtime/core/files/TextOutputStream.h"
 #include "runtime/core/text/Text.h"
 
 namespace tavrelkin {
+
+// A text file that a FolderItem has made. It stays empty.
+class TextOutputStream : public Object {
+ public:
+  // Ends the use of the object.
+  void Close() {}
+};
 
 // The place of a file or a folder, whether there is one or not.
 class FolderItem : public Object {
@@ -45,5 +51,17 @@ class FolderItem : public Object {
  private:
   std::string path_;
 };
+
+// Lets the user choose a place and a name for a file in the desktop's dialog, which begins with `defaultName`. `filter`
+// says which files the dialog shows, as "Swatches (*.aco)"; empty for all of them. The name is as the user typed it,
+// and the user has agreed if there is such a file already. Nil where the user gives up. Not to be called from a thread.
+Ref<FolderItem> GetSaveFolderItem(const String& filter, const String& defaultName);
+
+namespace SpecialFolder {
+
+// The folder for the program's own files of this user, made where it is missing. Nil where the desktop has none.
+Ref<FolderItem> ApplicationData();
+
+}  // namespace SpecialFolder
 
 }  // namespace tavrelkin

@@ -30,3 +30,11 @@ bool RequestScreen(std::function<void(Color)> picked = {});
 bool AwaitScreen();
 
 }  // namespace tavrelkin::System
+
+namespace tavrelkin::Keyboard {
+
+// Whether the Option key is held down now. Alt is one, and so is AltGr, the level-3 shift: many window managers keep
+// Alt with a drag for themselves.
+bool AsyncOptionKey();
+
+}  // namespace tavrelkin::Keyboard

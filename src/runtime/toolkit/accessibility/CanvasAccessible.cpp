@@ -8,8 +8,8 @@
 #include "runtime/core/scheduling/Delivery.h"
 #include "runtime/toolkit/Canvas.h"
 #include "runtime/toolkit/Window.h"
+#include "runtime/toolkit/accessibility/Accessibility.h"
 #include "runtime/toolkit/accessibility/CellAccessible.h"
-#include "runtime/toolkit/accessibility/RestingAnnouncement.h"
 #include "runtime/toolkit/widgets/CanvasWidget.h"
 #include "runtime/toolkit/widgets/Convert.h"
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QKeySequence>
 #include <QString>
 
 #include "runtime/core/drawing/Color.h"
@@ -22,6 +23,14 @@ inline QString toDisplayText(const String& text) {
 
 inline QColor toQt(Color c) {
   return QColor::fromRgb(c.bits);
+}
+
+// The keys that a text such as "Cmd+Option+C" names on this platform. "Cmd" is the command key, which is Control where
+// there is no such key, and "Option" is Alt. An empty text gives no keys.
+inline QKeySequence toKeySequence(const String& shortcut) {
+  QString keys = toQt(shortcut);
+  keys.replace(QLatin1String("Cmd"), QLatin1String("Ctrl")).replace(QLatin1String("Option"), QLatin1String("Alt"));
+  return QKeySequence(keys, QKeySequence::PortableText);
 }
 
 }  // namespace tavrelkin

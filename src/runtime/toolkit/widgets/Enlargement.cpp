@@ -6,7 +6,7 @@
 
 #include <QPainter>
 
-#include "runtime/toolkit/widgets/FontPainter.h"
+#include "runtime/toolkit/widgets/Fonts.h"
 
 namespace tavrelkin {
 

@@ -6,7 +6,7 @@
 #include <QFontMetrics>
 #include <QPainter>
 
-#include "runtime/toolkit/accessibility/RestingAnnouncement.h"
+#include "runtime/toolkit/accessibility/Accessibility.h"
 
 namespace tavrelkin {
 

@@ -17,4 +17,17 @@ class PushButton : public RectControl {
   Event<void()> Action;
 };
 
+// The little arrow that unfolds a part of a window: it points to the right, and down while Value is true.
+// While it has the keyboard, the space bar and the Return key turn it.
+class DisclosureTriangle : public RectControl {
+ public:
+  DisclosureTriangle(Window& owner, String name);
+
+  // Writing it raises nothing.
+  Property<bool> Value;
+
+  // The user has turned the triangle; Value tells where it points now.
+  Event<void()> Action;
+};
+
 }  // namespace tavrelkin

@@ -6,6 +6,18 @@
 
 namespace tavrelkin {
 
+// A filled rectangle with a border: TopLeftColor on its upper and left edge, BottomRightColor on the other two.
+class Rectangle : public RectControl {
+ public:
+  Rectangle(Window& owner, String name);
+
+  Property<Color> FillColor;
+  Property<Color> TopLeftColor;
+  Property<Color> BottomRightColor;
+  // Pixels.
+  Property<Int32> BorderWidth;
+};
+
 // A straight line between two points of the window, both included. The points say where it is: Left, Top, Width and
 // Height follow from them. What lies outside of the window doesn't show.
 class Line : public RectControl {
