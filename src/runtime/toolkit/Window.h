@@ -28,8 +28,6 @@ struct WindowDesign {
   Int32 width = 0;
   Int32 height = 0;
   WindowFrame frame = WindowFrame::document;
-  bool closeButton = true;
-  bool minimizeButton = true;
   bool maximizeButton = false;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 #include "runtime/core/base/Number.h"
@@ -27,9 +28,7 @@ constexpr Color kWhite{0xFFFFFF};
 
 // A colour from its channels. A channel outside 0 to 255 counts as the nearest of the two.
 constexpr Color RGB(Int32 red, Int32 green, Int32 blue) {
-  constexpr auto channel = [](Int32 value) {
-    return static_cast<std::uint32_t>(value < 0 ? 0 : value > 255 ? 255 : value);
-  };
+  constexpr auto channel = [](Int32 value) { return static_cast<std::uint32_t>(std::clamp(value, 0, 255)); };
   return Color{channel(red) << 16 | channel(green) << 8 | channel(blue)};
 }
 

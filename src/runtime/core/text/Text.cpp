@@ -34,12 +34,18 @@ bool isForbidden(unsigned lead, unsigned second) {
          (lead == 0xF4 && second > 0x8F);
 }
 
-// The bytes of the character that a text, not empty, begins with.
+// The length in bytes of a sequence, by its first byte, which is 0xC2 to 0xF4.
+std::size_t sequenceSize(unsigned lead) {
+  if (lead < 0xE0) return 2;
+  return lead < 0xF0 ? 3 : 4;
+}
+
+// The length in bytes of the first character of a text that is not empty.
 std::size_t characterSize(std::string_view text) {
   const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   const unsigned lead = byte(0);
   if (lead < 0xC2 || lead > 0xF4) return 1;
-  const std::size_t size = lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+  const std::size_t size = sequenceSize(lead);
   if (size > text.size() || isForbidden(lead, byte(1))) return 1;
   for (std::size_t i = 1; i < size; ++i) {
     if ((byte(i) & 0xC0) != 0x80) return 1;

@@ -84,9 +84,9 @@ QAccessible::State CanvasAccessible::state() const {
 
 QString CanvasAccessible::text(QAccessible::Text kind) const {
   if (const Accessible* described = this->described()) {
-    const String own = kind == QAccessible::Name          ? described->name()
-                       : kind == QAccessible::Description ? described->description()
-                                                          : String();
+    String own;
+    if (kind == QAccessible::Name) own = described->name();
+    if (kind == QAccessible::Description) own = described->description();
     if (!own.empty()) return toQt(own);
   }
   return QAccessibleWidget::text(kind);

@@ -10,6 +10,21 @@
 
 namespace tavrelkin {
 
+namespace {
+
+Qt::Alignment toQt(TextAlignment where) {
+  switch (where) {
+    case TextAlignment::centred:
+      return Qt::AlignHCenter;
+    case TextAlignment::right:
+      return Qt::AlignRight;
+    default:
+      return Qt::AlignLeft;
+  }
+}
+
+}  // namespace
+
 void TextLabel::setLines(const QString& lines) {
   if (lines == text_) return;
   text_ = lines;
@@ -34,9 +49,7 @@ void TextLabel::setTextColor(const QColor& c) {
 }
 
 void TextLabel::align(TextAlignment where) {
-  across_ = where == TextAlignment::left      ? Qt::AlignLeft
-            : where == TextAlignment::centred ? Qt::AlignHCenter
-                                              : Qt::AlignRight;
+  across_ = toQt(where);
   update();
 }
 

@@ -24,9 +24,8 @@ namespace {
 
 Qt::WindowFlags flagsOf(const WindowDesign& design) {
   Qt::WindowFlags flags = design.frame == WindowFrame::movableModal ? Qt::Dialog : Qt::Window;
-  flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
-  flags.setFlag(Qt::WindowCloseButtonHint, design.closeButton);
-  flags.setFlag(Qt::WindowMinimizeButtonHint, design.minimizeButton);
+  flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
+           Qt::WindowMinimizeButtonHint;
   flags.setFlag(Qt::WindowMaximizeButtonHint, design.maximizeButton);
   return flags;
 }
