@@ -28,8 +28,8 @@ class ReturnKey : public QObject {
   }
 };
 
-// Has the Return and the Enter key press the button while it has the keyboard, as the space bar does.
-// Of a key that is held, HeldKeys leaves one press.
+// Makes Return and Enter press the button while it has the keyboard focus, as the space bar does. HeldKeys drops the
+// auto-repeats of a held key.
 void pressByReturn(QAbstractButton& button) {
   button.installEventFilter(new ReturnKey(&button));
 }

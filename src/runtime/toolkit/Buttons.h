@@ -6,7 +6,7 @@
 
 namespace tavrelkin {
 
-// A button with a caption. While it has the keyboard, the space bar and the Return key press it.
+// A button with a caption. While it has the keyboard focus, the space bar, Return and Enter press it.
 class PushButton : public RectControl {
  public:
   PushButton(Window& owner, String name);
@@ -17,16 +17,16 @@ class PushButton : public RectControl {
   Event<void()> Action;
 };
 
-// The little arrow that unfolds a part of a window: it points to the right, and down while Value is true.
-// While it has the keyboard, the space bar and the Return key turn it.
+// A small arrow that unfolds a part of a window. It points down while Value is true, else to the right. While it has
+// the keyboard focus, the space bar, Return and Enter turn it.
 class DisclosureTriangle : public RectControl {
  public:
   DisclosureTriangle(Window& owner, String name);
 
-  // Writing it raises nothing.
+  // Writing it raises no event.
   Property<bool> Value;
 
-  // The user has turned the triangle; Value tells where it points now.
+  // The user has turned the triangle. Value is already the new one.
   Event<void()> Action;
 };
 

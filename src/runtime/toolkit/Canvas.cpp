@@ -44,7 +44,7 @@ void Canvas::paintAfresh() {
   deliver(ownerWindow(), [this] { Event_Paint(graphics_); });
 }
 
-// A canvas that doesn't show yet takes its backdrop along when it is painted first.
+// A canvas that is not visible yet draws its backdrop when it is first painted.
 void Canvas::backdropChanged() {
   if (shown_) Refresh(false);
 }
@@ -57,7 +57,7 @@ void Canvas::resized() {
   widget().showSoon();
 }
 
-// The widget stays enabled, since a disabled one would take no drop.
+// The widget stays enabled, since a disabled widget gets no drops.
 void Canvas::enabledChanged() {
   applyFocusPolicy();
   if (!Enabled) native().clearFocus();

@@ -80,7 +80,7 @@ void Line::followPoints() {
   native().update();
 }
 
-// A level line has no height, yet needs room to show.
+// The widget of a horizontal or vertical line still needs room for the width of the line.
 void Line::resized() {
   native().resize(Width + BorderWidth, Height + BorderWidth);
 }

@@ -6,7 +6,7 @@
 
 namespace tavrelkin {
 
-// A filled rectangle with a border: TopLeftColor on its upper and left edge, BottomRightColor on the other two.
+// A filled rectangle with a border: TopLeftColor at the top and left, BottomRightColor at the bottom and right.
 class Rectangle : public RectControl {
  public:
   Rectangle(Window& owner, String name);
@@ -14,12 +14,12 @@ class Rectangle : public RectControl {
   Property<Color> FillColor;
   Property<Color> TopLeftColor;
   Property<Color> BottomRightColor;
-  // Pixels.
+  // The width of the border in pixels.
   Property<Int32> BorderWidth;
 };
 
-// A straight line between two points of the window, both included. The points say where it is: Left, Top, Width and
-// Height follow from them. What lies outside of the window doesn't show.
+// A straight line between two points of the window, both included, in pixels of the content. Writing a point sets Left,
+// Top, Width and Height. The line is clipped to the window.
 class Line : public RectControl {
  public:
   Line(Window& owner, String name);
@@ -28,11 +28,11 @@ class Line : public RectControl {
   Property<Int32> Y1;
   Property<Int32> X2;
   Property<Int32> Y2;
-  // Pixels, to the right of and below the points.
+  // The width of the line in pixels. It extends to the right of the points and below them.
   Property<Int32> BorderWidth;
   Property<Color> LineColor;
 
-  // Sets both points in one go.
+  // Sets both points at once.
   void setPoints(Int32 x1, Int32 y1, Int32 x2, Int32 y2);
 
  protected:

@@ -7,8 +7,8 @@
 
 namespace tavrelkin {
 
-// The pixels of a picture, to be read one by one without the cost of a drawing. It shows what the picture holds at the
-// moment of each read, whatever the picture's mask says, and must not outlive it.
+// Reads the pixels of a picture one by one. Each read gives the present pixel, without the mask. Must not outlive the
+// picture.
 class RGBSurface {
  public:
   explicit RGBSurface(const Surface& surface) : surface_(&surface) {}
@@ -20,28 +20,28 @@ class RGBSurface {
   const Surface* surface_;
 };
 
-// A bitmap in memory. A new one is white all over.
+// A bitmap in memory. A new picture is white.
 class Picture : public Object {
  public:
-  // Use NewPicture, which looks at the arguments.
+  // Use NewPicture, which checks the arguments.
   Picture(Int32 width, Int32 height, Int32 depth);
 
   Int32 Width() const { return surface_.width(); }
   Int32 Height() const { return surface_.height(); }
 
-  // Bits a pixel, as asked for. The pixels are held in 32 bits at any depth.
+  // The bits per pixel that were asked for. The pixels have 32 bits at any depth.
   Int32 Depth() const { return depth_; }
 
   tavrelkin::Graphics& Graphics() { return graphics_; }
 
-  // The pixels for reading; of use as long as the picture lives.
+  // The pixels, for reading. Valid while the picture lives.
   tavrelkin::RGBSurface RGBSurface() const { return tavrelkin::RGBSurface(surface_); }
 
-  // The mask as a picture of the same size: white is transparent, black opaque. Where there is none yet, a white one is
-  // made if `create` says so, else the result is nil.
+  // The mask, a picture of the same size: white is transparent, black opaque. If the picture has no mask, `create`
+  // makes a white one; without `create` the result is nil.
   Ref<Picture> Mask(bool create);
 
-  // For drawing one surface on another. The mask's surface is null where there is no mask.
+  // For drawing one surface on another. maskSurface() is null if the picture has no mask.
   const Surface& surface() const { return surface_; }
   const Surface* maskSurface() const { return mask_ ? &mask_->surface_ : nullptr; }
 
@@ -52,7 +52,7 @@ class Picture : public Object {
   Ref<Picture> mask_;
 };
 
-// A new picture. Nil where a size is below 1 or above 32767 pixels. Any depth will do.
+// Makes a picture, sizes in pixels. Nil if a size is below 1 or above 32767. Any depth is accepted.
 Ref<Picture> NewPicture(Int32 width, Int32 height, Int32 depth);
 
 }  // namespace tavrelkin

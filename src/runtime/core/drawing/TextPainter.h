@@ -17,7 +17,7 @@ struct DrawnText {
   Color color;
 };
 
-// Draws texts on surfaces. The core has no fonts, so the toolkit installs the painter.
+// Draws texts on surfaces. The core has no fonts, so the toolkit installs a painter.
 class TextPainter {
  public:
   TextPainter() = default;
@@ -25,14 +25,14 @@ class TextPainter {
   TextPainter& operator=(const TextPainter&) = delete;
   virtual ~TextPainter() = default;
 
-  // How far texts of a size, in pixels, reach above their baseline.
+  // How many pixels texts reach above their baseline. `size` is their height in pixels.
   virtual Int32 ascent(Int32 size) const = 0;
 
   // Draws the text, clipped to the surface. The surface must have at least one pixel.
   virtual void draw(const DrawnText& text, Surface& surface) const = 0;
 };
 
-// The painter in use. It must be installed before any text is drawn or measured.
+// The installed painter. A painter must be installed before any text is drawn or measured.
 const TextPainter& textPainter();
 void installTextPainter(std::unique_ptr<TextPainter> painter);
 

@@ -18,7 +18,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The file that a name stands for in the end, which may be missing. A ring of links stays a link.
+// Follows symbolic links to the file, which may be missing. A cycle of links gives one of its links.
 fs::path behindLinks(fs::path path) {
   constexpr int kMostLinks = 40;
   std::error_code failed;
@@ -27,13 +27,13 @@ fs::path behindLinks(fs::path path) {
   return path;
 }
 
-// Why the file with this state may not be written, as an error number, or 0.
+// An error number if the file with this state may not be written, or 0.
 int refusal(const fs::path& path, const struct stat& old) {
   if (!S_ISREG(old.st_mode)) return EISDIR;
   return faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) == 0 ? 0 : errno;
 }
 
-// Whether the old file may still take the bytes where a new one beside it could not.
+// Whether the bytes may still fit into the old file after this error for a new file.
 bool mayFitInPlace(int error) {
   return error == ENOSPC || error == EDQUOT;
 }
@@ -42,7 +42,7 @@ int errorOf(int result) {
   return result == 0 ? 0 : errno;
 }
 
-// Makes `kept` as long as the file, at most, and fills it with the file's first bytes.
+// Fills `kept` with the file's first bytes. Shortens it if the file is shorter. Returns an error number, or 0.
 int keep(int descriptor, std::string& kept) {
   std::size_t count = 0;
   while (count < kept.size()) {
@@ -55,7 +55,8 @@ int keep(int descriptor, std::string& kept) {
   return 0;
 }
 
-// Has the disk keep room for a file of so many bytes, so that nothing is overwritten in vain.
+// Reserves disk space for a file of `size` bytes, so that a full disk fails before anything is overwritten. Returns an
+// error number, or 0.
 int reserve(int descriptor, off_t oldSize, off_t size) {
   if (size <= oldSize) return 0;
   const int error = posix_fallocate(descriptor, oldSize, size - oldSize);
@@ -63,11 +64,11 @@ int reserve(int descriptor, off_t oldSize, off_t size) {
 }
 
 struct WriteResult {
-  std::size_t count;  // of the bytes that are in the file now
+  std::size_t count;  // the number of bytes written
   int error;          // an error number, or 0
 };
 
-// Writes bytes at the beginning of an open file, as far as that works.
+// Writes bytes at the beginning of an open file, until an error.
 WriteResult writeAll(int descriptor, std::string_view bytes) {
   std::size_t count = 0;
   while (count < bytes.size()) {
@@ -80,12 +81,12 @@ WriteResult writeAll(int descriptor, std::string_view bytes) {
 
 struct OverwriteResult {
   int error = 0;           // an error number, or 0
-  bool isDamaged = false;  // after an error: whether the old contents are lost
+  bool isDamaged = false;  // whether the old contents are lost; only after an error
 };
 
-// Gives an open file other contents, and waits until they are on the disk. What that destroys is kept in memory until
-// then, and is put back after an error. The file has to be open for reading and writing.
-// The end of a longer file is cut off last, when nothing else can fail.
+// Replaces the contents of a file that is open for reading and writing, and waits until they are on the disk. The bytes
+// that are overwritten are kept in memory, and are written back after an error. The file is truncated last, when
+// nothing else can fail.
 OverwriteResult overwrite(int descriptor, std::string_view bytes) {
   struct stat old {};
   if (fstat(descriptor, &old) != 0) return {.error = errno};
@@ -132,8 +133,8 @@ void FileReplacement::discard() {
   temporary_.clear();
 }
 
-// The name is a short one of its own, since the target's may be as long as names can be. Left-overs of a program that
-// crashed are passed over.
+// The name doesn't contain the target's name, which may already have the greatest length. The number skips files that a
+// crashed program has left.
 void FileReplacement::openBeside() {
   constexpr int kMostTries = 1000;
   const std::string stem = ".tavrelkin-" + std::to_string(getpid()) + "-";
@@ -157,7 +158,8 @@ bool FileReplacement::commit(std::string_view bytes) {
   return error_ == 0;
 }
 
-// The old file is left open for writing where that may still do: a folder can allow new files and no replacements.
+// If this fails, the old file is opened for writing in place, if that may still work. A folder can allow new files but
+// no replacements.
 void FileReplacement::replaceWhole(std::string_view bytes) {
   error_ = writeAll(descriptor_, bytes).error;
   if (close(std::exchange(descriptor_, -1)) != 0 && error_ == 0) error_ = errno;

@@ -5,11 +5,11 @@
 
 namespace tavrelkin {
 
-// Shows a message with an OK button; returns when the user has closed it. Not to be called from a thread.
+// Shows a message with an OK button. Returns when the user has closed it. Must not be called from a thread.
 void MsgBox(const String& text);
 
-// Lets the user choose a colour in the desktop's dialog, which begins at `c`. True where the user accepts, and only
-// then is `c` written. Not to be called from a thread.
+// Lets the user choose a colour in the desktop's dialog, which begins with `c` and shows `prompt` as its title. True if
+// the user accepts; `c` is then the chosen colour, and else unchanged. Must not be called from a thread.
 bool SelectColor(Color& c, const String& prompt);
 
 }  // namespace tavrelkin

@@ -28,7 +28,7 @@ Int32 asCount(std::size_t count) {
   return static_cast<Int32>(std::min<std::size_t>(count, std::numeric_limits<Int32>::max()));
 }
 
-// Sequences that have the right form, but are too long for what they encode, or encode no character.
+// Whether a sequence of the right form is still not valid: overlong, a surrogate, or above U+10FFFF.
 bool isForbidden(unsigned lead, unsigned second) {
   return (lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F) || (lead == 0xF0 && second < 0x90) ||
          (lead == 0xF4 && second > 0x8F);
@@ -53,7 +53,7 @@ std::size_t characterSize(std::string_view text) {
   return size;
 }
 
-// The place, in bytes, so many characters after another, or the end of the text.
+// The offset in bytes that is a number of characters after `from`, or the end of the text.
 std::size_t skip(std::string_view text, std::size_t from, std::size_t characters) {
   std::size_t at = from;
   for (std::size_t i = 0; i < characters && at < text.size(); ++i)
@@ -68,7 +68,7 @@ std::size_t countCharacters(std::string_view text) {
   return count;
 }
 
-// The place, in bytes, of the first `find` at or after another, or npos. It begins a character.
+// The offset in bytes of the first `find` at or after `from`, or npos. Only offsets where a character begins count.
 std::size_t findFrom(std::string_view text, std::string_view find, std::size_t from) {
   if (find.empty()) return std::string_view::npos;
   for (std::size_t at = from; at < text.size(); at += characterSize(text.substr(at))) {
@@ -208,8 +208,8 @@ Double hexNumber(std::string_view text) {
   return value;
 }
 
-// For a decimal number that fits no Double: whether it is too large, and not too small. Its first digit that counts and
-// its exponent decide together, as either may be thousands of places long.
+// Whether a decimal number out of the range of a Double is too large; otherwise it is too small. The position of its
+// first significant digit has to be added to the exponent, since either may be in the thousands.
 bool isTooLarge(std::string_view number) {
   const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
   const std::size_t point = std::min(number.find('.'), mark);
@@ -220,7 +220,7 @@ bool isTooLarge(std::string_view number) {
 }
 
 Double decimalNumber(std::string_view text) {
-  // from_chars would read "inf" and "nan" too.
+  // Excludes "inf" and "nan", which from_chars accepts.
   const std::string_view digits = text.substr(text.starts_with('.') ? 1 : 0);
   if (digits.empty() || !isDigit(digits.front())) return 0;
   Double value = 0;

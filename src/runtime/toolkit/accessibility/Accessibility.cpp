@@ -15,7 +15,7 @@ namespace tavrelkin {
 
 namespace {
 
-// A label is called what it says, unless it has a name.
+// The accessible name of a label is its text, unless it has an AccessibleName.
 class LabelAccessible : public QAccessibleWidget {
  public:
   explicit LabelAccessible(TextLabel& label) : QAccessibleWidget(&label, QAccessible::StaticText) {}
@@ -30,7 +30,7 @@ QAccessible::Role roleOf(const WindowWidget& window) {
   return window.isDialog() ? QAccessible::Dialog : QAccessible::Window;
 }
 
-// The toolkit takes over what is made, and asks by the class that it knows best for each object.
+// The factory for Qt, which takes ownership. Null leaves the object to Qt's own factories.
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
   if (auto* canvas = dynamic_cast<CanvasWidget*>(object)) return new CanvasAccessible(*canvas);
   if (auto* label = dynamic_cast<TextLabel*>(object)) return new LabelAccessible(*label);

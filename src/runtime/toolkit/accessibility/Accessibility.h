@@ -6,11 +6,11 @@ class QWidget;
 
 namespace tavrelkin {
 
-// Has the toolkit ask the runtime for how windows, canvases and labels present themselves to assistive technologies.
+// Installs the runtime's accessible interfaces for windows, canvases and labels.
 void installAccessibility();
 
-// Has an announcement to assistive technologies wait until the widget has not changed for a moment, so that what
-// changes with each frame doesn't flood them. A later one replaces it, and it goes with the widget.
+// Calls `tell` when no further call for the widget has come for 200 ms. So changes with each frame don't flood
+// assistive technologies with announcements. A later call replaces `tell`; the destruction of the widget drops it.
 void announceAtRest(QWidget& widget, std::function<void()> tell);
 
 }  // namespace tavrelkin

@@ -16,7 +16,7 @@ inline String fromQt(const QString& text) {
   return text.toStdString();
 }
 
-// A text of several lines as the toolkit shows it; the program's own mark for a new line is "\r".
+// A text with Qt's line breaks in place of the program's, which are "\r".
 inline QString toDisplayText(const String& text) {
   return toQt(text).replace(QLatin1Char('\r'), QLatin1Char('\n'));
 }
@@ -25,8 +25,8 @@ inline QColor toQt(Color c) {
   return QColor::fromRgb(c.bits);
 }
 
-// The keys that a text such as "Cmd+Option+C" names on this platform. "Cmd" is the command key, which is Control where
-// there is no such key, and "Option" is Alt. An empty text gives no keys.
+// The keys of a shortcut such as "Cmd+Option+C". "Cmd" is Qt's Ctrl (the Command key where the platform has it),
+// "Option" is Alt. An empty text gives no keys.
 inline QKeySequence toKeySequence(const String& shortcut) {
   QString keys = toQt(shortcut);
   keys.replace(QLatin1String("Cmd"), QLatin1String("Ctrl")).replace(QLatin1String("Option"), QLatin1String("Alt"));

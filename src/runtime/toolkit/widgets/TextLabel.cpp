@@ -57,7 +57,7 @@ void TextLabel::fit() {
   constexpr int narrowest = 66;
   QFont fitted = base_;
   const auto wanted = [&] { return QFontMetrics(fitted).size(0, text_).width(); };
-  // Each character's width is rounded, so that the first stretch may not be narrow enough.
+  // Character widths are rounded, so the first stretch may still be too wide.
   int stretch = 100;
   for (int needs = wanted(); needs > width() && width() > 0 && stretch > narrowest; needs = wanted()) {
     stretch = std::max(narrowest, std::min(stretch - 1, stretch * width() / needs));
