@@ -14,7 +14,6 @@
 #include "runtime/toolkit/Window.h"
 #include "runtime/toolkit/widgets/Convert.h"
 #include "runtime/toolkit/widgets/Drags.h"
-#include "runtime/toolkit/widgets/Shortcut.h"
 #include "runtime/toolkit/widgets/WindowWidget.h"
 
 namespace tavrelkin::gesture {

@@ -4,7 +4,7 @@
 #include "color/zrColorLib.h"
 #include "favourites/frmFav.h"
 #include "menubar/MenuBar1.h"
-#include "runtime/core/files/SpecialFolder.h"
+#include "runtime/core/files/FolderItem.h"
 #include "simulator/frmColorBlind.h"
 #include "toolwindow/frmVesk.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "runtime/toolkit/PushButton.h"
+#include "runtime/toolkit/Buttons.h"
 #include "runtime/toolkit/StaticText.h"
 #include "runtime/toolkit/Window.h"
 

@@ -4,7 +4,7 @@
 
 #include "controls/Accessibles.h"
 #include "controls/ColorDrag.h"
-#include "runtime/core/system/Keyboard.h"
+#include "runtime/core/system/System.h"
 
 namespace tavrelkin {
 

@@ -4,7 +4,7 @@
 
 #include "color/zrColorLib.h"
 #include "controls/ColorDrag.h"
-#include "runtime/toolkit/SelectColor.h"
+#include "runtime/core/system/Dialogs.h"
 #include "runtime/toolkit/ThemeColors.h"
 
 namespace tavrelkin {

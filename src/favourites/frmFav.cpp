@@ -3,8 +3,8 @@
 #include "color/zrColorLib.h"
 #include "controls/ColorDrag.h"
 #include "menubar/MenuBar1.h"
-#include "runtime/core/files/GetSaveFolderItem.h"
-#include "runtime/core/system/MsgBox.h"
+#include "runtime/core/files/FolderItem.h"
+#include "runtime/core/system/Dialogs.h"
 #include "runtime/toolkit/Clipboard.h"
 
 namespace tavrelkin {

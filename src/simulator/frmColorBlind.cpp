@@ -4,7 +4,7 @@
 #include "color/zrXYZ.h"
 #include "controls/ColorDrag.h"
 #include "menubar/MenuBar1.h"
-#include "runtime/core/system/MsgBox.h"
+#include "runtime/core/system/Dialogs.h"
 #include "runtime/toolkit/Application.h"
 
 namespace tavrelkin {

@@ -4,10 +4,9 @@
 #include <optional>
 
 #include "controls/zrColorBox.h"
-#include "runtime/toolkit/Line.h"
+#include "runtime/toolkit/Buttons.h"
 #include "runtime/toolkit/PopupMenu.h"
-#include "runtime/toolkit/PushButton.h"
-#include "runtime/toolkit/Rectangle.h"
+#include "runtime/toolkit/Shapes.h"
 #include "runtime/toolkit/StaticText.h"
 #include "runtime/toolkit/TextField.h"
 #include "runtime/toolkit/Window.h"

@@ -5,7 +5,7 @@
 
 #include "runtime/core/base/Exceptions.h"
 #include "runtime/core/files/FolderItem.h"
-#include "runtime/core/system/MsgBox.h"
+#include "runtime/core/system/Dialogs.h"
 
 namespace tavrelkin {
 

@@ -5,7 +5,7 @@
 #include "runtime/core/concurrency/RuntimeBackgroundTask.h"
 #include "runtime/core/drawing/Graphics.h"
 #include "runtime/core/drawing/Picture.h"
-#include "runtime/core/system/MsgBox.h"
+#include "runtime/core/system/Dialogs.h"
 
 namespace tavrelkin {
 

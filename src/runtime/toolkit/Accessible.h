@@ -5,23 +5,24 @@
 
 namespace tavrelkin {
 
-// What a canvas is to those who don't see what it draws: a slider over whole numbers, a button, a picture, a list. The
-// cells of a list can be selected, those of a picture pressed.
+// What a canvas is to assistive technologies. A slider has whole numbers. The cells of a list can be selected, those of
+// a picture can be pressed.
 enum class AccessibleRole { slider, button, picture, list };
 
-// What has changed in what a canvas says of itself. Descriptions and cells are told of when they have come to rest.
+// The part of an Accessible that has changed. Changes of descriptions and cells are announced when no more follow for a
+// moment.
 enum class AccessibleChange { value, description, currentCell, cells };
 
-// How a canvas presents itself to assistive technologies. They ask while they are at work; without them nothing here is
-// called. What they do counts as the user's gesture, and raises what a key would.
+// How a canvas presents itself to assistive technologies. Nothing here is called while none of them runs. What they do
+// counts as the user's gesture, and raises the same events as a key.
 class Accessible {
  public:
-  // A part of the canvas that stands for itself; its place is in the canvas's pixels.
+  // A part of the canvas with a name of its own. Its rectangle is in the canvas's pixels.
   struct Cell {
     String name;
     Int32 left = 0, top = 0, width = 0, height = 0;
   };
-  // What a slider stands at, and its bounds.
+  // The value of a slider, and its bounds, both included.
   struct Range {
     Int32 value = 0, least = 0, most = 0;
   };
@@ -30,21 +31,21 @@ class Accessible {
 
   virtual AccessibleRole role() const = 0;
 
-  // Where they are empty, the control's AccessibleName and HelpTag are told.
+  // If empty, the control's AccessibleName and HelpTag are used.
   virtual String name() const { return {}; }
   virtual String description() const { return {}; }
 
   virtual Range range() const { return {}; }
-  // `value` is within the range.
+  // Sets a slider's value, which is within the range.
   virtual void setValue(Int32 /*value*/) {}
 
   virtual bool canBePressed() const { return role() == AccessibleRole::button; }
   virtual void press() {}
 
-  // Cells count from 0; the operations on one are called for existing cells only.
+  // Cells are counted from 0. Operations with an index are called for existing cells only.
   virtual Int32 cellCount() const { return 0; }
   virtual Cell cell(Int32 /*index*/) const { return {}; }
-  // The cell that the keyboard is at, which in a list is the selected one; -1 for none.
+  // The cell with the keyboard focus, which is the selected cell of a list; -1 if there is none.
   virtual Int32 currentCell() const { return -1; }
   virtual void pressCell(Int32 /*index*/) {}
 };

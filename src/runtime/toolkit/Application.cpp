@@ -15,7 +15,7 @@ namespace {
 
 Application* instance = nullptr;
 
-// Where a menu bar stands outside the windows, a program without a window can still be reached.
+// With a menu bar outside of the windows, the user can use a program that has no window.
 #ifdef Q_OS_MACOS
 constexpr bool kStaysWithoutWindow = true;
 #else
@@ -42,7 +42,7 @@ Application& Application::current() {
   return *instance;
 }
 
-// Qt closes all windows first. It does not quit where a window refuses.
+// Qt closes all windows first. It does not quit if a window refuses to close, as a blocked window does.
 void Application::Quit() {
   unblockAll();
   QCoreApplication::quit();
@@ -97,7 +97,7 @@ void Application::windowClosed(Window& window) {
   std::erase_if(defaults_, [&](const auto& entry) { return entry.second == &window; });
   std::erase(openWindows_, Ref<Window>(&window));
   enableMenuItems();
-  // A copy, since one may come to the front.
+  // Loops over a copy: unblock() may bring a window to the front, which changes the list.
   for (const Ref<Window>& other : std::vector(openWindows_))
     if (other->blocker() == &window) other->unblock();
   if (openWindows_.empty() && !kStaysWithoutWindow) {

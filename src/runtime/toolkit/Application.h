@@ -24,37 +24,39 @@ class Application : public Object {
 
   Property<Ref<tavrelkin::MenuBar>> MenuBar;
 
-  // Registers the handlers of the application's commands; called once, at the start.
+  // Registers the handlers of the application's commands. Called once, at the start.
   virtual void AddMenuHandlers() {}
 
-  // Makes the first window; called once, before the event loop.
+  // Makes the first window. Called once, before the event loop.
   virtual void MakeDefaultView() {}
 
-  // Raised once the event loop runs.
+  // Called once, when the event loop runs.
   virtual void Event_Open() {}
 
-  // Ends the program, without a question. Windows that are open just go, also those that a modal one blocks.
+  // Ends the program without asking the user. All open windows close, also those that a modal window blocks.
   void Quit();
 
-  // A menu command: the front window's handler goes first, then the application's. False where neither has handled it.
+  // Runs the command of a menu item: the handler of the front window, and if that returns false, the handler of the
+  // application. False if neither has handled the command.
   bool dispatch(const String& itemName);
 
-  // Enables each item of the menu bar that somebody answers, and disables the others.
+  // Enables each AutoEnable item of the menu bar whose command can be handled, and disables the others.
   void enableMenuItems();
 
-  // The window that commands go to, or null: the open one that was last in front, also while another program is.
+  // The window that gets the commands: the open window that was last in front, even while another program is in front.
+  // Null if no window is open.
   Window* frontWindow() const { return openWindows_.empty() ? nullptr : openWindows_.back().get(); }
 
-  // The open windows, the front one last.
+  // The open windows from back to front.
   const std::vector<Ref<Window>>& openWindows() const { return openWindows_; }
 
-  // The live default window of a class, or null. A default that is closed is forgotten.
+  // The open default window of a class, or null.
   template <class W>
   Ref<W> defaultWindow() const {
     const auto found = defaults_.find(typeid(W));
     return found == defaults_.end() ? Ref<W>() : Ref<W>(static_cast<W*>(found->second));
   }
-  // The default window of a class. Makes and shows one if it has been closed.
+  // The default window of a class. Makes and shows a new window if none is open.
   template <class W>
   Ref<W> defaultWindowOrNew() {
     if (Ref<W> live = defaultWindow<W>()) return live;
@@ -64,7 +66,7 @@ class Application : public Object {
     return made;
   }
 
-  // For windows: one is shown, comes to the front, or goes.
+  // Called by a window when it is shown, comes to the front or is closed.
   void windowShown(Window& window);
   void windowInFront(Window& window);
   void windowClosed(Window& window);

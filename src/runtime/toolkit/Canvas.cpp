@@ -17,6 +17,7 @@ Canvas::Canvas(Window& owner, String name)
     : RectControl(owner, std::move(name), new CanvasWidget(*this)),
       Backdrop(nullptr, [this](const Ref<Picture>&) { backdropChanged(); }),
       surface_(0, 0, kWhite),
+      ground_(0, 0, kWhite),
       graphics_(surface_, this) {}
 
 Canvas::~Canvas() {
@@ -37,12 +38,13 @@ void Canvas::Refresh(bool now) {
 }
 
 void Canvas::paintAfresh() {
+  texts_.clear();
   surface_.fill(ownerWindow().BackColor);
   if (Backdrop.get()) tavrelkin::Graphics(surface_).DrawPicture(*Backdrop.get(), 0, 0);
   deliver(ownerWindow(), [this] { Event_Paint(graphics_); });
 }
 
-// A canvas that doesn't show yet takes its backdrop along when it is painted first.
+// A canvas that is not visible yet draws its backdrop when it is first painted.
 void Canvas::backdropChanged() {
   if (shown_) Refresh(false);
 }
@@ -55,7 +57,7 @@ void Canvas::resized() {
   widget().showSoon();
 }
 
-// The widget stays enabled, since a disabled one would take no drop.
+// The widget stays enabled, since a disabled widget gets no drops.
 void Canvas::enabledChanged() {
   applyFocusPolicy();
   if (!Enabled) native().clearFocus();
@@ -66,14 +68,20 @@ void Canvas::announce(AccessibleChange change) {
   CanvasAccessible::announce(widget(), change);
 }
 
-void Canvas::drawn() {
-  Scheduler::instance().canvasDrawn();
-  widget().showSoon();
+void Canvas::willDraw() {
+  texts_.clear();
+  surfaceChanges();
 }
 
-void Canvas::textDrawn(DrawnText text) {
-  std::erase_if(texts_, [&](const DrawnText& other) { return other.place.meets(text.place); });
-  texts_.push_back(std::move(text));
+void Canvas::willDrawText(const DrawnText& text) {
+  if (texts_.empty()) ground_ = surface_;
+  texts_.push_back(text);
+  surfaceChanges();
+}
+
+void Canvas::surfaceChanges() {
+  Scheduler::instance().canvasDrawn();
+  widget().showSoon();
 }
 
 }  // namespace tavrelkin

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "runtime/core/base/Event.h"
-#include "runtime/core/drawing/DrawnText.h"
 #include "runtime/core/drawing/Graphics.h"
+#include "runtime/core/drawing/TextPainter.h"
 #include "runtime/toolkit/Accessible.h"
 #include "runtime/toolkit/RectControl.h"
 
@@ -35,8 +35,8 @@ class Canvas : public RectControl, private DrawingObserver {
   Canvas(Window& owner, String name);
   ~Canvas() override;
 
-  // A picture behind the drawing, at the top left corner, in its own size, through its mask. Nil at first. A new one
-  // shows at once.
+  // A picture behind the drawing, at the top left corner, in its own size, drawn through its mask. Nil at first. A
+  // write refreshes the canvas.
   Property<Ref<Picture>> Backdrop;
 
   // Whether MouseDrag and MouseMove come again, with the same place, when the screen changes while the button is held
@@ -44,17 +44,17 @@ class Canvas : public RectControl, private DrawingObserver {
   // Without effect where the desktop delivers both at once.
   bool FollowsScreen = false;
 
-  // Draws straight on the control, also outside a paint event; reading a pixel gives what was drawn.
+  // For drawing on the surface at any time. Reading a pixel gives what was drawn.
   tavrelkin::Graphics& Graphics() { return graphics_; }
 
-  // Erases the surface down to the backdrop and raises Paint at once; `now` also has it on the screen before this
-  // returns.
+  // Erases the surface, draws the backdrop and raises Paint. `now` shows the result on the screen before this returns;
+  // otherwise the event loop shows it.
   void Refresh(bool now) override;
 
-  // How the canvas presents itself to assistive technologies. A picture without cells at first.
+  // Sets how the canvas presents itself to assistive technologies. At first it is a picture without cells.
   void describe(std::unique_ptr<Accessible> as) { accessible_ = std::move(as); }
   Accessible* accessible() const { return accessible_.get(); }
-  // Tells them of a change, if there are any.
+  // Announces a change to the assistive technologies that run.
   void announce(AccessibleChange change);
 
   // The events, for the host. x and y are in pixels from the canvas's top left corner; during a drag they may lie
@@ -75,7 +75,7 @@ class Canvas : public RectControl, private DrawingObserver {
   Event<bool(const String& key)> KeyDown;
   Event<void(const Ref<DragItem>& item, Int32 action)> DropObject;
 
-  // The same events, for a class of canvas. The base versions hand them to the host.
+  // The same events, for a subclass. The base versions raise the events above.
   void Event_Open() override { Open(); }
   virtual void Event_Paint(tavrelkin::Graphics& g) { Paint(&g); }
   virtual bool Event_MouseDown(Int32 x, Int32 y) { return MouseDown(x, y); }
@@ -94,16 +94,18 @@ class Canvas : public RectControl, private DrawingObserver {
  private:
   friend class CanvasWidget;
 
-  void drawn() override;
-  void textDrawn(DrawnText text) override;
+  void willDraw() override;
+  void willDrawText(const DrawnText& text) override;
+  void surfaceChanges();
   void paintAfresh();
   void backdropChanged();
 
   CanvasWidget& widget() const;
 
   Surface surface_;
-  // Those that may still be whole; no two of them meet.
+  // The texts drawn since the last drawing of another kind, and the surface as it was before them.
   std::vector<DrawnText> texts_;
+  Surface ground_;
   tavrelkin::Graphics graphics_;
   std::unique_ptr<Accessible> accessible_;
   bool shown_ = false;

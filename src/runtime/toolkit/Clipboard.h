@@ -11,10 +11,10 @@ class Clipboard {
   // it is longer than 1 MiB.
   String Text() const;
 
-  // Replaces what is on the clipboard by a text.
+  // Replaces the contents of the clipboard by a text.
   void SetText(const String& text);
 
-  // Ends the use of the object; the text stays on the clipboard.
+  // Ends the use of the object. The text stays on the clipboard.
   void Close() {}
 };
 

@@ -9,7 +9,6 @@
 #include "runtime/core/scheduling/Delivery.h"
 #include "runtime/toolkit/Application.h"
 #include "runtime/toolkit/widgets/Convert.h"
-#include "runtime/toolkit/widgets/Shortcut.h"
 
 namespace tavrelkin {
 
@@ -58,8 +57,8 @@ void MenuItem::chosen() {
   Application::current().dispatch(name_);
 }
 
-// The toolkit turns a check mark over by itself when the item is chosen; the mark is the program's. It also draws an
-// empty box for an item that is checkable and not checked.
+// Qt toggles the check mark of a checkable item when the user chooses it, but only the program may change the mark. Qt
+// also draws an empty box for an item that is checkable but not checked, so an item is checkable only while checked.
 void MenuItem::applyChecked() {
   action_->setCheckable(Checked);
   action_->setChecked(Checked);

@@ -14,12 +14,12 @@ class QWidget;
 
 namespace tavrelkin {
 
-// A command, a separator, or a menu with items of its own. Shown in every window that has its menu bar: a check mark or
-// a disabled look is the same in all of them.
+// A command, a separator, or a menu with items. It appears in every window that has its menu bar, with the same check
+// mark and the same enabled state.
 class MenuItem : public Object {
  public:
-  // A "&" in the text marks the key that follows as the one that chooses the item in an open menu; "-" makes a
-  // separator. A shortcut names its keys as in "Cmd+Shift+N" or is empty.
+  // The character after "&" in the text is the key that chooses the item in an open menu. The text "-" makes a
+  // separator. A shortcut is written like "Cmd+Shift+N"; empty means no shortcut.
   MenuItem(String name, String text, String shortcut = {});
   ~MenuItem() override;
 
@@ -27,28 +27,29 @@ class MenuItem : public Object {
   const String& Text() const { return text_; }
   const String& KeyboardShortcut() const { return shortcut_; }
 
-  // Whether the runtime enables the item by its handlers.
+  // Whether the runtime enables the item if it has a handler, and disables it otherwise.
   bool AutoEnable = true;
 
   Property<bool> Enabled;
   Property<bool> Checked;
 
-  // Adds an item to the end of this one's menu.
+  // Adds an item to the end of this item's menu.
   void Append(const Ref<MenuItem>& item);
   const std::vector<Ref<MenuItem>>& items() const { return items_; }
   bool isSeparator() const { return text_ == "-"; }
 
-  // Whether the platform itself answers the item, so that it needs no handler.
+  // Whether the runtime runs the command itself, so that the item needs no handler.
   virtual bool answersItself() const { return false; }
 
-  // For the menu bar: enters the item's menu, or has the shortcuts of the item and of those below it act in a window.
+  // For the menu bar: adds this item's menu to a bar; makes the shortcuts of this item and of its menu work in a
+  // window.
   void attachTo(QMenuBar& bar) const;
   void attachKeysTo(QWidget& window) const;
 
  protected:
   QAction& action() const { return *action_; }
 
-  // The user chose the item. The base version dispatches it as a command.
+  // Called when the user has chosen the item. The base version dispatches it as a command.
   virtual void chosen();
 
  private:
@@ -62,7 +63,7 @@ class MenuItem : public Object {
   std::vector<Ref<MenuItem>> items_;
 };
 
-// Quits the program. Stands in the application menu where the platform has one.
+// Quits the program. On a platform with an application menu it is placed there.
 class QuitMenuItem : public MenuItem {
  public:
   QuitMenuItem(String name, String text, String shortcut);
@@ -72,22 +73,22 @@ class QuitMenuItem : public MenuItem {
   void chosen() override;
 };
 
-// An item about the program, in the application menu where the platform has one.
+// An item about the program. On a platform with an application menu it is placed there.
 class AppleMenuItem : public MenuItem {
  public:
   AppleMenuItem(String name, String text);
 };
 
-// A row of menus, which any number of windows can show.
+// A row of menus. Any number of windows can show it.
 class MenuBar : public Object {
  public:
   void Append(const Ref<MenuItem>& menu) { menus_.push_back(menu); }
   const std::vector<Ref<MenuItem>>& menus() const { return menus_; }
 
-  // The item of that name, at any depth; nil if no item has it.
+  // The item of that name, at any depth. Nil if there is none.
   Ref<MenuItem> Child(const String& name) const;
 
-  // For a window: enters all menus, or has their shortcuts act though the window shows no menus.
+  // For a window: adds all menus to its bar; makes their shortcuts work in a window that shows no menus.
   void attachTo(QMenuBar& bar) const;
   void attachKeysTo(QWidget& window) const;
 

@@ -33,7 +33,7 @@ PopupMenu::PopupMenu(Window& owner, String name)
   });
 }
 
-// The toolkit selects a list's first row by itself.
+// Qt selects the first row that is added to a list; this restores the selection.
 void PopupMenu::AddRow(const String& text) {
   listOf(*this).addItem(toQt(text));
   listOf(*this).setCurrentIndex(ListIndex);

@@ -6,21 +6,21 @@
 
 namespace tavrelkin {
 
-// A list of rows that pops up, one of which is selected and shows while the list is closed. Rows count from 0.
+// A list of rows that pops up. While it is closed, it shows the selected row. Rows are counted from 0.
 class PopupMenu : public RectControl {
  public:
   PopupMenu(Window& owner, String name);
 
-  // Adds a row to the end. It is not selected by that.
+  // Adds a row to the end. The selection does not change.
   void AddRow(const String& text);
 
-  // The selected row. Writing it raises nothing; a number that no row has selects none, which is -1.
+  // The selected row; -1 if no row is selected. Writing it raises no event. The number of no row becomes -1.
   Property<Int32> ListIndex;
 
   // The text of the selected row; empty if no row is selected.
   String Text() const;
 
-  // The user has chosen a row, the one that was selected before perhaps.
+  // The user has chosen a row, possibly the row that was selected before.
   Event<void()> Change;
 };
 

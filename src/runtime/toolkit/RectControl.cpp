@@ -33,8 +33,8 @@ RectControl::RectControl(Window& owner, String name, QWidget* native, const Rect
   native_->setGeometry(0, 0, 0, 0);
 }
 
-// The widget goes with its window, which outlives its controls. It is silent until then, but not cut off: the toolkit
-// has to hear of its end.
+// The widget is destroyed with its window, after the control. Until then it must not call the control. Its signals are
+// blocked but stay connected, since Qt itself needs to learn of its destruction.
 RectControl::~RectControl() {
   native_->blockSignals(true);
 }
@@ -93,7 +93,7 @@ void RectControl::applyGeometry() {
   resized();
 }
 
-// A tip that is on show changes with it.
+// A tip that is visible changes too.
 void RectControl::applyHelpTag() {
   native_->setToolTip(toDisplayText(HelpTag));
   if (QToolTip::isVisible() && native_->underMouse()) QToolTip::showText(QCursor::pos(), native_->toolTip(), native_);

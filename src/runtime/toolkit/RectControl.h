@@ -12,8 +12,8 @@ namespace tavrelkin {
 
 class Window;
 
-// A control with a place in its window. Positions and sizes are in pixels at a scale of 100 %, counted from the top
-// left corner of the window's content. Every write takes effect at once.
+// A control with a rectangle in its window. Positions and sizes are in pixels at a scale of 100 %, from the top left
+// corner of the window's content. Every write takes effect at once.
 class RectControl : public Control {
  public:
   ~RectControl() override;
@@ -27,41 +27,41 @@ class RectControl : public Control {
   Property<bool> Visible;
   Property<bool> Enabled;
 
-  // The text that shows when the pointer rests on the control. "\r" begins a new line.
+  // The tip that appears while the pointer rests on the control. "\r" begins a new line.
   Property<String> HelpTag;
 
-  // What the control is called by assistive technologies, where its own text doesn't say it.
+  // The name of the control for assistive technologies, if its own text doesn't say it.
   Property<String> AccessibleName;
 
-  // Whether a press or the tabulator key may bring the keyboard here. SetFocus does in any case.
+  // Whether a press (AcceptFocus) or the Tab key (TabStop) gives the control the keyboard focus. SetFocus always does.
   Property<bool> AcceptFocus;
   Property<bool> TabStop;
 
-  // Sets place and size in one go.
+  // Sets position and size at once.
   void place(Int32 left, Int32 top, Int32 width, Int32 height);
 
   void SetFocus();
 
-  // What the control takes when it is dropped there: private data of a four-character type, plain text. Until one of
-  // them is called it takes nothing.
+  // Make the control accept drops with private data of a four-character type, or with plain text. At first it accepts
+  // no drops.
   void AcceptMacDataDrop(const String& type);
   void AcceptTextDrop();
 
-  // An empty drag item whose picture is the outline of a rectangle, given in the window's pixels. Of use within the
-  // event that made it.
+  // An empty drag item. While it is dragged, the pointer carries the outline of the given rectangle, in pixels of the
+  // window's content. Must be dragged in the event that made it.
   Ref<DragItem> NewDragItem(Int32 left, Int32 top, Int32 width, Int32 height);
 
-  // Whether a drop of the item would be taken.
+  // Whether the control accepts a drop of the item.
   bool accepts(const DragItem& item) const;
 
-  // Repaints the control: now, or when the event loop comes round to it.
+  // Repaints the control: `now`, or later from the event loop.
   virtual void Refresh(bool now);
 
-  // What shows the control on the machine; of use within the runtime only.
+  // The toolkit's widget of the control. Only for use within the runtime.
   QWidget& native() const { return *native_; }
 
  protected:
-  // Takes over `native`, which belongs to `parent`, or to the window if `parent` is null.
+  // Makes `native` a child of the widget of `parent`, or of the window's content if `parent` is null.
   RectControl(Window& owner, String name, QWidget* native, const RectControl* parent = nullptr);
 
   // Called after a change of size.

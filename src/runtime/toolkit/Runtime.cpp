@@ -15,15 +15,15 @@
 #include "runtime/desktop/Desktop.h"
 #include "runtime/desktop/native/NativeDesktop.h"
 #include "runtime/toolkit/accessibility/Accessibility.h"
-#include "runtime/toolkit/widgets/FontPainter.h"
+#include "runtime/toolkit/widgets/Fonts.h"
 #include "runtime/toolkit/widgets/HeldKeys.h"
 
 namespace tavrelkin {
 
 namespace {
 
-// Without a display the toolkit ends the program as in a crash, in words for a developer. Its other messages name what
-// was tried.
+// Without a display Qt aborts with a message for developers. This prints a message for users instead and exits. All
+// other messages of Qt are printed as they are; they name what was tried.
 void tellNoDisplay(QtMsgType type, const QMessageLogContext& context, const QString& message) {
   if (type != QtFatalMsg)
     return void(std::cerr << qFormatLogMessage(type, context, message).toStdString() << std::endl);
@@ -34,7 +34,7 @@ void tellNoDisplay(QtMsgType type, const QMessageLogContext& context, const QStr
   std::_Exit(1);
 }
 
-// The program has no command line: the toolkit gets its name and nothing else.
+// The program has no command line, so Qt gets its name as the only argument.
 std::unique_ptr<QApplication> makeToolkit() {
   static std::array name{'t', 'a', 'v', 'r', 'e', 'l', 'k', 'i', 'n', '\0'};
   static std::array<char*, 2> arguments{name.data(), nullptr};
@@ -45,7 +45,7 @@ std::unique_ptr<QApplication> makeToolkit() {
   return toolkit;
 }
 
-// Light, whatever the desktop's theme is: the windows have light colours of their own.
+// A light palette for every theme of the desktop, since the windows have light colours of their own.
 QPalette lightPalette() {
   QPalette colors(QColor(0xEFEFEF));
   colors.setColor(QPalette::Highlight, QColor(0x308CC6));
@@ -62,7 +62,7 @@ QIcon readIcon(const std::string& folder) {
   return icon;
 }
 
-// The message waits for the event loop, since a fault may come from a thread.
+// Shows the message from the event loop, since the fault may have happened on a thread, whose stack is too small.
 void tellAndEndSoon(const std::string& fault) {
   const auto tellAndEnd = [fault] {
     desktop().messageBox("Tavrelkin has to close because of a fault in the program.\n\n" + fault);
@@ -85,7 +85,8 @@ void setUpToolkit(QApplication& toolkit) {
   onFault(tellAndEndSoon);
 }
 
-// A write beyond a limit on the size of files would end the program; so it fails, and the user is told.
+// With SIGXFSZ ignored, a write beyond the limit on the size of files fails with an error, which the user is told.
+// Otherwise the signal would end the program.
 Runtime::Runtime(const std::string& iconFolder) : toolkit_(makeToolkit()) {
   std::signal(SIGXFSZ, SIG_IGN);
   setUpToolkit(*toolkit_);

@@ -10,30 +10,31 @@ class QApplication;
 
 namespace tavrelkin {
 
-// The runtime itself: the toolkit, the desktop and the event loop. One for the life of the program, made first.
+// The runtime: the toolkit, the desktop and the event loop. A program makes one before all else and keeps it to the
+// end.
 class Runtime {
  public:
-  // The icon of all windows comes from a folder among the program's own resources, which has a picture for each size; a
-  // folder that is not there leaves the icon to the desktop.
+  // `iconFolder` is a folder of the program's resources with a picture for each size of the windows' icon. If it is
+  // missing, the desktop chooses the icon.
   explicit Runtime(const std::string& iconFolder);
   Runtime(const Runtime&) = delete;
   Runtime& operator=(const Runtime&) = delete;
   ~Runtime();
 
-  // Runs an application: its command handlers, its first window, then the event loop, until the program quits. Gives
-  // the exit status.
+  // Runs an application: registers its command handlers, makes its first window, and runs the event loop until the
+  // program quits. Returns the exit status.
   int run(Ref<Application> application);
 
  private:
   std::unique_ptr<QApplication> toolkit_;
 };
 
-// Makes a toolkit that has just been made the program's own: its look, the same on every desktop, what it tells
-// assistive technologies, and what the core takes from it.
+// Configures a new QApplication: the look, which is the same on every desktop, the accessibility, the text painter of
+// the core, and the handling of faults.
 void setUpToolkit(QApplication& toolkit);
 
-// Ends all threads, and forgets the request for the screen that is under way and a fault that was told. For the end of
-// the runtime.
+// Ends all threads, drops a pending request for the screen, and allows handlers again after a fault. For the end of the
+// runtime.
 void shutDownRuntime();
 
 }  // namespace tavrelkin

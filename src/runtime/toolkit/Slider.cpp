@@ -13,12 +13,12 @@ namespace tavrelkin {
 
 namespace {
 
-// A press beside the handle moves it by one step, however long it is held.
+// A press beside the handle moves it by one page step, even if the button is held.
 class SliderWidget : public QSlider {
  public:
   SliderWidget() : QSlider(Qt::Horizontal) {}
 
-  // Whether a change of the value is to wait for the release.
+  // Whether a change of the value is reported only when the button is released.
   bool isPending() const { return pressing_ && !hasTracking(); }
 
  protected:
@@ -27,7 +27,7 @@ class SliderWidget : public QSlider {
     QSlider::mousePressEvent(event);
     setRepeatAction(SliderNoAction);
   }
-  // The toolkit has this signal only after a press on the handle.
+  // Qt emits this signal only after a press on the handle.
   void mouseReleaseEvent(QMouseEvent* event) override {
     QSlider::mouseReleaseEvent(event);
     emit sliderReleased();

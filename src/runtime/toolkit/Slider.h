@@ -13,14 +13,14 @@ class Slider : public RectControl {
 
   Property<Int32> Minimum;
   Property<Int32> Maximum;
-  // Writing it raises nothing. What lies outside the range counts as the nearest bound.
+  // Writing it raises no event. A value out of range becomes the nearest bound.
   Property<Int32> Value;
-  // How far an arrow key moves the value, and how far the page keys and a press beside the handle do. A press that is
-  // held moves it once.
+  // LineStep is how far an arrow key moves the value, PageStep how far the page keys and a press beside the handle move
+  // it. A press that is held moves it once.
   Property<Int32> LineStep;
   Property<Int32> PageStep;
-  // Whether ValueChanged comes at each step of a drag and with a press beside the handle, or once when the user lets
-  // go.
+  // True: ValueChanged comes at each step of a drag, and with a press beside the handle. False: it comes once, when the
+  // button is released.
   Property<bool> LiveScroll;
 
   // The user has changed the value.

@@ -17,7 +17,6 @@ StaticText::StaticText(Window& owner, String name, const RectControl* parent)
       TextColor(kBlack, [this](Color c) { label().setTextColor(toQt(c)); }),
       TextAlign(TextAlignment::left, [this](TextAlignment where) { label().align(where); }) {
   label().setTextColor(toQt(kBlack));
-  label().align(TextAlignment::left);
   applyFont();
 }
 

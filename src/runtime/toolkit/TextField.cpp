@@ -31,7 +31,8 @@ class FieldWidget : public QLineEdit {
   }
 
  protected:
-  // Qt asks the field before the menus, and the field would keep the keys for copy, paste and so on.
+  // Qt asks the focused field first whether it wants the keys of a shortcut. A line edit wants those of copy, paste and
+  // so on, which here belong to the menus.
   bool event(QEvent* event) override {
     const bool handled = QLineEdit::event(event);
     if (event->type() == QEvent::ShortcutOverride && belongsToMenu(*static_cast<QKeyEvent*>(event))) event->ignore();

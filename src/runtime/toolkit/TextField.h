@@ -5,13 +5,13 @@
 
 namespace tavrelkin {
 
-// A line of text that the user can edit, in a border. A press and the tabulator key give it the keyboard. The keys of a
-// command that somebody answers go to the command all the same; those of a disabled one are left to the field.
+// A line of text with a border, which the user can edit. A press and the Tab key give it the keyboard focus. The
+// shortcut of an enabled menu item still runs the command; the keys of a disabled item go to the field.
 class TextField : public RectControl {
  public:
   TextField(Window& owner, String name);
 
-  // What stands in the field now.
+  // The present contents. Editing changes it.
   Property<String> Text;
 };
 

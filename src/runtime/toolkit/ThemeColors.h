@@ -2,18 +2,17 @@
 
 #include "runtime/core/drawing/Color.h"
 
-// The colours of the program's look, the same on every desktop (runtime/toolkit/Runtime.h), for drawing controls that
-// go with the toolkit's.
+// The colours of the toolkit's controls, for drawing controls that match them. They are the same on every desktop.
 namespace tavrelkin {
 
-// The ground that controls stand on, and texts on it.
+// The background of windows, and the texts on it.
 Color FillColor();
 Color TextColor();
 
-// The dark edge of a raised control; also texts of disabled controls.
+// The dark edge of a raised control. Also the colour of texts in disabled controls.
 Color DarkBevelColor();
 
-// The shaded and the lit edge of a pressed or raised field.
+// The dark and the light edge of a pressed or raised field.
 Color DarkTingeColor();
 Color LightTingeColor();
 

@@ -21,7 +21,7 @@ Window::Window(const WindowDesign& design)
   applySize();
 }
 
-// The toolkit may be in the middle of an event of this very window.
+// The widget is deleted later, since Qt may be in the middle of an event of this window.
 Window::~Window() {
   native_->detach();
   native_->hide();
@@ -73,7 +73,7 @@ QWidget& Window::content() const {
 void Window::setTabOrder(std::initializer_list<const RectControl*> controls) {
   const RectControl* last = nullptr;
   for (const RectControl* next : controls) {
-    // The toolkit ignores an order that names a control without the keyboard.
+    // Qt ignores an order with a control that can't have the focus.
     if (next->native().focusPolicy() == Qt::NoFocus) continue;
     if (last) QWidget::setTabOrder(&last->native(), &next->native());
     last = next;
@@ -93,7 +93,7 @@ void Window::setBlocker(Window* modal) {
   native_->setBlocked(modal != nullptr);
 }
 
-// The toolkit doesn't tell again of an activation that came meanwhile.
+// Qt doesn't report again an activation that came while the window was blocked.
 void Window::unblock() {
   setBlocker(nullptr);
   if (native_->isActiveWindow()) cameToFront();
@@ -104,7 +104,8 @@ void Window::recallBlocker() {
   blocker_->SetFocus();
 }
 
-// A window manager gives the keyboard to some window when another one is minimised; that is nothing the user did to it.
+// When a window is minimised, the window manager activates some other window. That is not the user's gesture, so it
+// does not bring the blocker to the front.
 void Window::cameToFront() {
   if (!open_) return;
   if (blocker_) {

@@ -21,41 +21,41 @@ class WindowWidget;
 
 enum class WindowFrame { document, movableModal };
 
-// What a window is made with. Sizes are those of the content, in pixels at a scale of 100 %; the menu bar, where it
-// stands in the window, comes on top. The user can't resize a window.
+// The fixed properties of a window. Sizes are those of the content, in pixels at a scale of 100 %. A menu bar in the
+// window adds to the height. The user can't resize the window, but can close and minimise it.
 struct WindowDesign {
   String title;
   Int32 width = 0;
   Int32 height = 0;
   WindowFrame frame = WindowFrame::document;
-  bool closeButton = true;
-  bool minimizeButton = true;
   bool maximizeButton = false;
 };
 
-// A window of the program. Made with New, which raises the Open events of its controls and then its own; it lives while
-// it is open, referred to, or kept by one of its threads.
+// A window of the program. New makes it and raises the Open events of its controls, then its own. It lives while it is
+// open, while a Ref refers to it, and while one of its threads runs.
 class Window : public ControlOwner {
  public:
   ~Window() override;
 
   Property<String> Title;
-  // A control that has the keyboard, and that a change of size hides, gives it to one in sight.
+  // The size of the content. If a change of size hides the control with the keyboard focus, the focus moves to a
+  // visible control.
   Property<Int32> Width;
   Property<Int32> Height;
-  // The colour of the content where no control is. FillColor() of ThemeColors.h at first.
+  // The background colour of the content. At first FillColor() of ThemeColors.h.
   Property<Color> BackColor;
-  // The menus that the window shows. Without them, the shortcuts of the application's menu bar act in it.
+  // The menus that the window shows. If nil, the shortcuts of the application's menu bar work in the window.
   Property<Ref<tavrelkin::MenuBar>> MenuBar;
 
-  // Opens the window, or brings it to the front where it is open, and unblocks it. A modal one blocks those that are
-  // open then, until it is closed; what the user does to them brings it to the front.
+  // Opens the window, or brings an open window to the front. Unblocks it. A modal window blocks all windows that are
+  // open now until it is closed. The user's input to a blocked window brings the modal window to the front.
   void Show();
 
-  // Closes the window and raises Close. Does nothing where it isn't open. Safe from any handler of its own.
+  // Calls Event_Close and closes the window. Does nothing if the window isn't open. May be called from the window's own
+  // handlers.
   void Close();
 
-  // Brings the window to the front and gives it the keyboard.
+  // Brings the window to the front and gives it the keyboard focus. Does nothing if the window isn't open.
   void SetFocus();
 
   bool isOpen() const { return open_; }
@@ -63,13 +63,13 @@ class Window : public ControlOwner {
   // The modal window that blocks this window's input, or null.
   Window* blocker() const { return blocker_; }
 
-  // False while the machine has said that nothing of the window is in sight, as when it is minimised.
+  // False while the desktop reports that no part of the window is visible, for example while it is minimised.
   bool isSeen() const override;
 
-  // The control of that name and index, or null.
+  // The control with that name and index, or null.
   Control* control(const String& name, Int32 index = 0) const;
 
-  // Registers the handlers of the window's commands; called once, before the Open events.
+  // Registers the handlers of the window's commands. Called once, before the Open events.
   virtual void AddMenuHandlers() {}
 
   virtual void Event_Open() {}
@@ -84,7 +84,7 @@ class Window : public ControlOwner {
   void setBlocker(Window* modal);
   void unblock();
 
-  // For controls, and for whatever else shows the window on the machine.
+  // The toolkit's widgets of the window and of its content. Only for use within the runtime.
   QWidget& content() const;
   WindowWidget& native() const { return *native_; }
 
@@ -97,8 +97,8 @@ class Window : public ControlOwner {
     handlers_.add(itemName, std::move(handler));
   }
 
-  // The order in which the tabulator key visits the controls. Those that it doesn't visit when this is called are left
-  // out.
+  // Sets the order in which the Tab key visits the controls. Ignores controls that can't have the focus at the time of
+  // the call.
   void setTabOrder(std::initializer_list<const RectControl*> controls);
 
  private:

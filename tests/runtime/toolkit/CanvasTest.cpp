@@ -64,8 +64,8 @@ class CanvasTest : public RuntimeTest {
     return window->log + (drop.isAccepted() && drop.dropAction() == Qt::CopyAction ? "copied" : "not copied");
   }
 
-  // How many pixels of the screen show something else than the pixel of the canvas that they belong to.
-  int strayPixels(double scale) const {
+  // How many pixels of the screen differ from what `expected` gives for the pixel of the canvas they belong to.
+  int pixelsOtherThan(const std::function<Color(Int32 x, Int32 y)>& expected, double scale) const {
     processEvents();
     const int width = qRound(60 * scale);
     const int height = qRound(20 * scale);
@@ -75,9 +75,14 @@ class CanvasTest : public RuntimeTest {
     const auto pixelAt = [scale](int onScreen) { return static_cast<Int32>(std::ceil((onScreen + 0.5) / scale)) - 1; };
     int count = 0;
     for (int i = 0; i < width * height; ++i)
-      count += Color{shown.pixel(i % width, i / width)} !=
-               window->canvas.Graphics().Pixel(pixelAt(i % width), pixelAt(i / width));
+      count += Color{shown.pixel(i % width, i / width)} != expected(pixelAt(i % width), pixelAt(i / width));
     return count;
+  }
+  int strayPixels(double scale) const {
+    return pixelsOtherThan([this](Int32 x, Int32 y) { return window->canvas.Graphics().Pixel(x, y); }, scale);
+  }
+  int inkedPixels(double scale) const {
+    return pixelsOtherThan([](Int32, Int32) { return kGround; }, scale);
   }
 
   const Ref<Host> window = New<Host>();
@@ -178,6 +183,8 @@ TEST_F(CanvasTest, ATextIsFinerThanThePixelsUntilItIsDrawnOver) {
   window->canvas.Paint = nullptr;
   window->canvas.Refresh(false);
   EXPECT_EQ(strayPixels(2), 0) << "nothing of it is left";
+  window->canvas.Graphics().DrawString("#70ABFF", 5, 14);
+  EXPECT_LT(inkedPixels(2), 4 * inkedPixels(1)) << "the coarse text shows behind the fine one";
 }
 
 }  // namespace

@@ -12,8 +12,8 @@
 
 #include "fakes/Gestures.h"
 #include "fakes/RuntimeTest.h"
-#include "runtime/toolkit/Line.h"
 #include "runtime/toolkit/PopupMenu.h"
+#include "runtime/toolkit/Shapes.h"
 #include "runtime/toolkit/Slider.h"
 #include "runtime/toolkit/StaticText.h"
 

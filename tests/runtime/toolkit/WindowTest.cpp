@@ -8,8 +8,8 @@
 #include "fakes/Gestures.h"
 #include "fakes/RuntimeTest.h"
 #include "runtime/toolkit/Application.h"
+#include "runtime/toolkit/Buttons.h"
 #include "runtime/toolkit/Canvas.h"
-#include "runtime/toolkit/PushButton.h"
 #include "runtime/toolkit/Slider.h"
 #include "runtime/toolkit/widgets/WindowWidget.h"
 

@@ -8,7 +8,8 @@ namespace tavrelkin {
 template <class Signature>
 class Event;
 
-// An event that a class offers to its host, with at most one handler. Without a handler, calling it returns R{}.
+// An event that a class raises for its host. It has at most one handler; assignment replaces it. Without a handler, a
+// call returns R{}.
 template <class R, class... Args>
 class Event<R(Args...)> {
  public:

@@ -4,14 +4,14 @@
 
 namespace tavrelkin {
 
-// A fault of the program itself. Only the runtime catches it, where it delivers events: it shows a message and ends the
-// program with exit status 1.
+// A fault of the program itself. Only the runtime catches it, where it enters the program's code. It then shows a
+// message and ends the program with exit status 1.
 class RuntimeException : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
 
-// An operation was called through a reference that refers to nothing.
+// An operation was called through a nil reference.
 class NilObjectException : public RuntimeException {
  public:
   NilObjectException() : RuntimeException("An object was used before there was one.") {}

@@ -9,8 +9,8 @@ namespace tavrelkin {
 using Int32 = std::int32_t;
 using Double = double;
 
-// Drops the fraction, towards zero. NaN gives 0, and what fits no Int32 gives the nearest one. This is the only road
-// from a Double to an Int32.
+// Truncates towards zero. NaN gives 0; a value out of range gives the nearest Int32. All conversions from Double to
+// Int32 go through this function.
 constexpr Int32 toInt32(Double value) {
   constexpr Int32 least = std::numeric_limits<Int32>::min();
   constexpr Int32 most = std::numeric_limits<Int32>::max();
@@ -20,14 +20,14 @@ constexpr Int32 toInt32(Double value) {
   return static_cast<Int32>(value);
 }
 
-// As the C library has it.
+// Like pow of the C library.
 inline Double Pow(Double base, Double exponent) {
   return std::pow(base, exponent);
 }
 constexpr Double Abs(Double value) {
   return value < 0 ? -value : value;
 }
-// The greater of the two, and `a` where one of them is no number.
+// The greater of the two; `a` if either is NaN.
 constexpr Double Max(Double a, Double b) {
   return a < b ? b : a;
 }

@@ -5,8 +5,8 @@
 
 namespace tavrelkin {
 
-// A value that is read and written like a plain member. A hook tells its owner of each write. It has no copy
-// constructor, so `auto` can't copy the property in place of its value.
+// A value that is read and written like a plain member. Each write calls a hook of its owner. There is no copy
+// constructor, so `auto` can't copy the property by mistake for its value.
 template <class T>
 class Property {
  public:
@@ -27,7 +27,7 @@ class Property {
   const T& get() const { return value_; }
   const T& operator->() const { return value_; }
 
-  // Stores a value without calling the hook. For a value that the toolkit shows already, such as a slider's that the
+  // Stores a value without calling the hook. For a value that is already on screen, such as that of a slider that the
   // user has moved.
   void store(T value) { value_ = std::move(value); }
 

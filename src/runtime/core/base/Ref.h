@@ -34,7 +34,7 @@ class Object {
   template <class T, class... Args>
   friend Ref<T> New(Args&&... args);
 
-  // Starts at 1 for the reference that New() returns. So a constructor may make references to its own object.
+  // Starts at 1, for the reference that New() returns. So a constructor can make references to its own object.
   std::size_t references_ = 1;
 };
 
@@ -56,7 +56,7 @@ class Ref {
     return *this;
   }
 
-  // The object itself, or null where the reference is nil.
+  // The object, or null if the reference is nil.
   T* get() const { return object_; }
 
   T& operator*() const { return checked(); }
@@ -85,7 +85,7 @@ class Ref {
   T* object_ = nullptr;
 };
 
-// Makes an object and gives the first reference to it.
+// Makes an object and returns the first reference to it.
 template <class T, class... Args>
 Ref<T> New(Args&&... args) {
   Ref<T> made;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <utility>
 #include <vector>
 
 #include "runtime/core/base/Number.h"
@@ -10,14 +11,14 @@ namespace tavrelkin {
 
 class Control;
 
-// What controls belong to: a window.
+// The owner of controls: a window.
 class ControlOwner : public Object {
  public:
-  // False while nothing of the owner is in sight, as when a window is minimised.
+  // False while no part of the owner is visible, for example while a window is minimised.
   virtual bool isSeen() const = 0;
 
  protected:
-  // In the order in which they were made.
+  // The controls, in the order in which they were constructed.
   const std::vector<Control*>& controls() const { return controls_; }
 
  private:
@@ -26,8 +27,8 @@ class ControlOwner : public Object {
   std::vector<Control*> controls_;
 };
 
-// Something that belongs to a window under a name: a visible control, a thread or a timer. Controls are plain members
-// of their window and live as long as it does.
+// A named part of a window: a visible control, a thread or a timer. Controls are plain members of their window, so they
+// live as long as it does.
 class Control {
  public:
   Control(const Control&) = delete;
@@ -37,15 +38,15 @@ class Control {
   const String& Name() const { return name_; }
   ControlOwner& owner() const { return owner_; }
 
-  // The place in a set of controls that share handlers; 0 outside of one.
+  // The control's index in a set of controls that share handlers, from 0. 0 for a control that is in no set.
   Int32 Index = 0;
 
-  // Raised once, before the window's own Open event.
+  // Called once, before the window's own Open event.
   virtual void Event_Open() {}
 
  protected:
-  // Enters the control in its window, in the order in which the window's Open events come.
-  Control(ControlOwner& owner, String name);
+  // Adds the control to its owner. Open events come in the order of these calls.
+  Control(ControlOwner& owner, String name) : owner_(owner), name_(std::move(name)) { owner.controls_.push_back(this); }
 
  private:
   ControlOwner& owner_;

@@ -10,21 +10,21 @@ class Thread : public Control {
  public:
   Thread(ControlOwner& owner, String name);
 
-  // Part of a window's design. It has no effect: all threads get the same turns.
+  // Without effect, since all threads get the same turns. Windows set it as part of their design.
   Int32 Priority = 5;
-  // Bytes; 0 is the default of 1 MiB. Read when the thread is started.
+  // The size of the stack in bytes; 0 or less is the default of 1 MiB. Run() reads it.
   Int32 StackSize = 0;
 
-  // Starts the thread; its first turn comes when the event loop is idle. The thread keeps its window alive until it has
-  // ended. Does nothing while the thread runs.
+  // Starts the thread; its first turn comes when the event loop is idle. The thread keeps its window alive until it
+  // ends. Does nothing while the thread runs.
   void Run();
 
-  // Ends the thread at its present place and unwinds its stack. Does nothing if it does not run.
+  // Ends the thread where it stands and unwinds its stack. Does nothing if the thread does not run.
   void Kill();
 
   bool IsRunning() const;
 
-  // What the thread does.
+  // The work of the thread. The thread ends when the handler returns.
   Event<void()> RunEvent;
 
  protected:

@@ -15,10 +15,11 @@ class Timer : public Control {
   Timer(ControlOwner& owner, String name);
   ~Timer() override;
 
-  // 2 turns the timer on; 0 and any other number turn it off. Writing 2 while it runs starts a new period.
+  // 2 turns the timer on; any other number turns it off. Writing 2 while it runs starts a new period.
   Property<Int32> Mode;
 
-  // In milliseconds, at least 1. A new value takes effect with the next period.
+  // The time between two events, in milliseconds. Less than 1 counts as 1. A new value takes effect with the next
+  // period.
   Int32 Period = 1000;
 
   Event<void()> Action;

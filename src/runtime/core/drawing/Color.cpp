@@ -6,7 +6,7 @@ namespace tavrelkin {
 
 namespace {
 
-// The comparison is false for NaN, which thereby becomes 0.
+// Clamps to 0 to 1. NaN gives 0, since the comparison is false for it.
 Double fraction(Double value) {
   return value > 0 ? std::min(value, 1.0) : 0.0;
 }
@@ -20,7 +20,7 @@ Int32 greatest(Color c) {
   return std::max({c.red(), c.green(), c.blue()});
 }
 
-// The width of the channels: 0 for a grey.
+// The difference between the greatest and the least channel; 0 for a grey.
 Int32 spread(Color c) {
   return greatest(c) - std::min({c.red(), c.green(), c.blue()});
 }
@@ -47,7 +47,7 @@ Color HSV(Double hue, Double saturation, Double value) {
       return fromFractions(rising, least, v);
     case 5:
       return fromFractions(v, least, falling);
-    default:  // 0, and 6 for a hue of 1, where `within` is 0 as it is for 0
+    default:  // 0; also 6, from a hue of 1, where `within` is 0 too
       return fromFractions(v, rising, least);
   }
 }
@@ -60,7 +60,7 @@ Double readColorHue(Color c) {
   const Int32 width = spread(c);
   if (width == 0) return 0;
   const Int32 most = greatest(c);
-  // In sixths of the circle times the width, so that a single division rounds.
+  // The hue in sixths of the circle, times the width. So only the last division rounds.
   Int32 turn = 4 * width + c.red() - c.green();
   if (most == c.green()) turn = 2 * width + c.blue() - c.red();
   if (most == c.red()) turn = c.green() - c.blue();

@@ -7,7 +7,7 @@ namespace tavrelkin {
 
 namespace {
 
-// A run of coordinates, the second one excluded. 64 bits, so that the sum of any position and size fits.
+// The coordinates from `from` up to, but not including, `to`. In 64 bits the sum of any position and size fits.
 struct Span {
   std::int64_t from;
   std::int64_t to;
@@ -41,7 +41,7 @@ void Graphics::DrawRect(Int32 left, Int32 top, Int32 width, Int32 height) {
   if (right < Width()) FillRect(static_cast<Int32>(right), top, 1, height);
 }
 
-// A line along an axis is a rectangle; only what lies on the surface fits the size of one.
+// Draws a line along an axis as a rectangle. It is clipped first, since a width or height may not fit an Int32.
 void Graphics::drawStraight(Int32 left, Int32 top, Int32 right, Int32 bottom) {
   const Int32 fromX = std::max(left, 0);
   const Int32 fromY = std::max(top, 0);
@@ -57,7 +57,8 @@ void Graphics::DrawLine(Int32 x1, Int32 y1, Int32 x2, Int32 y2) {
   const std::int64_t start = steep ? y1 : x1;
   const std::int64_t step = (steep ? dy : dx) < 0 ? -1 : 1;
 
-  // The steps at which the longer axis lies on the surface; the other one is rounded to nearest for each of them.
+  // The steps at which the coordinate of the longer axis lies on the surface. At each of them the other coordinate is
+  // rounded to the nearest pixel.
   const std::int64_t limit = steep ? Height() : Width();
   const std::int64_t first = std::max<std::int64_t>(step > 0 ? -start : start - limit + 1, 0);
   const std::int64_t last = std::min(step > 0 ? limit - 1 - start : start, length);

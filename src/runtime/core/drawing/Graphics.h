@@ -9,39 +9,39 @@ namespace tavrelkin {
 class Picture;
 struct DrawnText;
 
-// Is told that something is being drawn. A canvas then shows its surface again.
+// Learns of each drawing before it changes the surface.
 class DrawingObserver {
  public:
-  virtual void drawn() = 0;
-  // A text has been drawn, after drawn().
-  virtual void textDrawn(DrawnText text) = 0;
+  // Anything but a text is about to be drawn.
+  virtual void willDraw() = 0;
+  virtual void willDrawText(const DrawnText& text) = 0;
 
  protected:
   ~DrawingObserver() = default;
 };
 
-// Draws on the surface of a picture or a canvas, pixel by pixel exact and without smoothing. Coordinates count from the
-// top left corner; whatever lies off the surface is clipped, at any coordinates.
+// Draws on the surface of a picture or a canvas. All but texts is exact to the pixel, without smoothing. Coordinates
+// are in pixels from the top left corner. Drawing is clipped to the surface; any coordinates are allowed.
 class Graphics {
  public:
-  // A size of DrawPicture that stands for the picture's own.
+  // As a size for DrawPicture: the width or height of the picture itself.
   static constexpr Int32 kNaturalSize = -10000;
 
-  // Draws on `surface`, which must outlive the graphics, and tells `observer`, if there is one, before each drawing.
+  // Draws on `surface`, which must outlive the graphics. Calls `observer`, unless null, before each drawing.
   explicit Graphics(Surface& surface, DrawingObserver* observer = nullptr) : surface_(surface), observer_(observer) {}
   Graphics(const Graphics&) = delete;
   Graphics& operator=(const Graphics&) = delete;
 
-  // What the drawing operations draw with. Black at first.
+  // The colour of shapes and texts. Black at first.
   Color ForeColor;
 
-  // Asks that an enlargement stay hard-edged. It does in any case: every scaling here is.
+  // Asks for enlargements with hard edges. Without effect, since all enlargements have them.
   bool UseOldRenderer = false;
 
-  // The height of texts in pixels. They are set in the desktop's own family.
+  // The height of texts in pixels. Their font family is the desktop's own.
   Int32 TextSize = 11;
 
-  // How far texts of that size reach above their baseline.
+  // How many pixels texts of that size reach above their baseline.
   Int32 TextAscent() const;
 
   Int32 Width() const { return surface_.width(); }
@@ -55,24 +55,26 @@ class Graphics {
     surface_.row(y)[x] = Surface::kOpaque | c.bits;
   }
 
-  // A filled rectangle. A width or height below 1 draws nothing.
+  // Fills a rectangle. A width or height below 1 draws nothing.
   void FillRect(Int32 left, Int32 top, Int32 width, Int32 height);
 
-  // The outline of a rectangle, one pixel wide and inside of it.
+  // Draws the outline of a rectangle, one pixel wide, inside the rectangle. A width or height below 1 draws nothing.
   void DrawRect(Int32 left, Int32 top, Int32 width, Int32 height);
 
-  // A line one pixel wide, both ends included.
+  // Draws a line one pixel wide, both ends included.
   void DrawLine(Int32 x1, Int32 y1, Int32 x2, Int32 y2);
 
-  // Draws a text of one line that begins at x, with its baseline at y.
+  // Draws a text of one line that begins at x, with its baseline at y. Where a canvas is shown enlarged, its texts are
+  // sharp until anything else is drawn on it; so draw them last.
   void DrawString(const String& text, Int32 x, Int32 y);
 
-  // Draws a picture at its natural size, where its mask lets it.
+  // Draws a picture at its own size, through its mask.
   void DrawPicture(const Picture& picture, Int32 x, Int32 y);
 
-  // Scales the source rectangle of a picture to a destination rectangle, each source pixel to a hard-edged block. Where
-  // the source rectangle reaches over the picture's edge, what exists is drawn at the same place and scale as if the
-  // picture went on, and the rest is left as it was. kNaturalSize may stand for any of the four sizes.
+  // Scales the source rectangle of a picture to the destination rectangle, each source pixel to a hard-edged block, and
+  // draws it through the picture's mask. The part of the source rectangle that lies off the picture draws nothing; the
+  // place and scale of the rest stay the same. kNaturalSize may be given for any of the four sizes; any other size
+  // below 1 draws nothing.
   void DrawPicture(const Picture& picture, Int32 x, Int32 y, Int32 destinationWidth, Int32 destinationHeight,
                    Int32 sourceX, Int32 sourceY, Int32 sourceWidth, Int32 sourceHeight);
 
@@ -80,7 +82,7 @@ class Graphics {
   void drawStraight(Int32 left, Int32 top, Int32 right, Int32 bottom);
 
   void touch() {
-    if (observer_) observer_->drawn();
+    if (observer_) observer_->willDraw();
   }
 
   Surface& surface_;

@@ -2,12 +2,22 @@
 
 #include <memory>
 
-#include "runtime/core/drawing/DrawnText.h"
+#include "runtime/core/drawing/Color.h"
+#include "runtime/core/drawing/Surface.h"
+#include "runtime/core/text/Text.h"
 
 namespace tavrelkin {
 
-// Draws texts on surfaces. It has the fonts, which the core has not, and so the toolkit installs it. Of a DrawnText it
-// reads what to draw: the text, its position, size and colour.
+// A text of one line, and how to draw it.
+struct DrawnText {
+  String text;
+  Int32 left = 0;
+  Int32 baseline = 0;
+  Int32 size = 0;  // the height in pixels
+  Color color;
+};
+
+// Draws texts on surfaces. The core has no fonts, so the toolkit installs a painter.
 class TextPainter {
  public:
   TextPainter() = default;
@@ -15,17 +25,14 @@ class TextPainter {
   TextPainter& operator=(const TextPainter&) = delete;
   virtual ~TextPainter() = default;
 
-  // How far texts of a size, in pixels, reach above their baseline.
+  // How many pixels texts reach above their baseline. `size` is their height in pixels.
   virtual Int32 ascent(Int32 size) const = 0;
 
-  // The pixels of the surface that draw() may change. Empty where the text lies off the surface.
-  virtual Block placeOf(const DrawnText& text, const Surface& surface) const = 0;
-
-  // Draws the text, cut off at the edges of the surface, which has one pixel at least.
+  // Draws the text, clipped to the surface. The surface must have at least one pixel.
   virtual void draw(const DrawnText& text, Surface& surface) const = 0;
 };
 
-// The painter in use. It must be installed before any text is drawn or measured.
+// The installed painter. A painter must be installed before any text is drawn or measured.
 const TextPainter& textPainter();
 void installTextPainter(std::unique_ptr<TextPainter> painter);
 

@@ -12,14 +12,14 @@
 
 namespace tavrelkin {
 
-// The type whose payload is a colour, as "255, 128, 0". Towards other programs it is their kind of colour as well.
+// The type of a payload that is a colour, such as "255, 128, 0". Other programs get and send it as application/x-color.
 constexpr auto kColorData = "hcol";
 
-// What a drag carries from one control to another: private payloads, each under a four-character type, and plain text,
-// all at the same time. A type is the same only where its case is the same.
+// What a drag carries from one control to another: any number of private payloads, each with a four-character type, and
+// a plain text. The case of a type counts.
 class DragItem : public Object {
  public:
-  // The types that have a payload.
+  // The types of all payloads, in alphabetical order.
   std::vector<String> MacDataTypes() const;
   bool MacDataAvailable(std::string_view type) const;
   // The payload of a type, or the empty string if the item has none.
@@ -27,18 +27,18 @@ class DragItem : public Object {
   // Adds a payload, or replaces the one of the same type.
   void MacData(std::string_view type, String payload);
 
-  // True once a text was set, an empty one too.
+  // True once a text was set, even an empty one.
   bool TextAvailable() const;
   // The text, or the empty string if the item has none.
   String Text() const;
   void SetText(String text);
 
-  // Begins the drag, for an item that NewDragItem has made, from within a MouseDrag event. Returns when the user has
-  // let go or given up; an item of another origin is not dragged. Of the press that began it, the release may still
-  // come, where it falls on the control that the drag began on.
+  // Drags the item, which must come from NewDragItem; does nothing for any other item. To be called from a MouseDrag
+  // event. Returns when the user has released the button or cancelled the drag. A release over the control where the
+  // drag began may still raise MouseUp there.
   void Drag();
 
-  // For whoever makes an item that can be dragged.
+  // Sets what Drag() calls. For the code that makes items.
   void onDrag(std::function<void(const DragItem&)> begin) { begin_ = std::move(begin); }
 
  private:

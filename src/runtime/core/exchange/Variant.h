@@ -8,10 +8,10 @@
 
 namespace tavrelkin {
 
-// A value whose type is known at run time only; new ones hold nothing.
+// A value whose type is known only at run time. A new Variant holds nothing.
 using Variant = std::variant<std::monostate, bool, Int32, Double, String, Color>;
 
-// The number of the type that a variant holds: 0 nothing, 2 Int32, 5 Double, 8 String, 11 Boolean, 16 Color.
+// The number of the type of the value: 0 for nothing, 2 Int32, 5 Double, 8 String, 11 bool, 16 Color.
 inline Int32 VarType(const Variant& value) {
   if (std::holds_alternative<Int32>(value)) return 2;
   if (std::holds_alternative<Double>(value)) return 5;

@@ -5,7 +5,7 @@
 
 #include "runtime/core/files/FileReplacement.h"
 #include "runtime/core/files/FileSource.h"
-#include "runtime/core/system/MsgBox.h"
+#include "runtime/core/system/Dialogs.h"
 
 namespace tavrelkin {
 

@@ -8,7 +8,7 @@
 #include "runtime/core/base/Number.h"
 #include "runtime/core/base/Ref.h"
 
-// The C library has a macro of this name, which would hide the operation.
+// The C library has a macro of this name, which would replace the name of the operation.
 #undef EOF
 
 namespace tavrelkin {
@@ -16,35 +16,36 @@ namespace tavrelkin {
 class FileReplacement;
 class FileSource;
 
-// The bytes of a file, for reading or for writing; a FolderItem makes it. Numbers of two bytes have the high one first.
+// The bytes of a file, for reading or for writing. A FolderItem makes it. Numbers of two bytes are big-endian.
 //
-// A stream for writing replaces the contents in Close and not before: a stream that goes without it leaves the file as
-// it was. Once closed, a stream gives and takes nothing.
+// A stream for writing replaces the contents of the file in Close. If it is destroyed without Close, the file stays as
+// it was. A closed stream reads as empty and ignores writes.
 class BinaryStream : public Object {
  public:
   explicit BinaryStream(std::unique_ptr<FileSource> source);
   explicit BinaryStream(std::unique_ptr<FileReplacement> target);
   ~BinaryStream() override;
 
-  // The place of the next byte, from 0. Reads and writes move it forward; it may stand anywhere.
+  // The offset of the next byte, from 0. Reads and writes advance it. It may be set to any value.
   std::int64_t Position = 0;
 
   // The number of bytes in the file.
   std::int64_t size() const;
 
-  // Whether Position stands at the end or beyond it.
+  // Whether Position is at the end or beyond it.
   bool EOF() const;
 
-  // A byte, 0 to 255. What lies outside of the file reads as 0; Position moves there too.
+  // Reads a byte, 0 to 255. Outside of the file it reads as 0, and Position advances too.
   Int32 ReadByte();
-  // Two bytes, -32768 to 32767.
+  // Reads two bytes as a number, -32768 to 32767.
   Int32 ReadShort();
 
-  // Writes the low 8 bits, or the low 16, of a value. What a write beyond the end leaves out is filled with zeros.
+  // Write the low 8 or 16 bits of a value. A gap between the end and Position is filled with zeros. A negative Position
+  // throws OutOfBoundsException.
   void WriteByte(Int32 value);
   void WriteShort(Int32 value);
 
-  // Ends the use of the stream. If the file can't be replaced, the user is told why. Not to be called from a thread.
+  // Closes the stream. If the file can't be replaced, a message says why to the user. Must not be called from a thread.
   void Close();
 
  private:

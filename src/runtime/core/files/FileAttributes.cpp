@@ -18,7 +18,8 @@ namespace {
 
 constexpr auto kAccessList = "system.posix_acl_access";
 
-// What a function of the system puts into a buffer that is as long as it asks for; nothing where it fails.
+// Calls a function of the system with a buffer of the size that it asks for, and returns what it wrote. Nothing if it
+// fails.
 template <class Read>
 std::optional<std::string> filled(const Read& read) {
   std::string buffer;
@@ -27,14 +28,14 @@ std::optional<std::string> filled(const Read& read) {
     if (size < 0) return std::nullopt;
     buffer.resize(static_cast<std::size_t>(size));
     const ssize_t count = read(buffer.data(), buffer.size());
-    if (count < 0 && errno == ERANGE) continue;  // it has grown
+    if (count < 0 && errno == ERANGE) continue;  // the data has grown
     if (count < 0) return std::nullopt;
     buffer.resize(static_cast<std::size_t>(count));
     return buffer;
   }
 }
 
-// None where the file system has no attributes.
+// The names of a file's extended attributes. Empty if the file system has no attributes.
 std::vector<std::string> attributeNames(const std::string& path) {
   const auto list = filled([&](char* buffer, std::size_t size) { return listxattr(path.c_str(), buffer, size); });
   std::vector<std::string> names;
@@ -46,7 +47,8 @@ std::vector<std::string> attributeNames(const std::string& path) {
   return names;
 }
 
-// Others, of the system or of modules, can be out of the user's hands or belong to the contents.
+// Whether a copy without this attribute is incomplete. Attributes of the system and of security modules don't count:
+// the user may have no right to set them, or they belong to the contents.
 bool mustStay(std::string_view name) {
   return name.starts_with("user.") || name == kAccessList;
 }
@@ -64,8 +66,8 @@ bool takeOwners(int descriptor, const struct stat& old) {
 
 }  // namespace
 
-// The folder may have given the new file an access list, which would let others in. The mode goes before the old list,
-// which is more exact.
+// The access list that the new file may have inherited from its folder is removed first, since it could let others in.
+// The mode is set before the old access list, which is more exact and changes the mode.
 bool takeAttributes(int descriptor, const std::string& path, const struct stat& old) {
   const bool keptGroup = takeOwners(descriptor, old);
   std::ignore = fremovexattr(descriptor, kAccessList);

@@ -6,12 +6,11 @@ struct stat;
 
 namespace tavrelkin {
 
-// Gives an open file what the file at `path`, of the state `old`, has beside its contents: owner, group and mode, the
-// access list, and the extended attributes. False where the new file can't have all that it should: its access list or
-// an attribute of the user's.
+// Copies the attributes of the file at `path` to an open file: owner, group, mode, access list and extended attributes.
+// `old` is the stat of that file. False if the access list or an attribute of the user's could not be copied.
 //
-// The group stays where the user belongs to it, the owner where the user may give files away. Another group doesn't get
-// the rights of the old one.
+// The group is kept if the user belongs to it, and the owner if the user may change owners. If the group is not kept,
+// the new group gets no rights.
 bool takeAttributes(int descriptor, const std::string& path, const struct stat& old);
 
 }  // namespace tavrelkin

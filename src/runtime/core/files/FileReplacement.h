@@ -6,36 +6,34 @@
 
 namespace tavrelkin {
 
-// A file that gets other contents whole or not at all. The bytes go into a temporary file beside it, which then takes
-// its place: until that moment, and after any failure, the old file is as it was. Owner, group, mode, access list and
-// extended attributes stay. A link stays a link, what it leads to is replaced.
+// Replaces the contents of a file as a whole or not at all. The bytes are written to a temporary file in the same
+// folder, which is then renamed to the file. Until the rename, and after any failure, the old file is unchanged. Owner,
+// group, mode, access list and extended attributes are kept. For a symbolic link, the file behind the link is replaced.
 //
-// Where no other file can take its place, the file is written in place: in a folder that takes no new file, for a file
-// of several names, which all show the new contents, and where a new file could not have the old access list or
-// attributes. After a failure the old contents are put back.
+// The file is written in place instead if the folder allows no new file, if the file has several hard links, or if a
+// new file could not have the old access list or attributes. After a failure the old contents are written back.
 //
-// A file that takes another's place is not forced out to the disk, which takes a hundred times as long as all the rest.
-// The common file systems write it ahead of a rename that replaces another file, so that a power cut leaves one of the
-// two; a new file may be lost in the seconds after it was made. Writing in place has no such moment, and waits for the
-// disk.
+// The temporary file is not flushed to the disk, which would take a hundred times as long as all the rest. The common
+// file systems flush it before a rename that replaces another file, so after a power cut either the old or the new file
+// is there. A file that did not exist before may be lost within seconds. Writing in place has no such guarantee, so it
+// waits for the disk.
 class FileReplacement {
  public:
-  // Begins to replace the file at `path`, or to make a new one.
+  // Begins to replace the file at `path`, or to create it.
   explicit FileReplacement(const std::string& path);
   FileReplacement(const FileReplacement&) = delete;
   FileReplacement& operator=(const FileReplacement&) = delete;
-  // Takes back what was not committed.
+  // Deletes the temporary file if commit() was not called.
   ~FileReplacement();
 
-  // Whether commit() can be called. False after a commit, and where there can be no such file: a folder or a device
-  // bears the name, the folder is missing, the old file may not be written, or there is none and the folder takes no
-  // new one.
+  // Whether commit() can be called. False after a commit, and if the file can't be written: the path is a folder or a
+  // device, its folder is missing, the old file may not be written, or the folder allows no new file.
   bool isOpen() const { return descriptor_ >= 0; }
 
-  // Puts a file of these bytes into place. False where that fails.
+  // Replaces the contents by these bytes. False if that fails.
   bool commit(std::string_view bytes);
 
-  // What the last failure means, in words for the user, and its cause alone.
+  // The last failure in words for the user, and only the cause of it.
   std::string failure() const;
   std::string reason() const;
 
@@ -47,7 +45,7 @@ class FileReplacement {
   void discard();
 
   std::filesystem::path target_;
-  std::filesystem::path temporary_;  // empty while there is none
+  std::filesystem::path temporary_;  // empty if there is no temporary file
   int descriptor_ = -1;
   int error_ = 0;
   bool isDamaged_ = false;

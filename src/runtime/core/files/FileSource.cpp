@@ -8,7 +8,7 @@
 
 namespace tavrelkin {
 
-// Without O_NONBLOCK, opening a pipe would wait for somebody to write into it.
+// Without O_NONBLOCK, opening a pipe would wait for a writer.
 FileSource::FileSource(const std::string& path) : descriptor_(open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK)) {
   if (!isOpen()) return;
   struct stat state {};

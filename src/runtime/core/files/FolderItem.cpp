@@ -2,13 +2,15 @@
 
 #include <filesystem>
 #include <memory>
+#include <string>
 #include <string_view>
 #include <system_error>
 #include <utility>
 
 #include "runtime/core/files/FileReplacement.h"
 #include "runtime/core/files/FileSource.h"
-#include "runtime/core/system/MsgBox.h"
+#include "runtime/core/system/Dialogs.h"
+#include "runtime/desktop/Desktop.h"
 
 namespace tavrelkin {
 
@@ -55,6 +57,18 @@ Ref<TextOutputStream> FolderItem::CreateTextFile() const {
   if (target.isOpen() && target.commit({})) return New<TextOutputStream>();
   MsgBox("The file \"" + path_ + "\" could not be made. " + target.reason());
   return nullptr;
+}
+
+Ref<FolderItem> GetSaveFolderItem(const String& filter, const String& defaultName) {
+  const auto chosen = desktop().chooseSaveFile(filter, defaultName);
+  if (!chosen) return nullptr;
+  return New<FolderItem>(*chosen);
+}
+
+Ref<FolderItem> SpecialFolder::ApplicationData() {
+  const std::string path = desktop().applicationDataFolder();
+  if (path.empty()) return nullptr;
+  return New<FolderItem>(path);
 }
 
 }  // namespace tavrelkin

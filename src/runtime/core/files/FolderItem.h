@@ -4,46 +4,66 @@
 
 #include "runtime/core/base/Ref.h"
 #include "runtime/core/files/BinaryStream.h"
-#include "runtime/core/files/TextOutputStream.h"
 #include "runtime/core/text/Text.h"
 
 namespace tavrelkin {
 
-// The place of a file or a folder, whether there is one or not.
+// A text file that a FolderItem has created. Nothing can be written to it.
+class TextOutputStream : public Object {
+ public:
+  // Ends the use of the object. Does nothing.
+  void Close() {}
+};
+
+// The path of a file or a folder, which may be missing.
 class FolderItem : public Object {
  public:
-  // `path` is in the bytes of the file system, and is not looked at before an operation needs it.
+  // `path` is in the encoding of the file system. It is not checked here.
   explicit FolderItem(std::string path);
 
-  // The four-character codes of a file's type and of the program that made it. The files of this system have none:
-  // setting them changes nothing on the disk.
+  // The four-character codes of a file's type and of the program that created it. Files on this system have no such
+  // codes, so setting them has no effect on the disk.
   String MacType;
   String MacCreator;
 
   // The last part of the path.
   String Name() const;
 
-  // Whether there is something at this place. A link that leads nowhere does not count.
+  // Whether a file or a folder of this path exists. False for a link to a missing file.
   bool Exists() const;
 
-  // The item of that name in this folder, which need not exist. Nil where the text can't be a name: if it is empty, "."
-  // or "..", or has a slash or a zero byte in it.
+  // The item of that name in this folder, which may be missing. Nil if the text can't be a name: if it is empty, "." or
+  // "..", or contains a slash or a zero byte.
   Ref<FolderItem> Child(const String& name) const;
 
-  // A stream for a file that takes the place of what is there when the stream is closed. Nil where no file can be
-  // written there; it is the caller who tells the user. The type name means nothing here.
+  // A stream for writing, which creates or replaces the file when it is closed. Nil if the file can't be written; the
+  // caller then tells the user. The type name has no effect.
   Ref<BinaryStream> CreateBinaryFile(const String& typeName) const;
 
-  // A stream that reads the file. Nil where there is none or it can't be read, and for a folder. Writing in place is
-  // not offered: asking for it gives nil.
+  // A stream for reading. Nil if the file is missing or can't be read, for a folder, and if `forWriting` is true, since
+  // writing in place is not supported.
   Ref<BinaryStream> OpenAsBinaryFile(bool forWriting) const;
 
-  // Puts an empty file there at once. Where that fails the user is told why, and the result is nil. Not to be called
-  // from a thread.
+  // Creates an empty file, or empties the file that exists, at once. If that fails, a message says why to the user, and
+  // the result is nil. Must not be called from a thread.
   Ref<TextOutputStream> CreateTextFile() const;
 
  private:
   std::string path_;
 };
+
+// Lets the user choose a folder and a name for a file in the desktop's dialog, which begins with `defaultName`.
+// `filter` is the kind of files that the dialog shows, such as "Swatches (*.aco)"; empty means all files. The name is
+// exactly as the user typed it. If such a file exists, the user has agreed to replace it. Nil if the user cancels. Must
+// not be called from a thread.
+Ref<FolderItem> GetSaveFolderItem(const String& filter, const String& defaultName);
+
+namespace SpecialFolder {
+
+// The folder for the program's own files of this user. Creates the folder if it is missing. Nil if the desktop has no
+// place for such files.
+Ref<FolderItem> ApplicationData();
+
+}  // namespace SpecialFolder
 
 }  // namespace tavrelkin

@@ -10,23 +10,24 @@
 
 namespace tavrelkin {
 
-// The one place where the program's code is entered from outside. Every call that the toolkit or the scheduler makes
-// into a window, a control or the application goes through one of these.
+// The only entry into the program's code. All calls from the toolkit or the scheduler to a window, a control or the
+// application go through the functions of this header.
 
-// What happens on the first fault of the program, given in words: it is to tell the user and to end the program, in
-// order, with exit status 1. It may be called on a thread, whose stack can't hold a dialog's loop. The toolkit sets it.
+// Sets what reportFault() calls with the text of the fault. `end` has to show it to the user and to end the program
+// with exit status 1. It must do so later, from the event loop: it may be called on a thread, whose stack is too small
+// for a dialog. The toolkit sets it.
 void onFault(std::function<void(const std::string&)> end);
 
-// Calls what onFault() has set, once at most. No handler is entered from then on.
+// Calls what onFault() has set, for the first fault only. From then on no handler is called.
 void reportFault(const RuntimeException& fault);
 
-// The runtime has ended, and may start again.
+// Allows handlers again, for a runtime that starts after another one has ended.
 void forgetFault();
 
-// Prepares for a handler: what was read of the screen before is stale. False where the program is ending.
+// Prepares for a handler: marks earlier reads of the screen as stale. False if the program is ending.
 bool enterProgram();
 
-// Calls `code` and catches what the runtime throws. Gives R{} after a fault.
+// Calls `code` and catches RuntimeException. Returns R{} after a fault.
 template <class Code>
 auto guarded(Code&& code) -> std::invoke_result_t<Code> {
   using Result = std::invoke_result_t<Code>;
@@ -38,7 +39,7 @@ auto guarded(Code&& code) -> std::invoke_result_t<Code> {
   return Result();
 }
 
-// Calls a handler. Gives R{} where the program is ending or the handler fails.
+// Calls a handler. Returns R{} if the program is ending or the handler fails.
 template <class Code>
 auto deliver(Code&& code) -> std::invoke_result_t<Code> {
   if (!enterProgram()) return std::invoke_result_t<Code>();
@@ -46,8 +47,8 @@ auto deliver(Code&& code) -> std::invoke_result_t<Code> {
   return guarded(code);
 }
 
-// The same for a handler of a window or of one of its controls: the window, `owner`, outlives the call, whatever the
-// handler closes.
+// The same for a handler of a window or of one of its controls. The window, `owner`, stays alive during the call, even
+// if the handler closes it.
 template <class Code>
 auto deliver(Object& owner, Code&& code) -> std::invoke_result_t<Code> {
   const Ref<Object> keep(&owner);

@@ -20,7 +20,7 @@ Scheduler& Scheduler::instance() {
   return *installed;
 }
 
-// The threads end first: the destructors on their stacks may still yield or draw.
+// Ends the threads before it destroys the scheduler: the destructors on their stacks may still yield or draw.
 void Scheduler::shutDown() {
   while (installed && !installed->entries_.empty())
     installed->kill(*installed->entries_.back()->thread);
@@ -47,7 +47,8 @@ void Scheduler::start(const Thread& thread, Work work) {
 void Scheduler::kill(const Thread& thread) {
   const auto found = std::find_if(entries_.begin(), entries_.end(), isFor(thread));
   if (found == entries_.end()) return;
-  // The destructors on its stack run as in a turn of the thread: a yield there is not one of the main thread.
+  // The destructors on its stack run as in a turn of the thread, so that a yield there is not taken for the main
+  // thread's.
   Entry& entry = **found;
   Entry* const outer = std::exchange(current_, &entry);
   entry.fiber->kill();
@@ -127,17 +128,17 @@ void Scheduler::planNextTurn(Entry& entry) {
   }
   const auto frame = desktop().frameInterval();
   if (entry.lastPointerTurn == turnBegan_) {
-    // While the pointer moves, its movements set the pace. The frame comes later than them, or each movement would be
-    // followed by a second turn.
+    // While the pointer moves, its movements set the pace. The turn for the frame is delayed; otherwise each movement
+    // would be followed by a second turn.
     entry.due = turnBegan_ + frame * 5 / 4;
     return;
   }
-  // Turns stay in step with the frames, however long they take.
+  // The next turn is one frame after this one was due, so the length of a turn doesn't shift the pace.
   entry.due += frame;
   if (entry.due <= turnBegan_) entry.due = turnBegan_ + frame;
 }
 
-// A thread of a window that is not visible gets no turn: it could not show what it samples.
+// A thread of a window that is not visible gets no turn, since its drawing would not be visible either.
 void Scheduler::screenChanged() {
   const TimePoint now = desktop().now();
   for (const auto& entry : entries_) {
@@ -182,7 +183,7 @@ Scheduler::Entry* Scheduler::earliest() {
 
 void Scheduler::remove(const Thread& thread) {
   const auto found = std::find_if(entries_.begin(), entries_.end(), isFor(thread));
-  // Removed first: releasing the owner may destroy its window, and with it the thread.
+  // The entry leaves the list before it is destroyed. Releasing the owner may destroy the window and the thread.
   const std::unique_ptr<Entry> gone = std::move(*found);
   entries_.erase(found);
   watchWhileSeen();

@@ -44,11 +44,11 @@ class Scheduler {
   Scheduler& operator=(const Scheduler&) = delete;
   ~Scheduler();
 
-  // What a thread runs, and for whom.
+  // What a thread runs.
   struct Work {
     Ref<Object> owner;             // kept alive until the thread has ended
-    std::function<bool()> isSeen;  // whether anything of the owner is in sight
-    std::function<void()> body;    // what it throws must not leave it
+    std::function<bool()> isSeen;  // whether any part of the owner is visible
+    std::function<void()> body;    // must not throw
     std::size_t stackSize = 0;     // bytes; 0 is the default
   };
 

@@ -24,7 +24,7 @@ ScreenWatch::~ScreenWatch() {
   if (watches.empty()) desktop().screenReader().watch({});
 }
 
-// A call may end any watch, its own too.
+// A call may destroy any watch, even its own.
 void ScreenWatch::callAll() {
   const std::vector<ScreenWatch*> all = watches;
   for (ScreenWatch* watch : all) {

@@ -49,3 +49,7 @@ bool AwaitScreen() {
 }
 
 }  // namespace tavrelkin::System
+
+bool tavrelkin::Keyboard::AsyncOptionKey() {
+  return desktop().screenReader().optionKey();
+}

@@ -5,28 +5,36 @@
 #include "runtime/core/base/Number.h"
 #include "runtime/core/drawing/Color.h"
 
-// The screen and the pointer, in the screen's own pixels over all monitors: coordinates may be negative.
+// The screen and the pointer. Coordinates are in device pixels over all monitors, and may be negative.
 namespace tavrelkin::System {
 
-// Where the pointer is, also when the program is not in front.
+// The position of the pointer, also while another program is in front.
 Int32 MouseX();
 Int32 MouseY();
 
-// The colour on screen at a place, whichever window shows there, the program's own included. Black off the screen.
-// Where the screen can't be read, the result is a pattern of greys that can't be taken for the screen.
+// The colour on screen at (x, y), of whichever window is visible there, also the program's own. Black off the screen.
+// If the screen can't be read, a pattern of greys that can't be mistaken for the screen.
 Color Pixel(Int32 x, Int32 y);
 
-// Whether Pixel gives what is on screen. Also true on a desktop that gives the screen to no program: the user is told
-// so once, and Pixel gives the greys.
+// Whether Pixel can be used. Also true on a desktop that no program can read, where Pixel gives the greys; the user is
+// told once.
 bool CanReadScreen();
 
-// Asks for the screen where the desktop lets a program read it with the user's permission only. True where it can be
-// read already; else the desktop asks the user, who has to repeat the gesture then. On a desktop that gives no more
-// than single colours the user picks one, which `picked` gets later, from the event loop.
+// Asks for permission to read the screen if the desktop requires it, and returns CanReadScreen(). If that is false, the
+// desktop asks the user, who has to repeat the gesture afterwards. A desktop that only gives single colours lets the
+// user pick a colour now, and the event loop calls `picked` with it later.
 bool RequestScreen(std::function<void(Color)> picked = {});
 
-// For a thread: waits until the user has answered and the desktop shows the screen. Gives whether it can be read. On
-// the main thread it does not wait.
+// Suspends a thread until the user has answered and the desktop delivers the screen. Returns whether the screen can be
+// read. On the main thread it returns at once.
 bool AwaitScreen();
 
 }  // namespace tavrelkin::System
+
+namespace tavrelkin::Keyboard {
+
+// Whether the Option key is held down now. Both Alt and AltGr (the level-3 shift) count as Option, since many window
+// managers use a drag with Alt for themselves.
+bool AsyncOptionKey();
+
+}  // namespace tavrelkin::Keyboard

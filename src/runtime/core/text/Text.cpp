@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <system_error>
 
 namespace tavrelkin {
 
@@ -27,18 +28,24 @@ Int32 asCount(std::size_t count) {
   return static_cast<Int32>(std::min<std::size_t>(count, std::numeric_limits<Int32>::max()));
 }
 
-// Sequences that have the right form, but are too long for what they encode, or encode no character.
+// Whether a sequence of the right form is still not valid: overlong, a surrogate, or above U+10FFFF.
 bool isForbidden(unsigned lead, unsigned second) {
   return (lead == 0xE0 && second < 0xA0) || (lead == 0xED && second > 0x9F) || (lead == 0xF0 && second < 0x90) ||
          (lead == 0xF4 && second > 0x8F);
 }
 
-// The bytes of the character that a text, not empty, begins with.
+// The length in bytes of a sequence, by its first byte, which is 0xC2 to 0xF4.
+std::size_t sequenceSize(unsigned lead) {
+  if (lead < 0xE0) return 2;
+  return lead < 0xF0 ? 3 : 4;
+}
+
+// The length in bytes of the first character of a text that is not empty.
 std::size_t characterSize(std::string_view text) {
   const auto byte = [text](std::size_t i) { return static_cast<unsigned char>(text[i]); };
   const unsigned lead = byte(0);
   if (lead < 0xC2 || lead > 0xF4) return 1;
-  const std::size_t size = lead < 0xE0 ? 2 : lead < 0xF0 ? 3 : 4;
+  const std::size_t size = sequenceSize(lead);
   if (size > text.size() || isForbidden(lead, byte(1))) return 1;
   for (std::size_t i = 1; i < size; ++i) {
     if ((byte(i) & 0xC0) != 0x80) return 1;
@@ -46,7 +53,7 @@ std::size_t characterSize(std::string_view text) {
   return size;
 }
 
-// The place, in bytes, so many characters after another, or the end of the text.
+// The offset in bytes that is a number of characters after `from`, or the end of the text.
 std::size_t skip(std::string_view text, std::size_t from, std::size_t characters) {
   std::size_t at = from;
   for (std::size_t i = 0; i < characters && at < text.size(); ++i)
@@ -61,7 +68,7 @@ std::size_t countCharacters(std::string_view text) {
   return count;
 }
 
-// The place, in bytes, of the first `find` at or after another, or npos. It begins a character.
+// The offset in bytes of the first `find` at or after `from`, or npos. Only offsets where a character begins count.
 std::size_t findFrom(std::string_view text, std::string_view find, std::size_t from) {
   if (find.empty()) return std::string_view::npos;
   for (std::size_t at = from; at < text.size(); at += characterSize(text.substr(at))) {
@@ -173,6 +180,64 @@ Int32 LenB(std::string_view text) {
 
 String MidB(std::string_view text, Int32 start, Int32 length) {
   return String{text.substr(std::min(text.size(), atLeast(1, start) - 1), atLeast(0, length))};
+}
+
+namespace {
+
+constexpr Double kGreatest = std::numeric_limits<Double>::max();
+
+bool isDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+// The value of a hexadecimal digit, or -1.
+Int32 hexDigit(char c) {
+  if (isDigit(c)) return c - '0';
+  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
+  return -1;
+}
+
+Double hexNumber(std::string_view text) {
+  Double value = 0;
+  for (const char c : text) {
+    const Int32 digit = hexDigit(c);
+    if (digit < 0) break;
+    value = std::min(value * 16 + digit, kGreatest);
+  }
+  return value;
+}
+
+// Whether a decimal number out of the range of a Double is too large; otherwise it is too small. The position of its
+// first significant digit has to be added to the exponent, since either may be in the thousands.
+bool isTooLarge(std::string_view number) {
+  const std::size_t mark = std::min(number.find_first_of("eE"), number.size());
+  const std::size_t point = std::min(number.find('.'), mark);
+  const std::size_t first = number.find_first_of("123456789");
+  const Double places = static_cast<Double>(point) - static_cast<Double>(first);
+  const Double exponent = mark < number.size() ? Val(number.substr(mark + 1)) : 0;
+  return places + exponent > 0;
+}
+
+Double decimalNumber(std::string_view text) {
+  // Excludes "inf" and "nan", which from_chars accepts.
+  const std::string_view digits = text.substr(text.starts_with('.') ? 1 : 0);
+  if (digits.empty() || !isDigit(digits.front())) return 0;
+  Double value = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
+  if (error != std::errc::result_out_of_range) return value;
+  return isTooLarge({text.data(), end}) ? kGreatest : 0;
+}
+
+}  // namespace
+
+Double Val(std::string_view text) {
+  text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+  if (sameText(text.substr(0, 2), "&h")) return hexNumber(text.substr(2));
+  const bool negative = text.starts_with('-');
+  if (negative || text.starts_with('+')) text.remove_prefix(1);
+  const Double value = decimalNumber(text);
+  return negative ? -value : value;
 }
 
 }  // namespace tavrelkin

@@ -1,6 +1,10 @@
 #include "runtime/toolkit/accessibility/Accessibility.h"
 
+#include <chrono>
+#include <utility>
+
 #include <QAccessibleWidget>
+#include <QTimer>
 
 #include "runtime/toolkit/accessibility/CanvasAccessible.h"
 #include "runtime/toolkit/widgets/CanvasWidget.h"
@@ -11,7 +15,7 @@ namespace tavrelkin {
 
 namespace {
 
-// A label is called what it says, unless it has a name.
+// The accessible name of a label is its text, unless it has an AccessibleName.
 class LabelAccessible : public QAccessibleWidget {
  public:
   explicit LabelAccessible(TextLabel& label) : QAccessibleWidget(&label, QAccessible::StaticText) {}
@@ -26,7 +30,7 @@ QAccessible::Role roleOf(const WindowWidget& window) {
   return window.isDialog() ? QAccessible::Dialog : QAccessible::Window;
 }
 
-// The toolkit takes over what is made, and asks by the class that it knows best for each object.
+// The factory for Qt, which takes ownership. Null leaves the object to Qt's own factories.
 QAccessibleInterface* makeInterface(const QString&, QObject* object) {
   if (auto* canvas = dynamic_cast<CanvasWidget*>(object)) return new CanvasAccessible(*canvas);
   if (auto* label = dynamic_cast<TextLabel*>(object)) return new LabelAccessible(*label);
@@ -34,10 +38,38 @@ QAccessibleInterface* makeInterface(const QString&, QObject* object) {
   return nullptr;
 }
 
+constexpr std::chrono::milliseconds kRest{200};
+
+class RestingAnnouncement : public QTimer {
+ public:
+  explicit RestingAnnouncement(QWidget& widget) : QTimer(&widget) {
+    setSingleShot(true);
+    callOnTimeout([this] { tell_(); });
+  }
+  void await(std::function<void()> tell) {
+    tell_ = std::move(tell);
+    start(kRest);
+  }
+
+ private:
+  std::function<void()> tell_;
+};
+
+RestingAnnouncement& of(QWidget& widget) {
+  for (QObject* child : widget.children()) {
+    if (auto* waiting = dynamic_cast<RestingAnnouncement*>(child)) return *waiting;
+  }
+  return *new RestingAnnouncement(widget);
+}
+
 }  // namespace
 
 void installAccessibility() {
   QAccessible::installFactory(makeInterface);
+}
+
+void announceAtRest(QWidget& widget, std::function<void()> tell) {
+  of(widget).await(std::move(tell));
 }
 
 }  // namespace tavrelkin

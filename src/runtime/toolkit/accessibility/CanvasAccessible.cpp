@@ -8,8 +8,8 @@
 #include "runtime/core/scheduling/Delivery.h"
 #include "runtime/toolkit/Canvas.h"
 #include "runtime/toolkit/Window.h"
+#include "runtime/toolkit/accessibility/Accessibility.h"
 #include "runtime/toolkit/accessibility/CellAccessible.h"
-#include "runtime/toolkit/accessibility/RestingAnnouncement.h"
 #include "runtime/toolkit/widgets/CanvasWidget.h"
 #include "runtime/toolkit/widgets/Convert.h"
 
@@ -31,7 +31,7 @@ QAccessible::Role roleOf(const Accessible* described) {
   }
 }
 
-// False for a control below the fold of its window.
+// False for a control in a folded part of its window.
 bool isInSight(const QWidget& widget) {
   return widget.isVisible() && !widget.visibleRegion().isEmpty();
 }
@@ -74,7 +74,8 @@ QAccessible::Role CanvasAccessible::role() const {
   return roleOf(described());
 }
 
-// A disabled canvas has an enabled widget, which takes drops, and one below the fold has a visible one.
+// The widget's own state is not enough: that of a disabled canvas is enabled, so that it takes drops, and that of a
+// canvas in a folded part is visible.
 QAccessible::State CanvasAccessible::state() const {
   QAccessible::State state = QAccessibleWidget::state();
   if (canvas_.canvas() && !canvas_.canvas()->Enabled) state.disabled = true;
@@ -84,9 +85,9 @@ QAccessible::State CanvasAccessible::state() const {
 
 QString CanvasAccessible::text(QAccessible::Text kind) const {
   if (const Accessible* described = this->described()) {
-    const String own = kind == QAccessible::Name          ? described->name()
-                       : kind == QAccessible::Description ? described->description()
-                                                          : String();
+    String own;
+    if (kind == QAccessible::Name) own = described->name();
+    if (kind == QAccessible::Description) own = described->description();
     if (!own.empty()) return toQt(own);
   }
   return QAccessibleWidget::text(kind);

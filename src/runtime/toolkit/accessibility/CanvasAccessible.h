@@ -12,22 +12,21 @@ class CanvasWidget;
 class CellAccessible;
 enum class AccessibleChange;
 
-// A canvas as assistive technologies meet it: passes their questions on to what the canvas says of itself, and what
-// they do to it as the user's gestures.
+// The accessible interface of a canvas. It passes questions on to the canvas's Accessible, and actions as the user's
+// gestures.
 class CanvasAccessible : public QAccessibleWidget, public QAccessibleValueInterface {
  public:
   explicit CanvasAccessible(CanvasWidget& widget);
   ~CanvasAccessible() override;
 
-  // Tells them of a change; costs a look at a flag while there are none.
+  // Announces a change. While no assistive technology runs, this only reads a flag.
   static void announce(CanvasWidget& widget, AccessibleChange change);
 
-  // What the canvas says of itself, or null.
+  // The canvas's Accessible, or null.
   Accessible* described() const;
 
-  // Does something as a gesture of the user: now, or when the event loop comes round to it, for what may open a dialog.
-  // Nothing is done where the user could not do it by hand: in a canvas that is disabled or out of sight, or behind a
-  // modal window.
+  // Call `gesture` as a gesture of the user: now, or from the event loop if it may open a dialog. They do nothing if
+  // the user could not act by hand: in a disabled or invisible canvas, or while a modal window blocks.
   void act(const std::function<void(Accessible&)>& gesture) const;
   void actLater(std::function<void(Accessible&)> gesture) const;
 
@@ -53,13 +52,14 @@ class CanvasAccessible : public QAccessibleWidget, public QAccessibleValueInterf
 
  private:
   void tellCurrentCell();
-  // Has what has changed since the last time told when it has come to rest.
+  // Calls tellChanges() when no more changes follow for a moment. Does nothing if the description is the same, unless
+  // `cellsToo` is set.
   void tellAtRest(bool cellsToo);
   void tellChanges();
   void tell(QAccessible::Event what, int cell = -1) const;
 
   CanvasWidget& canvas_;
-  mutable std::map<int, QAccessible::Id> cells_;  // those that were asked for
+  mutable std::map<int, QAccessible::Id> cells_;  // the interfaces made so far, by index
   QString seen_;                                  // the description at the last announcement
   QString toldName_, toldDescription_;
   int toldValue_ = -1;

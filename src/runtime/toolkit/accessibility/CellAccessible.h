@@ -6,17 +6,17 @@ namespace tavrelkin {
 
 class CanvasAccessible;
 
-// One cell of a canvas as assistive technologies meet it. It belongs to the canvas's interface, and is valid as long as
-// the canvas has a cell of its number.
+// The accessible interface of one cell of a canvas. The canvas's interface owns it. It is valid while the canvas has a
+// cell with its index.
 class CellAccessible : public QAccessibleInterface, public QAccessibleActionInterface {
  public:
-  // `widget` is the canvas's own.
+  // `widget` is the canvas's widget.
   CellAccessible(const CanvasAccessible& canvas, QObject& widget, int index)
       : canvas_(canvas), widget_(widget), index_(index) {}
 
   int index() const { return index_; }
 
-  // Tells of another name, if the one that was told last is no longer true.
+  // Announces the name if it has changed since it was last read.
   void tellName();
 
   bool isValid() const override;

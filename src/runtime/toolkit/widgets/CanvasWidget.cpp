@@ -35,13 +35,14 @@ String asOneByte(const QKeyEvent& event) {
     case Qt::Key_Backtab:
       return {};
     default:
-      // With the command key it is a command, taken or not, and its control character might pass for an arrow.
+      // A key with the command key is a command, handled or not. Its text can be a control character that is equal to
+      // an arrow's.
       if (event.modifiers() & (Qt::ControlModifier | Qt::MetaModifier)) return {};
       return event.text().toUtf8().left(1).toStdString();
   }
 }
 
-// A control copies what is dropped, and never takes it away from where it came from.
+// A drop is always a copy; the source of the drag must not remove its data.
 void takeCopy(QDropEvent& event) {
   event.setDropAction(Qt::CopyAction);
   event.accept();
@@ -93,7 +94,7 @@ QRect CanvasWidget::takeChanges() {
     std::memcpy(surface_.row(y), surface.row(y), bytes);
   if (first == end) return {};
   enlarged_ = {};
-  // Elsewhere the toolkit rounds the edges of a part in its own way, and a text may change as a whole.
+  // At other scales Qt rounds the edges of a part differently, and a sharp text may change outside of the changed rows.
   return devicePixelRatioF() == 1 ? QRect(0, first, width, end - first) : rect();
 }
 
@@ -120,12 +121,12 @@ void CanvasWidget::paintEvent(QPaintEvent* event) {
 }
 
 void CanvasWidget::paintEnlarged(QPainter& painter, const Enlargement& enlargement) {
-  static const std::vector<DrawnText> kNone;
   if (enlarged_.isNull() || enlargedBy_ != enlargement.scale()) {
-    enlarged_ = enlargement.of(surface_, canvas_ ? canvas_->texts_ : kNone);
+    const bool hasTexts = canvas_ && !canvas_->texts_.empty();
+    enlarged_ = hasTexts ? enlargement.of(canvas_->ground_, canvas_->texts_) : enlargement.of(surface_);
     enlargedBy_ = enlargement.scale();
   }
-  // Pixel for pixel: the painter's own scaling would set edges between two pixels of the screen.
+  // Draws without the painter's scaling, which would put edges between two pixels of the screen.
   const QTransform toScreen = painter.deviceTransform();
   const QTransform toCorner = QTransform::fromTranslate(qRound(toScreen.dx()), qRound(toScreen.dy()));
   painter.setWorldTransform(toCorner * toScreen.inverted());
@@ -139,7 +140,7 @@ void CanvasWidget::setOpaque(bool opaque) {
 }
 
 QPoint CanvasWidget::pixelUnder(const QMouseEvent& event) const {
-  constexpr qreal slack = 1.0 / 64;  // for what a division loses
+  constexpr qreal slack = 1.0 / 64;  // for rounding errors of the position
   const Enlargement enlargement(devicePixelRatioF());
   const auto pixel = [&](qreal position, int corner) {
     const int onScreen = qFloor((position + corner) * enlargement.scale() + slack);
@@ -157,7 +158,7 @@ void CanvasWidget::mousePressEvent(QMouseEvent* event) {
 
 void CanvasWidget::mouseMoveEvent(QMouseEvent* event) {
   if (!canvas_) return;
-  // A drag out of the canvas takes the release with it.
+  // After a drag-and-drop out of the canvas no release comes.
   if (!(event->buttons() & Qt::LeftButton)) granted_ = false;
   movedTo_ = pixelUnder(*event);
   movedWithoutButton_ = event->buttons() == Qt::NoButton;
@@ -212,14 +213,14 @@ void CanvasWidget::dropEvent(QDropEvent* event) {
   if (!canvas_) return;
   takeCopy(*event);
   const Ref<DragItem> item = fromDrop(*event);
-  // It may have been offered, and not be sent.
+  // The source may have offered a type and not have sent its data.
   if (canvas_->accepts(*item)) deliver(canvas_->ownerWindow(), [&] { canvas_->Event_DropObject(item, 0); });
 }
 
 void CanvasWidget::keyPressEvent(QKeyEvent* event) {
   const String key = asOneByte(*event);
   if (!canvas_ || !canvas_->Enabled || key.empty()) return event->ignore();
-  // A key that is held down presses once.
+  // A held key presses once.
   if (event->isAutoRepeat() && isPressKey(key)) return;
   event->setAccepted(deliver(canvas_->ownerWindow(), [&] { return canvas_->Event_KeyDown(key); }));
 }

@@ -19,14 +19,13 @@ class CanvasWidget : public QWidget {
  public:
   explicit CanvasWidget(Canvas& canvas);
 
-  // The canvas goes; what still comes from the toolkit is ignored.
+  // Called when the canvas is destroyed. Later events of the toolkit are ignored.
   void detach();
 
-  // The canvas, or null when it is gone.
+  // The canvas, or null after detach().
   Canvas* canvas() const { return canvas_; }
 
-  // Has the surface on the screen when the event loop comes round to it, or at once. What looks the same as before
-  // costs no painting.
+  // Show the surface on the screen: from the event loop, or at once. Unchanged rows are not painted.
   void showSoon();
   void showNow();
 
@@ -44,29 +43,29 @@ class CanvasWidget : public QWidget {
   void keyPressEvent(QKeyEvent* event) override;
 
  private:
-  // Updates the picture that is shown; gives the part that has to be painted.
+  // Copies the changed rows of the canvas's surface. Returns the part of the widget to repaint.
   QRect takeChanges();
   void paintEnlarged(QPainter& painter, const Enlargement& enlargement);
-  // Whether the window need not paint beneath. It must at a scale that is no whole number, where the toolkit may leave
-  // out pixels between two widgets.
+  // Sets whether the window skips painting below the canvas. It must paint there at a fractional scale, where Qt may
+  // leave gaps between two widgets.
   void setOpaque(bool opaque);
-  // Raises the MouseDrag or MouseMove of the last movement.
+  // Raises MouseDrag or MouseMove for the last movement.
   void tellMovement();
-  // Has it raised again with each change of the screen, while the button is held or for a moment.
+  // Starts to raise that event again with each change of the screen: while the button is held, else for a moment.
   void followScreen();
   void followScreenNoMore();
-  // The pixel of the canvas that shows under the pointer, also left of and above it.
+  // The canvas's pixel under the pointer. Negative to the left of the canvas and above it.
   QPoint pixelUnder(const QMouseEvent& event) const;
 
   Canvas* canvas_;
-  QPoint movedTo_;  // the canvas's pixel that the last movement led to
+  QPoint movedTo_;  // the canvas's pixel under the pointer after the last movement
   bool movedWithoutButton_ = false;
-  bool granted_ = false;           // the press now held was accepted by the canvas
-  Surface surface_{0, 0, kWhite};  // as it was last shown
-  QImage enlarged_;                // for the screen it is on; none where that takes no enlargement, or not made yet
+  bool granted_ = false;           // the canvas has accepted the press that is held now
+  Surface surface_{0, 0, kWhite};  // the canvas's surface when it was last shown
+  QImage enlarged_;                // the surface at the screen's scale; null until it is needed
   qreal enlargedBy_ = 1;
   bool showPosted_ = false;
-  std::optional<ScreenWatch> watch_;  // while movements are raised again
+  std::optional<ScreenWatch> watch_;  // set while events are raised again
   QTimer restingPointer_;
 };
 

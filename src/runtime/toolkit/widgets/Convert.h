@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QColor>
+#include <QKeySequence>
 #include <QString>
 
 #include "runtime/core/drawing/Color.h"
@@ -15,13 +16,21 @@ inline String fromQt(const QString& text) {
   return text.toStdString();
 }
 
-// A text of several lines as the toolkit shows it; the program's own mark for a new line is "\r".
+// A text with Qt's line breaks in place of the program's, which are "\r".
 inline QString toDisplayText(const String& text) {
   return toQt(text).replace(QLatin1Char('\r'), QLatin1Char('\n'));
 }
 
 inline QColor toQt(Color c) {
   return QColor::fromRgb(c.bits);
+}
+
+// The keys of a shortcut such as "Cmd+Option+C". "Cmd" is Qt's Ctrl (the Command key where the platform has it),
+// "Option" is Alt. An empty text gives no keys.
+inline QKeySequence toKeySequence(const String& shortcut) {
+  QString keys = toQt(shortcut);
+  keys.replace(QLatin1String("Cmd"), QLatin1String("Ctrl")).replace(QLatin1String("Option"), QLatin1String("Alt"));
+  return QKeySequence(keys, QKeySequence::PortableText);
 }
 
 }  // namespace tavrelkin

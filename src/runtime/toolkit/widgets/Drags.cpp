@@ -26,7 +26,7 @@ namespace {
 
 constexpr auto kPrivatePrefix = "application/x-tavrelkin-";
 constexpr auto kDesktopColor = "application/x-color";
-constexpr auto kPlainText = "text/plain;charset=utf-8";  // what the toolkit doesn't know as text by itself
+constexpr auto kPlainText = "text/plain;charset=utf-8";  // a type that Qt doesn't recognise as text
 
 QColor toColor(const String& triple) {
   const auto channel = [&triple](Int32 n) { return toInt32(Val(NthField(triple, ",", n))); };
@@ -79,7 +79,7 @@ struct Sent final : Content {
   Offer& offer;
 };
 
-// Reads only the types that count, since each read may take another program's time.
+// Reads only the types that are needed, since each read may have to wait for another program.
 Ref<DragItem> itemOf(const QMimeData& types, const Content& content) {
   Ref<DragItem> item = New<DragItem>();
   const QString prefix = QLatin1String(kPrivatePrefix);
@@ -94,7 +94,7 @@ Ref<DragItem> itemOf(const QMimeData& types, const Content& content) {
   return item;
 }
 
-// White around black, so that it can be seen on any ground.
+// A white rectangle inside a black one, so that the outline is visible on any background.
 QPixmap outlineOf(const QSize& size) {
   QPixmap picture(size);
   picture.fill(Qt::transparent);
@@ -132,7 +132,7 @@ Ref<DragItem> fromDrop(const QDropEvent& event) {
   return offer ? itemOf(*event.mimeData(), Sent(*offer)) : fromMime(*event.mimeData());
 }
 
-// The drag belongs to the program, not to the window, which may be closed before the user lets go.
+// The parent of the drag is the application, since the window may be closed before the user releases the button.
 void beginDrag(const DragItem& item, QWidget& content, const QRect& outline) {
   auto* drag = new QDrag(QCoreApplication::instance());
   drag->setMimeData(toMime(item).release());

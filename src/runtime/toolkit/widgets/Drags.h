@@ -11,21 +11,22 @@ class QWidget;
 
 namespace tavrelkin {
 
-// What a drag item is to other programs, and what their drags are to this one. Private data travels under a MIME type
-// of its own; a colour ("hcol", three numbers with commas between them) goes along as application/x-color as well, and
-// a foreign application/x-color comes in as "hcol" where there is none. A malformed one counts as absent. A drag of
-// files or links carries no text: their addresses, which it has as text, are no text that a user dragged.
+// Convert between a drag item and the MIME data that programs exchange. Private data has a MIME type of its own. A
+// colour ("hcol": three numbers, separated by commas) is also sent as application/x-color. A received
+// application/x-color becomes "hcol", unless there is an "hcol" or the data is malformed. A drag of files or links
+// gives no text, although its data has their addresses as text.
 std::unique_ptr<QMimeData> toMime(const DragItem& item);
 Ref<DragItem> fromMime(const QMimeData& data);
 
-// What a drag offers: an item with the types, all of them empty. Its source is not asked, so that a drag may pass over
-// the windows whatever it carries.
+// An item with all the types of a drag, but empty data. It asks the source of the drag for nothing, so a drag of any
+// size can move over the windows without delay.
 Ref<DragItem> offeredBy(const QMimeData& data);
 
-// What a drop carries. What another program sends is read within the bounds of an Offer.
+// An item with the data of a drop. Data from another program is read within the limits of Offer.
 Ref<DragItem> fromDrop(const QDropEvent& event);
 
-// Drags an item out of a window, whose content has the outline at the given place. Returns when the drag is over.
+// Drags an item. `outline` is the rectangle that the pointer carries, in coordinates of `content`, at its place at the
+// start. Returns when the drag is over.
 void beginDrag(const DragItem& item, QWidget& content, const QRect& outline);
 
 }  // namespace tavrelkin

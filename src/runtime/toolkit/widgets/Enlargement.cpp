@@ -6,25 +6,9 @@
 
 #include <QPainter>
 
-#include "runtime/toolkit/widgets/FontPainter.h"
+#include "runtime/toolkit/widgets/Fonts.h"
 
 namespace tavrelkin {
-
-namespace {
-
-void put(const std::vector<std::uint32_t>& pixels, const Block& block, Surface& surface) {
-  auto from = pixels.begin();
-  for (Int32 y = block.top; y < block.top + block.height; ++y, from += block.width)
-    std::copy_n(from, block.width, surface.row(y) + block.left);
-}
-
-void set(const DrawnText& text, QPainter& painter) {
-  const Block& place = text.place;
-  painter.setClipRect(place.left, place.top, place.width, place.height);
-  FontPainter::draw(text, painter);
-}
-
-}  // namespace
 
 bool Enlargement::isWhole() const {
   return scale_ == qFloor(scale_);
@@ -38,7 +22,7 @@ int Enlargement::pixelAt(int onScreen) const {
   return qCeil((onScreen + 0.5) / scale_) - 1;
 }
 
-QImage Enlargement::blocksOf(const Surface& surface) const {
+QImage Enlargement::of(const Surface& surface) const {
   QImage result(edge(surface.width()), edge(surface.height()), QImage::Format_RGB32);
   std::vector<int> columns(static_cast<std::size_t>(result.width()));
   for (int x = 0; x < surface.width(); ++x)
@@ -54,21 +38,12 @@ QImage Enlargement::blocksOf(const Surface& surface) const {
   return result;
 }
 
-QImage Enlargement::of(const Surface& surface, const std::vector<DrawnText>& texts) const {
-  std::vector<const DrawnText*> whole;
-  for (const DrawnText& text : texts)
-    if (text.isWholeOn(surface)) whole.push_back(&text);
-  if (whole.empty()) return blocksOf(surface);
-
-  // The coarse ones would show behind the sharp ones.
-  Surface ground = surface;
-  for (const DrawnText* text : whole)
-    put(text->ground, text->place, ground);
-  QImage result = blocksOf(ground);
+QImage Enlargement::of(const Surface& ground, const std::vector<DrawnText>& texts) const {
+  QImage result = of(ground);
   result.setDevicePixelRatio(scale_);
   QPainter painter(&result);
-  for (const DrawnText* text : whole)
-    set(*text, painter);
+  for (const DrawnText& text : texts)
+    FontPainter::draw(text, painter);
   painter.end();
   result.setDevicePixelRatio(1);
   return result;

@@ -4,32 +4,32 @@
 
 #include <QImage>
 
-#include "runtime/core/drawing/DrawnText.h"
+#include "runtime/core/drawing/TextPainter.h"
 
 namespace tavrelkin {
 
-// How a canvas shows on a screen with more pixels than it has itself: each of its pixels as a hard-edged block. Where
-// the scale is no whole number, each edge between two of them lies at the screen's nearest, so that two blocks differ
-// by one pixel at the most.
+// Enlarges a canvas for a screen with a scale factor: each of its pixels becomes a hard-edged block. At a fractional
+// scale the edges of the blocks are rounded to the screen's pixels, so the sizes of two blocks differ by at most one
+// pixel.
 class Enlargement {
  public:
-  // `scale` is at least 1.
+  // `scale` is the screen's pixels per pixel of the canvas, at least 1.
   explicit Enlargement(qreal scale) : scale_(scale) {}
 
   qreal scale() const { return scale_; }
-  bool isWhole() const;  // as a number
+  bool isWhole() const;  // whether the scale is a whole number
 
-  // The first pixel of the screen that shows pixel `i`, counted from the canvas's left or top edge. May be negative.
+  // The first screen pixel of the block of pixel `i`, from the canvas's left or top edge. Both may be negative.
   int edge(int i) const;
-  // The pixel whose block a pixel of the screen belongs to.
+  // The canvas's pixel whose block contains a screen pixel.
   int pixelAt(int onScreen) const;
 
-  // The surface at the screen's size. Those of the texts that are whole on it are set anew, and sharp.
-  QImage of(const Surface& surface, const std::vector<DrawnText>& texts) const;
+  // The enlarged surface.
+  QImage of(const Surface& surface) const;
+  // The enlarged surface, with texts drawn on it in the screen's pixels, so that they are sharp.
+  QImage of(const Surface& ground, const std::vector<DrawnText>& texts) const;
 
  private:
-  QImage blocksOf(const Surface& surface) const;
-
   qreal scale_;
 };
 

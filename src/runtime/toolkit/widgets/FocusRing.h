@@ -4,8 +4,8 @@
 
 namespace tavrelkin {
 
-// Shows which canvas of a window has the keyboard: a ring around it, outside of its pixels, which belong to the
-// program. It comes and goes with the focus; controls of the toolkit show theirs by themselves.
+// A ring around the canvas that has the keyboard focus. It lies outside of the canvas's pixels, which are the
+// program's, and follows the focus. Other controls show the focus themselves.
 class FocusRing : public QFocusFrame {
  public:
   explicit FocusRing(QWidget& content);

@@ -25,7 +25,7 @@ bool HeldKeys::isHeld(const QKeyEvent& press) const {
 }
 
 bool HeldKeys::eventFilter(QObject* receiver, QEvent* event) {
-  // From the windows the events go on to the widgets.
+  // Only looks at the windows' events. Widgets get theirs from their window, so each event is handled once.
   if (!receiver->isWindowType()) return false;
   switch (event->type()) {
     case QEvent::ShortcutOverride:

@@ -9,7 +9,7 @@ namespace tavrelkin {
 
 namespace {
 
-// What the user means for the window. What only begins or ends there, such as a release or a leave, does no harm.
+// Input that shows the user's intent to use the window. Other input is not intent, such as a movement of the pointer.
 bool isMeant(QEvent::Type type) {
   switch (type) {
     case QEvent::MouseButtonPress:
@@ -23,6 +23,7 @@ bool isMeant(QEvent::Type type) {
   }
 }
 
+// Input that the blocked window must not get. A release or a leave does no harm: it ends what began before.
 bool isDropped(QEvent::Type type) {
   switch (type) {
     case QEvent::ShortcutOverride:
@@ -44,7 +45,7 @@ ModalBlock::ModalBlock(QWindow& window, std::function<void()> reached) : reached
   window.installEventFilter(this);
 }
 
-// The toolkit looks for a shortcut unless the window claims the key for itself.
+// Accepting ShortcutOverride keeps Qt from running a shortcut.
 bool ModalBlock::eventFilter(QObject*, QEvent* event) {
   if (!isDropped(event->type())) return false;
   event->setAccepted(event->type() == QEvent::ShortcutOverride);

@@ -8,11 +8,11 @@ class QWindow;
 
 namespace tavrelkin {
 
-// Keeps the user's input from a window that a modal one blocks, as long as the object lives. The toolkit's own modality
-// drops such input unseen, so that a minimised modal window would leave the program without an answer to any of it.
+// Drops the user's input to a window that a modal window blocks, while the object lives. Qt's own modality drops it
+// without notice, so the program could not bring a minimised modal window back.
 class ModalBlock : public QObject {
  public:
-  // `reached` is called for each press, key, turn of the wheel and request to close that the window would have got.
+  // `reached` is called for each mouse press, key press, turn of the wheel and close request that is dropped.
   ModalBlock(QWindow& window, std::function<void()> reached);
 
   bool eventFilter(QObject* window, QEvent* event) override;

@@ -6,9 +6,24 @@
 #include <QFontMetrics>
 #include <QPainter>
 
-#include "runtime/toolkit/accessibility/RestingAnnouncement.h"
+#include "runtime/toolkit/accessibility/Accessibility.h"
 
 namespace tavrelkin {
+
+namespace {
+
+Qt::Alignment toQt(TextAlignment where) {
+  switch (where) {
+    case TextAlignment::centred:
+      return Qt::AlignHCenter;
+    case TextAlignment::right:
+      return Qt::AlignRight;
+    default:
+      return Qt::AlignLeft;
+  }
+}
+
+}  // namespace
 
 void TextLabel::setLines(const QString& lines) {
   if (lines == text_) return;
@@ -34,9 +49,7 @@ void TextLabel::setTextColor(const QColor& c) {
 }
 
 void TextLabel::align(TextAlignment where) {
-  across_ = where == TextAlignment::left      ? Qt::AlignLeft
-            : where == TextAlignment::centred ? Qt::AlignHCenter
-                                              : Qt::AlignRight;
+  across_ = toQt(where);
   update();
 }
 
@@ -44,7 +57,7 @@ void TextLabel::fit() {
   constexpr int narrowest = 66;
   QFont fitted = base_;
   const auto wanted = [&] { return QFontMetrics(fitted).size(0, text_).width(); };
-  // Each character's width is rounded, so that the first stretch may not be narrow enough.
+  // Character widths are rounded, so the first stretch may still be too wide.
   int stretch = 100;
   for (int needs = wanted(); needs > width() && width() > 0 && stretch > narrowest; needs = wanted()) {
     stretch = std::max(narrowest, std::min(stretch - 1, stretch * width() / needs));

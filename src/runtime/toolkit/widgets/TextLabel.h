@@ -7,10 +7,9 @@
 
 namespace tavrelkin {
 
-// A label whose single line stands in the middle of its height. It sets its text narrower where it would be cut off.
-// Its lines have the same pitch in every family of fonts, since other controls stand beside them. Assistive
-// technologies hear of another text when it has come to rest; the toolkit's own label would tell each of those of a
-// followed pointer.
+// The widget of a StaticText. Its lines have the same pitch in every font family, since other controls are placed
+// beside them. A change of the text is announced to assistive technologies when no more follow for a moment. Qt's own
+// label would announce each of the many changes while the program follows the pointer.
 class TextLabel : public QWidget {
  public:
   const QString& text() const { return text_; }
@@ -19,7 +18,7 @@ class TextLabel : public QWidget {
   void setTextColor(const QColor& c);
   void align(TextAlignment where);
 
-  // To be called after a change of size.
+  // Condenses the text to the width of the label. To be called after a change of size.
   void fit();
 
  protected:

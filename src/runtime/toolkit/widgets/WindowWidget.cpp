@@ -24,9 +24,8 @@ namespace {
 
 Qt::WindowFlags flagsOf(const WindowDesign& design) {
   Qt::WindowFlags flags = design.frame == WindowFrame::movableModal ? Qt::Dialog : Qt::Window;
-  flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
-  flags.setFlag(Qt::WindowCloseButtonHint, design.closeButton);
-  flags.setFlag(Qt::WindowMinimizeButtonHint, design.minimizeButton);
+  flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint |
+           Qt::WindowMinimizeButtonHint;
   flags.setFlag(Qt::WindowMaximizeButtonHint, design.maximizeButton);
   return flags;
 }
@@ -54,8 +53,8 @@ void WindowWidget::setContentSize(int width, int height) {
   if (const QWidget* focus = focusWidget(); focus && !isInSight(*focus)) leaveFocus();
 }
 
-// Moves the focus to the previous control, like Shift+Tab. The control that folds a window comes before the controls
-// that are folded away.
+// Moves the focus to the previous control, like Shift+Tab. The control that folds a window precedes those that it
+// hides.
 void WindowWidget::leaveFocus() {
   if (!focusNextPrevChild(false)) focusWidget()->clearFocus();
 }
@@ -99,8 +98,8 @@ void WindowWidget::showInFront() {
   activateWindow();
 }
 
-// Skips controls outside the window's content, such as those below the fold. Qt's own function moves the focus through
-// them, and a screen reader would announce each of them.
+// Skips controls outside of the window's rectangle, such as those in a folded part. Qt's own function moves the focus
+// through them, and a screen reader would announce each of them.
 bool WindowWidget::focusNextPrevChild(bool next) {
   QWidget* const from = focusWidget() ? focusWidget() : this;
   const auto step = [next](const QWidget* at) { return next ? at->nextInFocusChain() : at->previousInFocusChain(); };
@@ -113,7 +112,7 @@ bool WindowWidget::focusNextPrevChild(bool next) {
 }
 
 // On a monitor with another scale factor Qt keeps the window's size in device pixels, so its size in logical pixels
-// changes. The timer waits, since a window that is being moved may change monitors for a moment only.
+// changes. The timer delays the correction, since a window that is dragged may be on another monitor only for a moment.
 void WindowWidget::resizeEvent(QResizeEvent*) {
   constexpr std::chrono::milliseconds settled(100);
   const qreal scale = devicePixelRatioF();
@@ -122,13 +121,13 @@ void WindowWidget::resizeEvent(QResizeEvent*) {
 
 void WindowWidget::takeSizeAgain() {
   const QSize whole = minimumSize();
-  // A window belongs to the monitor that holds its centre. The new size must not move the centre back to the former
-  // monitor: the window would change its size again and again.
+  // A window belongs to the monitor that contains its centre. The new size must not move the centre back to the former
+  // monitor; otherwise the window would be resized again and again.
   const QRect monitor = screen()->geometry().adjusted(1, 1, -1, -1);
   const QPoint middle = QRect(geometry().topLeft(), whole).center();
   const QPoint inside(std::clamp(middle.x(), monitor.left(), monitor.right()),
                       std::clamp(middle.y(), monitor.top(), monitor.bottom()));
-  // The window manager learns the limits in this monitor's pixels only when they change.
+  // Changes the size limits, so that Qt sends them to the window manager in this monitor's pixels.
   setMinimumSize(0, 0);
   if (inside != middle) setGeometry(QRect(geometry().topLeft() + inside - middle, whole));
   setFixedSize(whole);
@@ -157,7 +156,7 @@ void WindowWidget::showEvent(QShowEvent* event) {
   windowHandle()->installEventFilter(this);
 }
 
-// On Wayland this is the only sign that a window was minimised.
+// On Wayland an Expose event is the only sign that a window was minimised.
 bool WindowWidget::eventFilter(QObject* watched, QEvent* event) {
   if (watched == windowHandle() && event->type() == QEvent::Expose) {
     const bool isSeen = windowHandle()->isExposed();

@@ -16,33 +16,35 @@ class ModalBlock;
 class Window;
 struct WindowDesign;
 
-// Shows a window: a menu bar on top, if there is one, and the content below it. Passes the toolkit's events on.
+// The widget of a Window: an optional menu bar and the content below it. Passes the toolkit's events on to the window.
 class WindowWidget : public QWidget {
  public:
   WindowWidget(Window& window, const WindowDesign& design);
   ~WindowWidget() override;
 
-  // The window goes; what still comes from the toolkit is ignored.
+  // Called when the window is destroyed. Later events of the toolkit are ignored.
   void detach() { window_ = nullptr; }
 
   QWidget& content() const { return *content_; }
 
-  // A control that has the keyboard, and that the new size leaves no part of, gives it to one in sight.
+  // Sets the size of the content in logical pixels. If no part of the control with the focus remains visible, the focus
+  // moves to a visible control.
   void setContentSize(int width, int height);
   void setBackColor(const QColor& c);
   void setMenuBar(const Ref<MenuBar>& bar);
   void showInFront();
 
-  // Whether the window has the frame of a dialog, as modal windows do.
+  // Whether the window has the frame of a dialog. All modal windows do.
   bool isDialog() const { return windowType() == Qt::Dialog; }
 
-  // While blocked, the window takes nothing from the user, and has its blocker called back instead.
+  // While blocked, the window drops the user's input and brings its blocker to the front instead.
   void setBlocked(bool blocked);
 
-  // Whether another window has the activation because this one was minimised just now. True once after each time.
+  // Whether the window was minimised since the last call, and still is. The window manager then activates another
+  // window, which is no gesture of the user.
   bool passesActivationOn();
 
-  // False while the toolkit says that no part of the window is in sight. Before the window is shown first it is true.
+  // False while Qt reports that no part of the window is visible. True before the window is first shown.
   bool isSeen() const { return isSeen_; }
 
  protected:
@@ -62,7 +64,7 @@ class WindowWidget : public QWidget {
 
   Window* window_;
   QWidget* content_;
-  qreal scale_ = 1;  // of the screen it was on when it was last resized
+  qreal scale_ = 1;  // the scale factor at the last resize
   QTimer rescaled_;
   std::unique_ptr<ModalBlock> block_;
   bool passesActivationOn_ = false;

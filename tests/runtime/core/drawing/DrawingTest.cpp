@@ -13,7 +13,6 @@
 #include "runtime/core/drawing/Color.h"
 #include "runtime/core/drawing/Graphics.h"
 #include "runtime/core/drawing/Picture.h"
-#include "runtime/core/drawing/RGBSurface.h"
 
 namespace tavrelkin {
 namespace {

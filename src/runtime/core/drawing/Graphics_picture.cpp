@@ -8,8 +8,8 @@ namespace tavrelkin {
 
 namespace {
 
-// One axis of a scaling: which pixels of the destination are drawn, and which source pixel each of them shows. Those
-// whose source pixel doesn't exist are left out; the others stand next to each other.
+// Scaling along one axis: which pixels of the destination are drawn, and which source pixel each of them shows. A pixel
+// whose source pixel doesn't exist is not drawn. The drawn ones are adjacent, so the first and a list are enough.
 class AxisMap {
  public:
   AxisMap(Int32 position, Int32 size, Int32 limit, Int32 sourcePosition, Int32 sourceSize, Int32 sourceLimit) {
@@ -36,7 +36,7 @@ void copyRow(std::uint32_t* to, const std::uint32_t* from, const std::vector<Int
     *to++ = from[column];
 }
 
-// In a mask white is transparent and black opaque; what lies between mixes the two pictures in that proportion.
+// A white mask pixel keeps what is below, a black one shows what is above, a grey one mixes the two in proportion.
 std::uint32_t mixed(std::uint32_t below, std::uint32_t above, std::uint32_t mask) {
   const Color under{below};
   const Color over{above};

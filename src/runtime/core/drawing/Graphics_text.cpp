@@ -27,16 +27,9 @@ Int32 Graphics::TextAscent() const {
 
 void Graphics::DrawString(const String& text, Int32 x, Int32 y) {
   if (Width() == 0 || Height() == 0) return;
-  touch();
-  DrawnText record{.text = text, .left = x, .baseline = y, .size = TextSize, .color = ForeColor};
-  if (!observer_) return textPainter().draw(record, surface_);
-
-  record.place = textPainter().placeOf(record, surface_);
-  if (record.place.isEmpty()) return;
-  record.ground = pixelsOf(surface_, record.place);
-  textPainter().draw(record, surface_);
-  record.drawn = pixelsOf(surface_, record.place);
-  observer_->textDrawn(std::move(record));
+  const DrawnText drawn{.text = text, .left = x, .baseline = y, .size = TextSize, .color = ForeColor};
+  if (observer_) observer_->willDrawText(drawn);
+  textPainter().draw(drawn, surface_);
 }
 
 }  // namespace tavrelkin

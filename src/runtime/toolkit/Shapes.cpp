@@ -1,4 +1,4 @@
-#include "runtime/toolkit/Line.h"
+#include "runtime/toolkit/Shapes.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -12,6 +12,25 @@
 namespace tavrelkin {
 
 namespace {
+
+class RectangleWidget : public QWidget {
+ public:
+  explicit RectangleWidget(const Rectangle& shown) : shown_(&shown) {}
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    const int w = shown_->BorderWidth;
+    QPainter painter(this);
+    painter.fillRect(rect(), toQt(shown_->FillColor));
+    painter.fillRect(0, 0, width(), w, toQt(shown_->TopLeftColor));
+    painter.fillRect(0, 0, w, height(), toQt(shown_->TopLeftColor));
+    painter.fillRect(0, height() - w, width(), w, toQt(shown_->BottomRightColor));
+    painter.fillRect(width() - w, 0, w, height(), toQt(shown_->BottomRightColor));
+  }
+
+ private:
+  const Rectangle* shown_;
+};
 
 class LineWidget : public QWidget {
  public:
@@ -31,6 +50,13 @@ class LineWidget : public QWidget {
 };
 
 }  // namespace
+
+Rectangle::Rectangle(Window& owner, String name)
+    : RectControl(owner, std::move(name), new RectangleWidget(*this)),
+      FillColor(kWhite, [this](Color) { native().update(); }),
+      TopLeftColor(kBlack, [this](Color) { native().update(); }),
+      BottomRightColor(kBlack, [this](Color) { native().update(); }),
+      BorderWidth(1, [this](Int32) { native().update(); }) {}
 
 Line::Line(Window& owner, String name)
     : RectControl(owner, std::move(name), new LineWidget(*this)),
@@ -54,7 +80,7 @@ void Line::followPoints() {
   native().update();
 }
 
-// A level line has no height, yet needs room to show.
+// The widget of a horizontal or vertical line still needs room for the width of the line.
 void Line::resized() {
   native().resize(Width + BorderWidth, Height + BorderWidth);
 }
