@@ -8,7 +8,7 @@ namespace tavrelkin::test {
 
 namespace {
 
-// The line of that index, once it is whole; empty until then.
+// The line with that index; empty until the line is complete.
 std::string wholeLine(const std::string& text, std::size_t index) {
   std::istringstream lines(text);
   std::string line;

@@ -22,7 +22,8 @@ const xcb_visualtype_t* rootVisual(const xcb_screen_t& screen) {
   throw std::runtime_error("The screen has no visual.");
 }
 
-// One channel on its way to the screen and back: what the window stores for a byte, and the byte that this shows as.
+// Converts one channel to the screen's format and back: the value that the window stores for a byte, and the byte that
+// this value shows as.
 std::uint32_t storedChannel(std::uint32_t byte, std::uint32_t mask) {
   const int bits = std::popcount(mask);
   const std::uint32_t value = bits <= 8 ? byte >> (8 - bits) : byte << (bits - 8);
@@ -119,7 +120,7 @@ void X11Client::fake(std::uint8_t type, std::uint8_t detail, int x, int y) {
 }
 
 void X11Client::setModifier(int mod, std::uint8_t keyCode) {
-  constexpr int kBeforeMod1 = 3;  // Shift, Lock and Control
+  constexpr int kBeforeMod1 = 3;  // the modifiers Shift, Lock and Control
   const auto mapping = await(connection(), xcb_get_modifier_mapping(connection()), xcb_get_modifier_mapping_reply);
   xcb_keycode_t* const keys = xcb_get_modifier_mapping_keycodes(mapping.get());
   std::replace(keys, keys + xcb_get_modifier_mapping_keycodes_length(mapping.get()), keyCode, xcb_keycode_t{0});
@@ -157,7 +158,7 @@ void X11Client::setResources(const std::string& lines) {
   sync();
 }
 
-// No screen may be smaller than the monitors that show it, which therefore go dark.
+// Turns the monitors off first, since the screen can't be smaller than the monitors that show it.
 void X11Client::resizeScreen(int width, int height) {
   arrange({"--output", "screen", "--off", "--fb", std::to_string(width) + "x" + std::to_string(height)});
 }

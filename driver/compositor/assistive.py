@@ -1,4 +1,4 @@
-"""What an assistive technology sees of the session's windows, and the portal's dialog by its means."""
+"""Reads the session's windows as an assistive technology does, and uses the portal's dialog in the same way."""
 import time
 
 import gi
@@ -23,13 +23,13 @@ def below(part):
 
 
 def windows(is_owner):
-    """The windows of those programs for which is_owner says so."""
+    """Returns the windows of the programs for which is_owner returns true."""
     Atspi.get_desktop(0).clear_cache()
     return [window for program in children(Atspi.get_desktop(0)) if is_owner(program) for window in children(program)]
 
 
 def called(window, role, name):
-    """The part of the window with this role, and a name that has `name` in it; None if no part has."""
+    """Returns the part of the window with this role and with `name` in its name, or None."""
     parts = (part for part in below(window) if part.get_role_name() == role and name in part.get_name())
     return next(parts, None)
 
@@ -56,7 +56,7 @@ def has_keyboard(window):
 
 
 def allow(dialog):
-    """Shares all monitors."""
+    """Selects all monitors in the dialog and shares them."""
     monitors = called(dialog, "list", "")
     for index in range(monitors.get_child_count()):
         monitors.select_child(index)

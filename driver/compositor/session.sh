@@ -13,7 +13,7 @@
 # It takes the packages of the purposes "run" and "compositor".
 set -euo pipefail
 
-# Ends with the parent, also where that is killed outright.
+# Ends the child with its parent, even if the parent is killed.
 child=(setpriv --pdeathsig TERM --)
 
 give_up() {
@@ -22,7 +22,7 @@ give_up() {
   exit 69
 }
 
-# start NAME COMMAND ...: starts a part of the session, which writes to a log of its own.
+# start NAME COMMAND ...: starts a part of the session, with a log of its own.
 start() {
   local name=$1
   shift
@@ -43,12 +43,12 @@ await() {
 await_socket() { await "the socket $1" test -S "$XDG_RUNTIME_DIR/$1"; }
 await_name() { gdbus wait --session --timeout 20 "$1" 2>/dev/null || give_up "$1 is missing from the bus."; }
 
-# Runs inside the session's bus, which has written to a log so far.
+# Runs inside the session's bus, whose log exists already.
 run_session() {
   local -a monitors
   read -ra monitors <<<"$1"
   shift
-  # The system's bus is played by a second one: neither it nor its services may matter.
+  # A second bus replaces the system's, so that neither the system's bus nor its services matter.
   start system-bus dbus-daemon --session --nofork --address="unix:path=$XDG_RUNTIME_DIR/system-bus"
   export DBUS_SYSTEM_BUS_ADDRESS="unix:path=$XDG_RUNTIME_DIR/system-bus"
   await_socket system-bus
@@ -70,7 +70,7 @@ run_session() {
   "$@"
 }
 
-# Prints the ids of the session's processes, which are known by their runtime folder.
+# Prints the ids of the session's processes, which are found by their runtime folder.
 session_processes() {
   local process
   for process in /proc/[0-9]*; do
@@ -112,8 +112,8 @@ trap 'exit 130' INT
 trap 'exit 143' TERM
 mkdir -m 700 -- "$folder/runtime" "$folder/home" "$folder/logs"
 
-# Nothing of the desktop that this runs on may matter, or be touched. GTK 4 needs no graphics card by Cairo. The threads
-# of OpenGL's software renderer have hung mutter for seconds.
+# The surrounding desktop must neither matter nor be changed. With Cairo, GTK 4 needs no graphics card; the threads of
+# OpenGL's software renderer have blocked mutter for seconds.
 unset DISPLAY WAYLAND_DISPLAY XAUTHORITY LANGUAGE DBUS_SESSION_BUS_ADDRESS "${!XDG_@}" "${!QT_@}"
 export LANG=C.UTF-8 LC_ALL=C.UTF-8 SESSION_LOGS="$folder/logs"
 export HOME="$folder/home" XDG_RUNTIME_DIR="$folder/runtime" GSETTINGS_BACKEND=memory GSK_RENDERER=cairo LP_NUM_THREADS=0

@@ -86,7 +86,7 @@ bool FakePortal::handleMessage(const QDBusMessage& message, const QDBusConnectio
   return true;
 }
 
-// What the method replies at once; nothing if there is no such method.
+// The method's immediate reply; empty if there is no such method.
 QVariantList FakePortal::replyTo(const QDBusMessage& call) {
   const QString method = call.member();
   const auto arguments = call.arguments();

@@ -12,7 +12,7 @@ namespace {
 
 const auto start = QStringLiteral("Start");
 
-// The number of the argument at `index`; 0 if there is no such argument.
+// The number in the argument at `index`; 0 if there is no such argument.
 int number(const QStringList& arguments, int index) {
   return arguments.value(index).toInt();
 }
@@ -75,7 +75,7 @@ void PlayedDesktop::addPortalCommands() {
   commands_[QStringLiteral("undecided")] = [this](auto&) { portal_->undecided << start; };
   commands_[QStringLiteral("decide")] = [this](auto&) {
     portal_->undecided.clear();
-    // The question may still be on its way; then it is answered when it comes.
+    // The request may not have arrived yet; it is then answered when it comes.
     if (portal_->calls[start] > 0) portal_->respond(start);
   };
   commands_[QStringLiteral("mute")] = [this](auto& a) { portal_->mute << a.value(0); };
@@ -113,7 +113,7 @@ void PlayedDesktop::addMonitor(const QString& place) {
   portal_->streams << monitor(monitors_.back().producer->node(), {part(3), part(4)}, {part(1), part(2)});
 }
 
-// As compositors do, the monitor that the pointer leaves says so too.
+// As with compositors, the monitor that the pointer leaves also reports that.
 void PlayedDesktop::movePointer(std::size_t monitor, ScreenPoint at) {
   pointer_ = at;
   const auto last = std::exchange(pointerOn_, monitor);

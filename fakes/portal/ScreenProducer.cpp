@@ -120,7 +120,7 @@ bool ScreenProducer::send(const Update& update, std::chrono::milliseconds longes
   return waitUntil([&] { return trySend(update); }, longest);
 }
 
-// A buffer that follows before the last one has gone out overwrites it at the receiver.
+// A buffer that is sent before the last one has gone out overwrites it at the receiver.
 bool ScreenProducer::trySend(const Update& update) {
   const PipeWireConnection::Lock lock(*connection_);
   if (!isReceived_ || !linker_.isReady() || isSending_ || agreedSize_ != size_) return false;
