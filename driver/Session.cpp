@@ -49,7 +49,7 @@ void OutsideClipboard::copy(const std::string& text) {
   const std::vector<std::string> command{"xclip", "-selection", "clipboard", "-in", "-quiet"};
   auto offer = std::make_unique<Process>(command, server_.environment(), text);
   const auto isOffered = [&] { return owner() != before && owner() != XCB_NONE; };
-  if (!waitUntil(isOffered)) throw std::runtime_error("Nothing can be copied: " + offer->errors());
+  if (!waitUntil(isOffered)) throw std::runtime_error("The text can't be copied: " + offer->errors());
   offer_ = std::move(offer);
 }
 
@@ -97,7 +97,7 @@ void Session::bringToFront(xcb_window_t window) {
     windows.activate(window);
     return waitUntil([&] { return windows.hasKeyboard(window); }, std::chrono::milliseconds(200));
   };
-  if (!waitUntil(isInFront)) throw std::runtime_error("The window doesn't get the keyboard.");
+  if (!waitUntil(isInFront)) throw std::runtime_error("The window doesn't get the focus.");
 }
 
 }  // namespace tavrelkin::test

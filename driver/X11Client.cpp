@@ -97,7 +97,7 @@ std::vector<std::uint32_t> X11Client::read(const Area& area) const {
   const auto cookie =
       xcb_get_image(connection(), XCB_IMAGE_FORMAT_Z_PIXMAP, root(), area.x, area.y, area.width, area.height, ~0U);
   const auto image = await(connection(), cookie, xcb_get_image_reply);
-  if (!image) throw std::runtime_error("The screen can't be read there.");
+  if (!image) throw std::runtime_error("This area of the screen can't be read.");
   const std::uint8_t* const bytes = xcb_get_image_data(image.get());
   const std::size_t rowBytes = std::size_t{image->length} * 4 / area.height;
   const std::size_t pixelBytes = image->depth > 16 ? 4 : 2;
@@ -131,7 +131,7 @@ void X11Client::setModifier(int mod, std::uint8_t keyCode) {
   const auto cookie = xcb_set_modifier_mapping(connection(), mapping->keycodes_per_modifier, keys);
   const auto reply = await(connection(), cookie, xcb_set_modifier_mapping_reply);
   if (!reply || reply->status != XCB_MAPPING_STATUS_SUCCESS)
-    throw std::runtime_error("The modifiers stay as they are.");
+    throw std::runtime_error("The modifiers can't be changed.");
 }
 
 void X11Client::tell(xcb_window_t receiver, std::uint32_t events, xcb_window_t window, const std::string& what,
@@ -175,7 +175,7 @@ void X11Client::splitScreen(int width) {
 void X11Client::arrange(std::vector<std::string> changes) const {
   changes.insert(changes.begin(), {"xrandr", "--display", display_});
   Process xrandr(changes, {});
-  if (xrandr.waitForExit() != 0) throw std::runtime_error("The screen stays as it is: " + xrandr.errors());
+  if (xrandr.waitForExit() != 0) throw std::runtime_error("The screen can't be changed: " + xrandr.errors());
 }
 
 }  // namespace tavrelkin::test

@@ -99,7 +99,7 @@ def main():
     }
     commands[sys.argv[1]](*sys.argv[2:])
     sys.stdout.flush()
-    os._exit(0)  # the library may take a long time to leave the bus
+    os._exit(0)  # the accessibility library may take long to leave the bus
 
 
 main()

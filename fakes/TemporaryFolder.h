@@ -18,7 +18,7 @@ class TemporaryFolder {
  public:
   TemporaryFolder() {
     std::string name = std::filesystem::temp_directory_path() / "tavrelkin-files-XXXXXX";
-    if (!mkdtemp(name.data())) throw std::runtime_error("No folder can be made for temporary files.");
+    if (!mkdtemp(name.data())) throw std::runtime_error("The temporary folder can't be made.");
     path_ = name;
   }
   TemporaryFolder(const TemporaryFolder&) = delete;

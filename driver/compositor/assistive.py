@@ -40,10 +40,10 @@ def has_state(part, state):
 
 
 def await_dialog(asking):
-    """Waits until the portal asks which monitors to share, over the window that asked for it, and gives its dialog.
+    """Waits until the portal's dialog asks which monitors to share, over the window that caused it. Returns the dialog.
 
-    The portal of GNOME 43 may crash where it is looked at while its dialog opens or closes: the window that loses the
-    keyboard tells of that.
+    The portal of GNOME 43 may crash if its windows are read while the dialog opens or closes. The window below loses
+    the focus at that time, so this waits for that instead.
     """
     wait(lambda: not has_keyboard(asking), "the portal's dialog")
     time.sleep(0.5)

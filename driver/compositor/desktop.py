@@ -1,6 +1,6 @@
 """Plays the user of a session that session.sh started: moves the pointer, presses buttons and keys, takes pictures.
 
-All places are global and in pixels, and each monitor has scale 1. Debian's own python3 runs it.
+All positions are in pixels of the whole screen, and each monitor has scale 1. Debian's own python3 runs it.
 
     desktop = Desktop()
     desktop.move(100, 200)

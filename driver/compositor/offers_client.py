@@ -1,7 +1,7 @@
 """Plays another program, with a box for each offer: a click puts it on the clipboard, a drag carries it.
 
-It says "copied" after a click, "dragged" when a drag begins, "accepted" when a target wants what is dragged, "asked"
-when the data of a clipboard or a drag are asked for, and "over" when a drag has ended, whatever became of it.
+It prints "copied" after a click, "dragged" when a drag begins, "accepted" when a target accepts the drag, "asked" when
+a program asks for the data of the clipboard or a drag, and "over" when a drag has ended in any way.
 """
 import gi
 

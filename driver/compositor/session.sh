@@ -1,23 +1,23 @@
 #!/usr/bin/env bash
 # driver/compositor/session.sh [--monitor WIDTHxHEIGHT ...] COMMAND [ARGUMENT ...]
 #
-# Runs the command in a GNOME session on Wayland of its own: mutter without a screen, a message bus, PipeWire and the
-# desktop portal. The exit status is the command's, or 69 if the session did not come up. The first monitor's left top
-# is at 0, 0; each further one stands right of the last. Without --monitor there is one of 1280x1024.
+# Runs the command in a separate GNOME session on Wayland: mutter without a screen, a message bus, PipeWire and the
+# desktop portal. The exit status is the command's, or 69 if the session did not start. The top left corner of the first
+# monitor is at 0, 0; each further monitor is to the right of the last one. Without --monitor there is one of 1280x1024.
 #
-# The command finds WAYLAND_DISPLAY, DBUS_SESSION_BUS_ADDRESS, XDG_RUNTIME_DIR and a home folder that are the session's
-# and go with it, and the logs of the session's parts in $SESSION_LOGS. All processes that it leaves are ended.
-# desktop.py beside this script is the user of such a session: it moves the pointer, presses buttons and keys, and takes
-# pictures of all monitors.
+# The command gets the session's WAYLAND_DISPLAY, DBUS_SESSION_BUS_ADDRESS, XDG_RUNTIME_DIR and home folder, which end
+# with the session, and the logs of the session's parts in $SESSION_LOGS. All its remaining processes are ended.
+# desktop.py beside this script plays the user of such a session: it moves the pointer, presses buttons and keys, and
+# takes pictures of all monitors.
 #
-# It takes the packages of the purposes "run" and "compositor".
+# It needs the packages of the purposes "run" and "compositor".
 set -euo pipefail
 
 # Ends the child with its parent, even if the parent is killed.
 child=(setpriv --pdeathsig TERM --)
 
 give_up() {
-  echo "The session on Wayland did not come up: $1" >&2
+  echo "The session on Wayland did not start: $1" >&2
   tail -n 20 -- "$SESSION_LOGS"/*.log >&2 || true
   exit 69
 }

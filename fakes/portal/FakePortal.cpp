@@ -67,7 +67,7 @@ FakePortal::FakePortal(const QString& busAddress)
   qDBusRegisterMetaType<PortalColor>();
   if (!connection_.bus.registerVirtualObject(root, this, QDBusConnection::SubPath) ||
       !connection_.bus.registerService(family + QStringLiteral("Desktop")))
-    throw std::runtime_error("The bus has no place for a portal.");
+    throw std::runtime_error("The portal can't be registered on the bus.");
 }
 
 bool FakePortal::handleMessage(const QDBusMessage& message, const QDBusConnection&) {

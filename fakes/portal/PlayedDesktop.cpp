@@ -105,7 +105,7 @@ void PlayedDesktop::setMonitors(const QStringList& places) {
 void PlayedDesktop::addMonitor(const QString& place) {
   static const QRegularExpression form(QStringLiteral(R"(\A(\d+)x(\d+)([+-]\d+)([+-]\d+)(?:\*(\d))?\z)"));
   const auto match = form.match(place);
-  if (!match.hasMatch()) throw std::runtime_error("This is no monitor: " + place.toStdString());
+  if (!match.hasMatch()) throw std::runtime_error("This is not a monitor: " + place.toStdString());
   const auto part = [&](int index) { return match.captured(index).toInt(); };
   const int scale = match.captured(5).isEmpty() ? 1 : part(5);
   const ScreenProducer::Size frame{part(1) * scale, part(2) * scale};

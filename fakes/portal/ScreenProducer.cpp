@@ -52,7 +52,7 @@ ScreenProducer::ScreenProducer(const PipeWireDaemon& daemon, Size size, std::uin
     linker_.setProducer(node_);
     return pw_stream_get_state(stream_, nullptr) == PW_STREAM_STATE_PAUSED;
   };
-  if (!waitUntil(hasNode)) throw std::runtime_error("PipeWire takes no producer.");
+  if (!waitUntil(hasNode)) throw std::runtime_error("PipeWire does not accept the producer.");
 }
 
 ScreenProducer::~ScreenProducer() {

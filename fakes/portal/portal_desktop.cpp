@@ -35,7 +35,7 @@ int run(const char* fifoName) {
   const int fifo = mkfifo(fifoName, 0600) == 0 ? open(fifoName, O_RDWR | O_NONBLOCK | O_CLOEXEC) : -1;
   QFile lines;
   if (!lines.open(fifo, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle))
-    throw std::runtime_error("There is no FIFO.");
+    throw std::runtime_error("The FIFO can't be made.");
 
   QByteArray text;
   const QSocketNotifier notifier(fifo, QSocketNotifier::Read);
