@@ -55,7 +55,7 @@ def box_of(kind):
 
     def copy(*_):
         box.get_clipboard().set_content(Offer(kind))
-        box.get_display().sync()  # sent now: the compositor refuses it once another window has the keyboard
+        box.get_display().sync()  # sent now, since the compositor refuses it once another window has the focus
         say("copied")
 
     def begin(_, drag):

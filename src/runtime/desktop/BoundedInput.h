@@ -12,7 +12,7 @@ namespace tavrelkin {
 bool waitForInput(int descriptor, std::chrono::steady_clock::time_point end);
 
 // Makes a pipe and passes its write end to `request`, which must duplicate the descriptor to keep it. Then reads until
-// every write end is closed, and returns what was read. Nothing if the end has not come by the time `end`, if more than
+// every write end is closed, and returns what was read. Nothing if a write end is still open at `end`, if more than
 // `most` bytes come, or on an error. A writer that is still busy then gets a broken pipe.
 std::optional<std::string> readThroughPipe(const std::function<void(int writeEnd)>& request, std::size_t most,
                                            std::chrono::steady_clock::time_point end);

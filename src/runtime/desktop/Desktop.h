@@ -64,8 +64,8 @@ class Desktop {
   // absolute path, or with nothing if the user cancels.
   virtual std::optional<std::string> chooseSaveFile(const std::string& filter, const std::string& name) = 0;
 
-  // The path of the user's folder for this program's own files. Makes the folder if it is missing; if that fails, the
-  // path is returned all the same. Empty if the desktop has no such place.
+  // The path of the user's folder for this program's own files. Makes the folder if it is missing, but returns the path
+  // even if that fails. Empty if the desktop has no such place.
   virtual std::string applicationDataFolder() = 0;
 
   // What another program has put on the clipboard, and what another program's drag carries while its drop on a window

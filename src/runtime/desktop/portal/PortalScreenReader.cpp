@@ -70,7 +70,7 @@ void PortalScreenReader::changed() {
   tellWatcher();
 }
 
-// The copy is called, since the call may end the watch.
+// Calls a copy, since the call may end the watch.
 void PortalScreenReader::tellWatcher() const {
   if (const auto watcher = watcher_) watcher();
 }

@@ -12,7 +12,8 @@ class QWindow;
 
 namespace tavrelkin {
 
-// Follows the toolkit's mouse events in all windows of the program. They are up to date where the stream is late.
+// Follows the toolkit's mouse events in all windows of the program. They come at once, while the stream reports the
+// pointer late.
 class WindowPointer final : public QObject {
  public:
   struct Stream {
