@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Runs every check but the tests' own and prints OK or FAIL for each, with what was found, and what the tests cover.
-# Fails if one fails.
+# Runs all checks except the tests and prints OK or FAIL for each, with its findings. Also reports the tests' coverage
+# and the tree's figures. Fails if a check fails.
 set -euo pipefail
 root=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 # shellcheck source=scripts/packages.sh
@@ -9,13 +9,13 @@ source "$root/scripts/packages.sh"
 source "$root/scripts/build.sh"
 cd -- "$root"
 
-# Headers that other layers never see, and that may therefore name the libraries beneath.
+# Headers that other layers can't include; they may include the libraries' headers.
 private_headers='^src/runtime/(desktop/(native|portal|wayland|x11)|toolkit/(accessibility|widgets))/|_p\.h$'
-# The folders of those libraries' headers.
+# The folders with those libraries' headers.
 private_libraries='/(qt6|boost|pipewire-0.3|spa-0.2|xcb|X11)/'
 
-# Prints the files of the work tree that match the patterns, each with a zero byte behind it: those that git knows, and
-# new ones.
+# Prints the files of the work tree that match the patterns, each followed by a zero byte: the files in git, and new
+# ones.
 files() {
   local file
   git ls-files -z --cached --others --exclude-standard -- "$@" | while IFS= read -r -d '' file; do
@@ -33,7 +33,7 @@ check_format() { files '*.cpp' '*.h' | xargs -0 --no-run-if-empty clang-format -
 
 check_tidy() {
   local here
-  # shellcheck disable=SC2001  # The replacement names what was found, which ${root//} can't.
+  # shellcheck disable=SC2001  # The replacement uses the match, which ${root//} can't.
   here=$(sed 's/[][\\.*^$+?(){}|]/\\&/g' <<<"$root")
   run-clang-tidy -p build/release -j "$(nproc)" -quiet "^$here/(src|tests|fakes|driver|soak|fuzz)/" 2>&1 |
     sed -e 's/\x1b\[[0-9;]*m//g' -e '/^clang-tidy/d' -e '/warnings\? .*generated/d'
@@ -47,8 +47,8 @@ check_desktop() {
   mandoc -T lint -W warning data/tavrelkin.1
 }
 
-# check_header HEADER: whether it compiles with nothing before it and, unless it is private, reaches none of the private
-# libraries, not even through another header.
+# check_header HEADER: whether the header compiles with nothing before it. A public header must not reach a private
+# library, not even through another header.
 check_header() {
   local header=$1 dependencies reached
   local -a flags
@@ -65,14 +65,14 @@ check_header() {
 check_headers() {
   export -f check_header
   export private_headers private_libraries
-  # shellcheck disable=SC2016  # It is the inner shell that expands this.
+  # shellcheck disable=SC2016  # The inner shell expands this.
   files 'src/*.h' | xargs -0 --no-run-if-empty -n 1 -P "$(nproc)" bash -c 'check_header "$1"' check_header
 }
 
-# includes HEADER FLAGS...: whether a source that is compiled with the flags can include the header.
+# includes HEADER FLAGS...: whether a source file that is compiled with the flags can include the header.
 includes() { g++ -std=c++20 "${@:2}" -fsyntax-only -x c++ - <<<"#include \"$1\"" 2>/dev/null; }
 
-# What the color core must not see does not compile with its own include path; what it may see does.
+# With the include path of the color core, public headers of lower layers must compile, and others must not.
 check_floors() {
   local header status=0
   local -a path
@@ -90,7 +90,7 @@ for entry in json.load(open("build/release/compile_commands.json")):
   return "$status"
 }
 
-# Prints how many lines of each layer the unit and window tests reach. A report, with no bound that anyone could fail.
+# Runs the unit and window tests for the report on their coverage, which has no limit that could fail.
 check_coverage() {
   configure coverage -DTAVRELKIN_TESTS=ON
   cmake --build build/coverage
@@ -100,7 +100,7 @@ check_coverage() {
 
 report_coverage() {
   gcovr --root . --filter src/ --object-directory build/coverage --csv - | tail -n +2 |
-    awk -F, '{ sub("build/coverage/layers/[^/]*", "src", $1)  # where the layers have their headers
+    awk -F, '{ sub("build/coverage/layers/[^/]*", "src", $1)  # the folder with links to the headers of a layer
                split($1, folder, "/"); layer = folder[2] ~ /\./ ? "main" : folder[2]
                if (layer == "runtime") layer = layer "/" folder[3]
                lines[layer] += $2; reached[layer] += $3; lines["all"] += $2; reached["all"] += $3 }
@@ -109,7 +109,7 @@ report_coverage() {
 }
 
 failures=0
-# check NAME FUNCTION: the function runs in a shell of its own, for `set -e` is off inside a condition.
+# check NAME FUNCTION: runs the function in a subshell, since `set -e` is off inside a condition.
 check() {
   local output status=0
   set +e
@@ -131,13 +131,13 @@ require_packages build run test check
 check "build without warnings" check_build
 check "format (clang-format)" check_format
 check "headers compile alone; public ones hide the libraries" check_headers
-check "floors: what a layer must not see does not compile" check_floors
+check "floors: forbidden includes do not compile" check_floors
 check "scripts (shellcheck)" check_scripts
 check "desktop entry, metadata and man page" check_desktop
 check "code (clang-tidy)" check_tidy
 check "on a real Wayland compositor" check_compositor
 check "unit and window tests, for their coverage" check_coverage
 report_coverage
-echo "The shape of the tree"
+echo "Figures of the source tree"
 scripts/report.py
 ((failures == 0))

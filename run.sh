@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Builds Tavrelkin and starts it; installs what that takes. With neither DISPLAY nor WAYLAND_DISPLAY set it runs on a
-# virtual display of its own and leaves a screenshot in build/tavrelkin.png. The exit status is the program's.
+# Builds Tavrelkin and starts it; installs the packages that it needs. If neither DISPLAY nor WAYLAND_DISPLAY is set, it
+# runs on a virtual display and saves a screenshot in build/tavrelkin.png. The exit status is the program's.
 set -euo pipefail
 root=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 # shellcheck source=scripts/packages.sh
@@ -16,7 +16,7 @@ purposes=(build run)
 [[ -n ${DISPLAY:-}${WAYLAND_DISPLAY:-} ]] || purposes+=(display)
 require_packages "${purposes[@]}"
 
-# The tests share this build folder: whoever built them keeps them, and nobody else needs their packages.
+# The tests use the same build folder. If they are configured they stay; otherwise nobody needs their packages.
 is_configured release || configure release -DTAVRELKIN_TESTS=OFF
 cmake --build "$root/build/release" --target tavrelkin
 

@@ -1,9 +1,9 @@
-// The program on a desktop that casts its screen, of which a played one gives the frames: so the program's own share
-// shows, without a compositor's. The program's windows are on an X server, where the preview is watched.
+// The program on a desktop that casts its screen. A played desktop sends the frames, so the figures contain only the
+// program's own share, without a compositor's. The program's windows are on an X server, where the preview is observed.
 //
-// Latency: from the moment at which the desktop has handed a place of the pointer, or a frame of 1280 by 1024, to
-// PipeWire, until the cell inside the marker shows the new colour. Previews: the desktop sends a frame 60 times a
-// second; how often does a pixel of the preview become another one?
+// Latency: from the time at which the desktop has handed a place of the pointer, or a frame of 1280 by 1024, to
+// PipeWire, until the cell inside the marker shows the new colour. Previews: the desktop sends 60 frames a second; the
+// figure is how often a pixel of the preview changes.
 
 #include "bench/CastBench.h"
 

@@ -37,7 +37,7 @@ Color noiseAt(std::uint32_t number) {
   return Color{number * 2654435761U >> 8};
 }
 
-// The table has an entry more than there are cells.
+// The table has one entry more than the palette has cells.
 void paintPalette(benchmark::State& state) {
   constexpr std::uint32_t cells = 256;
   const Ref<frmFav> window = New<frmFav>();
@@ -51,7 +51,7 @@ void paintPalette(benchmark::State& state) {
     window->imgClut.Event_Paint(window->imgClut.Graphics());
 }
 
-// Over a sample at zoom step 1, of pixels that all differ.
+// Uses a sample at zoom step 1 in which all pixels differ.
 void findDistinctColors(benchmark::State& state, std::size_t most) {
   const Ref<Picture> picture = NewPicture(103, 49, 32);
   for (Int32 y = 0; y < picture->Height(); ++y) {
@@ -69,8 +69,8 @@ ScreenPoint placeOn(const zrColorCHBar& bar, int column) {
   return {at.x(), at.y()};
 }
 
-// The pointer moves on only when the move before has changed the bar, so that none is lost and none waits. One
-// iteration is a move.
+// The pointer moves only after the previous move has changed the bar, so that no move is lost or waits. One iteration
+// is one move.
 void dragBar(benchmark::State& state, zrColorCHBar& bar, test::Hand& hand) {
   const auto moveTo = [&](int column) {
     hand.moveTo(placeOn(bar, column));

@@ -6,8 +6,8 @@
 
 namespace tavrelkin::bench {
 
-// The colour controls and the views of an unfolded tool window, which shows on the display of `hand`: the paint of a
-// bar, of a palette and of the views, the walk over the preview's colours, and a drag on a bar.
+// Adds the benchmarks of the colour controls and the views of an unfolded tool window, which is on the display of
+// `hand`: painting a bar, a palette and the views, finding the preview's distinct colours, and a drag on a bar.
 void addControlBenchmarks(frmVesk& window, test::Hand& hand);
 void printControlRows(const Medians& medians);
 

@@ -1,5 +1,5 @@
-// The built program, from outside: its start and memory (StartBench.cpp), and what it takes to follow the pointer
-// (FollowBench.cpp, CastBench.cpp). Prints rows of a table on the standard output.
+// Measures the built program from outside: its start and memory (StartBench.cpp), and the cost of following the pointer
+// (FollowBench.cpp, CastBench.cpp). Prints rows of a table to the standard output.
 
 #include <exception>
 #include <iostream>
@@ -11,7 +11,7 @@
 #include "bench/StartBench.h"
 
 int main() {
-  prctl(PR_SET_TIMERSLACK, 1);  // the pauses between two looks at the screen are shorter than the usual slack
+  prctl(PR_SET_TIMERSLACK, 1);  // the pauses between two reads of the screen are shorter than the default slack
   try {
     tavrelkin::bench::benchStart();
     tavrelkin::bench::benchFollowing();

@@ -1,7 +1,7 @@
-// What the colour-vision model costs: the three results of one update, and every colour through one deficiency.
+// The cost of the colour-vision model: the three results of one update, and every colour through one deficiency.
 //
-// The latter is a check as well. Its checksum must be the same for every build on a machine, with and without
-// optimisation, and no result may lie outside the 24 bits of a colour.
+// The latter is also a check. Its checksum must be the same for every build on a machine, with and without
+// optimisation, and every result must be within the 24 bits of a colour.
 
 #include <cstdint>
 #include <iomanip>
@@ -30,7 +30,7 @@ zrXYZ taken(Color c) {
   return xyz;
 }
 
-// As a window does it: a new object, its gamma, the three deficiencies. No two colours in a row are alike.
+// Works as a window does: a new object, its gamma, the three deficiencies. Two successive colours always differ.
 void update(benchmark::State& state) {
   std::uint32_t number = 0;
   for (auto _ : state) {
@@ -43,7 +43,7 @@ void update(benchmark::State& state) {
 
 struct Outcome {
   std::uint32_t invalid = 0;
-  std::uint64_t checksum = 14695981039346656037U;  // FNV-1a, a colour at a time
+  std::uint64_t checksum = 14695981039346656037U;  // FNV-1a, one colour at a time
 
   void add(Color seen) {
     if (seen.bits >= kColors) ++invalid;
@@ -58,8 +58,8 @@ void everyColor(benchmark::State& state, Outcome& outcome) {
   }
 }
 
-// Keeps the time of each benchmark in microseconds, the median of one with several rounds. It is the processor's own,
-// since nothing here waits.
+// Keeps the time of each benchmark in microseconds, or the median if it has several rounds. It is CPU time, since
+// nothing here waits.
 class Times : public benchmark::BenchmarkReporter {
  public:
   bool ReportContext(const Context&) override { return true; }

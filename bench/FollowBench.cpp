@@ -1,10 +1,10 @@
-// The program at rest and following, driven as a user would on an X server with a window manager. The pointer stands or
-// moves over another program's window, which lies apart from all tool windows.
+// The program while idle and while following, driven as a user would on an X server with a window manager. The pointer
+// rests or moves over another program's window, which is away from all tool windows.
 //
-// Previews: that window changes its colour 240 times a second; how often does a pixel of the preview, looked at on the
-// screen every fifth of a millisecond or so, become another one? Latency: the pointer jumps between pixels that are all
-// different, and the cell inside the marker is watched for the new one. Processor time is taken from the kernel's books
-// while nobody watches the screen.
+// Previews: that window changes its colour 240 times a second; the figure is how often a pixel of the preview changes
+// on the screen, which is read about every fifth of a millisecond. Latency: the pointer jumps between pixels that all
+// differ, until the cell inside the marker shows the new pixel. CPU time comes from the kernel while nobody reads the
+// screen.
 
 #include "bench/FollowBench.h"
 
@@ -32,18 +32,18 @@ using namespace std::chrono_literals;
 using namespace tavrelkin::test;
 using Clock = std::chrono::steady_clock;
 
-// Room for eight tool windows above the foreign one.
+// Leaves room for eight tool windows above the other program's window.
 constexpr auto kScreen = "1920x1080x24";
 constexpr Area kForeign{700, 700, 500, 320};
 constexpr ScreenPoint kMiddle{950, 860};
-constexpr ScreenPoint kAside{400, 100};    // of the preview: no marker, no frame
+constexpr ScreenPoint kAside{400, 100};    // in the preview, away from the marker and the frame
 constexpr ScreenPoint kInMarker{206, 98};  // in the centre cell at step 1
 
 Area pixelAt(ScreenPoint at) {
   return {static_cast<std::int16_t>(at.x), static_cast<std::int16_t>(at.y), 1, 1};
 }
 
-// A session with the program, and what is done in it.
+// A session with the program, and the operations in it.
 class FollowBench {
  public:
   FollowBench();
@@ -99,12 +99,13 @@ void FollowBench::benchZoomSteps() {
   }
 }
 
-// Locks the preview to a place and takes the pointer away: this kind of server draws the pointer into the screen, and
-// leaves marks of it where a window changes beneath. The paste is answered after the lock.
+// Locks the preview to a position and moves the pointer away: this server draws the pointer into the screen, and leaves
+// traces of it where a window changes below it. The program handles the paste after the lock.
 void FollowBench::holdAt(ScreenPoint at) {
   session_.hand.moveTo(at);
   windows_[0].keys("Ctrl+L");
-  if (!windows_[0].paste(0x111111) || !windows_[0].paste(0x222222)) throw std::runtime_error("The keys are not heard.");
+  if (!windows_[0].paste(0x111111) || !windows_[0].paste(0x222222))
+    throw std::runtime_error("The program does not respond to keys.");
   session_.hand.moveTo({600, 650});
 }
 
@@ -114,7 +115,7 @@ void FollowBench::benchManyWindows() {
     benchWindows(count);
 }
 
-// Four in a row.
+// Puts four windows in each row.
 void FollowBench::put(const ToolWindow& window, std::size_t number) {
   const auto column = static_cast<std::int16_t>(number % 4);
   const auto row = static_cast<std::int16_t>(number / 4);
@@ -136,7 +137,7 @@ void FollowBench::benchIdle() {
            fixed(program.millisecondsPerSecond(), 2) + " ms a second");
 }
 
-// The server's share of the moves as such.
+// Measures the server's cost of the moves alone.
 void FollowBench::benchMoves() {
   const ForeignWindow foreign(session_.client, kForeign);
   const CpuMeter server(server_);
@@ -182,7 +183,7 @@ void FollowBench::benchLatency() {
            fixed(median(latencies), 1) + " ms, " + fixed(quantile(latencies, 0.95), 1) + " ms");
 }
 
-// From the request to move the pointer.
+// The time from the request to move the pointer.
 double FollowBench::millisecondsTo(ScreenPoint at, const ForeignWindow& foreign) {
   const Area cell = pixelAt(windows_[0].onPreview(kInMarker.x, kInMarker.y));
   const std::uint32_t expected = foreign.shown(at);
@@ -209,7 +210,7 @@ void FollowBench::benchWindows(std::size_t count) {
            "none starves", each + "; " + fixed(cpu, 1) + " %");
 }
 
-// By the keys, and it follows.
+// Opens another window with the keys, and makes it follow.
 void FollowBench::openAnother() {
   windows_.back().keys("Ctrl+N");
   std::vector<xcb_window_t> open;
@@ -217,14 +218,14 @@ void FollowBench::openAnother() {
     open = session_.windows.titled("Color: ");
     return open.size() > windows_.size();
   };
-  if (!waitUntil(isOpen)) throw std::runtime_error("No further window opens.");
+  if (!waitUntil(isOpen)) throw std::runtime_error("The program opens no other window.");
   ToolWindow opened(session_, open.back());
   put(opened, windows_.size());
   opened.keys("Ctrl+F");
   windows_.push_back(opened);
 }
 
-// Of each window, while the screen under the pointer changes.
+// The rate of each window while the screen under the pointer changes.
 std::vector<double> FollowBench::previewsPerSecond() {
   constexpr auto kSpan = 3s;
   constexpr auto kBetweenChanges = std::chrono::nanoseconds(1s) / 240;

@@ -16,7 +16,7 @@ namespace {
 using namespace std::chrono_literals;
 using Clock = std::chrono::steady_clock;
 
-// How many pixels differ: places where a program shows random colours, or where a caret blinks, must not matter.
+// Counts the pixels that differ: a random colour or a blinking caret must not matter.
 bool isNearlyTheSame(const std::vector<std::uint32_t>& one, const std::vector<std::uint32_t>& other) {
   std::size_t different = 0;
   for (std::size_t i = 0; i < one.size(); ++i)
@@ -24,10 +24,10 @@ bool isNearlyTheSame(const std::vector<std::uint32_t>& one, const std::vector<st
   return different * 20 < one.size();
 }
 
-// The window of the program before goes only after its end.
+// The previous program's window closes only after the end of its process.
 void waitUntilEmpty(const PeerDesktop& desktop) {
   if (!test::waitUntil([&] { return desktop.windows.all().empty(); }))
-    throw std::runtime_error("The window before does not go.");
+    throw std::runtime_error("The previous window does not close.");
 }
 
 std::string fileName(const std::string& path) {
@@ -47,7 +47,7 @@ RunningProgram::RunningProgram(PeerDesktop& desktop, const Program& program) : d
   if (!test::waitUntil(isOpen)) throw std::runtime_error(program.name + " shows no window. " + process_->errors());
   window_ = desktop_.windows.all().front();
   usage_.emplace(fileName(program.path));
-  std::this_thread::sleep_for(2s);  // some programs become idle and start again
+  std::this_thread::sleep_for(2s);  // some programs become idle and then work again
   area_ = desktop_.windows.area(window_);
 }
 
@@ -55,7 +55,7 @@ void RunningProgram::follow() {
   if (program_.followKeys.empty()) return;
   desktop_.windows.activate(window_);
   if (!test::waitUntil([&] { return desktop_.windows.hasKeyboard(window_); }))
-    throw std::runtime_error(program_.name + " doesn't get the keyboard.");
+    throw std::runtime_error(program_.name + " doesn't get the focus.");
   desktop_.hand.keys(program_.followKeys);
 }
 
@@ -67,7 +67,7 @@ double millisecondsToStart(PeerDesktop& desktop, const Program& program, const t
   const auto begun = Clock::now();
   const test::Process process({program.path}, environment);
   while (!isNearlyTheSame(desktop.client.read(area), atRest)) {
-    if (Clock::now() - begun > 10s) throw std::runtime_error(program.name + " doesn't look as before.");
+    if (Clock::now() - begun > 10s) throw std::runtime_error(program.name + " doesn't look the same as before.");
     std::this_thread::sleep_for(200us);
   }
   return std::chrono::duration<double, std::milli>(Clock::now() - begun).count();

@@ -12,15 +12,15 @@
 
 namespace tavrelkin::bench {
 
-// A program that is measured beside others, whatever it is: all is found out from what the screen shows.
+// Any program that is measured beside others. All measures come from what the screen shows.
 struct Program {
-  std::string name;          // as the table calls it
-  std::string path;          // looked for in PATH where it has no slash
-  std::string followKeys{};  // the keys that make it follow the pointer, if it doesn't by itself
+  std::string name;          // the name in the table
+  std::string path;          // the path, or a name that is searched in PATH
+  std::string followKeys{};  // the keys that make it follow the pointer; empty if it follows by itself
   bool isInstalled() const;
 };
 
-// A desktop with a window manager and nothing on it but a few windows of test colours.
+// A desktop with a window manager and only a few windows, which show test colours.
 struct PeerDesktop {
   test::XServer server{{.screen = "1280x1000x24", .arguments = {}}};
   test::X11Client client{server.display()};
@@ -29,17 +29,17 @@ struct PeerDesktop {
   test::WindowManager manager{server};
 };
 
-// The program, started in an empty home, and at rest.
+// The program, which was started with an empty home folder and is idle.
 class RunningProgram {
  public:
   RunningProgram(PeerDesktop& desktop, const Program& program);
 
   const ProcessUsage& usage() const { return *usage_; }
-  // The inside of its window's frame, and what the screen shows there.
+  // The area inside its window's frame, and what the screen shows there.
   const test::Area& area() const { return area_; }
   std::vector<std::uint32_t> shown() const { return desktop_.client.read(area_); }
 
-  // Has it follow the pointer, if it needs to be told.
+  // Makes it follow the pointer, if that takes keys.
   void follow();
 
  private:
@@ -52,8 +52,8 @@ class RunningProgram {
   test::Area area_{};
 };
 
-// The milliseconds from the fork until the screen shows in that area what `atRest` says, but for a few pixels. The
-// program is ended then.
+// The milliseconds from the fork until that area of the screen shows `atRest`, except for a few pixels. Then ends the
+// program.
 double millisecondsToStart(PeerDesktop& desktop, const Program& program, const test::Area& area,
                            const std::vector<std::uint32_t>& atRest);
 

@@ -1,9 +1,9 @@
-// The program beside others of its kind, as far as they are installed, and beside a bare window: the same measures,
-// taken from outside, in turns on the same display. Prints a table of its own.
+// The program beside other programs of its kind, if they are installed, and beside a bare window. All are measured from
+// outside, in turns on the same display. Prints a table of its own.
 //
-// Start: until the screen shows what it will show at rest. Following: a program follows if a pixel of its window takes
-// the colour under the pointer, wherever that pixel is; it is found by holding the pointer over one colour and then
-// over another. Latency: until that pixel has the new colour.
+// Start: until the screen shows the window's final look. Following: a program follows if some pixel of its window takes
+// the colour under the pointer. To find that pixel, the pointer rests on one colour and then on another. Latency: until
+// that pixel has the new colour.
 
 #include <exception>
 #include <iostream>
@@ -28,7 +28,7 @@ using test::Area;
 constexpr int kStarts = 7;
 constexpr int kMoves = 60;
 constexpr std::uint32_t kColors[] = {0x2F6CA8, 0xB8552D};
-// Below all windows, which are put at the middle of the screen.
+// The patches are below all windows, which are in the middle of the screen.
 constexpr Area kPatches[] = {{140, 800, 440, 190}, {700, 800, 440, 190}};
 constexpr ScreenPoint kPoints[] = {{360, 895}, {920, 895}};
 
@@ -54,7 +54,7 @@ void measureStart(PeerDesktop& desktop, const Program& program, Figures& figures
   figures.start = fixed(median(milliseconds), 0) + " ms";
 }
 
-// The pixel of the window that takes the colour under the pointer; none if none does.
+// The pixel of the window that takes the colour under the pointer; nothing if there is none.
 std::optional<Area> followingPixel(PeerDesktop& desktop, const RunningProgram& running) {
   std::vector<std::uint32_t> shown[2];
   for (const int i : {0, 1}) {
@@ -81,7 +81,7 @@ double medianLatency(PeerDesktop& desktop, const Area& pixel) {
     const auto begun = Clock::now();
     desktop.hand.moveTo(kPoints[i % 2]);
     while (desktop.client.read(pixel)[0] != desktop.client.shown(kColors[i % 2])) {
-      if (Clock::now() - begun > 2s) throw std::runtime_error("A program stops to follow.");
+      if (Clock::now() - begun > 2s) throw std::runtime_error("A program has stopped following.");
       std::this_thread::sleep_for(50us);
     }
     milliseconds.push_back(std::chrono::duration<double, std::milli>(Clock::now() - begun).count());
@@ -90,7 +90,7 @@ double medianLatency(PeerDesktop& desktop, const Area& pixel) {
   return median(milliseconds);
 }
 
-// In percent of a core, while the pointer moves 60 times a second over pixels that are all different.
+// CPU in percent of a core while the pointer moves 60 times a second over pixels that all differ.
 double percentInCircles(PeerDesktop& desktop, const ProcessUsage& usage) {
   const test::ForeignWindow foreign(desktop.client, kPatches[0]);
   const CpuMeter cpu(usage);
@@ -150,7 +150,7 @@ void benchPeers() {
 }  // namespace tavrelkin::bench
 
 int main() {
-  prctl(PR_SET_TIMERSLACK, 1);  // the pauses between two looks at the screen are shorter than the usual slack
+  prctl(PR_SET_TIMERSLACK, 1);  // the pauses between two reads of the screen are shorter than the default slack
   try {
     tavrelkin::bench::benchPeers();
   } catch (const std::exception& fault) {

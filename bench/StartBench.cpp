@@ -1,8 +1,9 @@
-// Start and memory, the program and a bare window in turns on the same X server, under its window manager and without.
+// Start and memory of the program and of a bare window, in turns on the same X server, with and without a window
+// manager.
 //
-// A start lasts from the fork to the moment when the screen itself shows the content's colour: a mapped window may
-// still be empty. The screen is looked at every tenth of a millisecond. Memory is read as soon as the process has come
-// to rest; only one of the two runs at a time, so that neither shares its libraries with the other.
+// A start lasts from the fork until the screen shows the content's colour; a mapped window may still be empty. The
+// screen is read every tenth of a millisecond. Memory is read as soon as the process is idle. Only one of the two runs
+// at a time, so that they share no libraries.
 
 #include "bench/StartBench.h"
 
@@ -27,8 +28,8 @@ using Clock = std::chrono::steady_clock;
 
 constexpr int kRuns = 15;
 
-// At the left of the content, where neither window has a control. The first window goes to the top left corner of the
-// screen, or to its middle where there is a window manager.
+// A position at the left of the content, where neither window has a control. The first window is at the top left corner
+// of the screen, or in its middle if there is a window manager.
 constexpr test::Area kUnmanaged{10, 200, 1, 1};
 constexpr test::Area kManaged{426, 400, 1, 1};
 constexpr std::uint32_t kContentColor = 0xCCCCCC;
@@ -43,14 +44,14 @@ struct Candidate {
 void startOnce(Candidate& candidate, const test::XServer& server, const test::X11Client& client,
                const test::Area& content) {
   const auto isPainted = [&] { return client.read(content)[0] == kContentColor; };
-  if (!test::waitUntil([&] { return !isPainted(); })) throw std::runtime_error("The window before does not go.");
+  if (!test::waitUntil([&] { return !isPainted(); })) throw std::runtime_error("The previous window does not close.");
   const test::Home home;
   const auto environment = home.environment(server.display());
 
   const auto begun = Clock::now();
   const test::Process process({candidate.path}, environment);
   while (!isPainted()) {
-    if (Clock::now() - begun > 10s) throw std::runtime_error("No window is seen. " + process.errors());
+    if (Clock::now() - begun > 10s) throw std::runtime_error("No window appears. " + process.errors());
     std::this_thread::sleep_for(100us);
   }
   candidate.milliseconds.push_back(std::chrono::duration<double, std::milli>(Clock::now() - begun).count());

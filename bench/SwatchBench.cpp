@@ -1,6 +1,6 @@
-// A swatch file, written and read by a table of colours: one of the usual size, and the largest that the format has.
-// Files lie in the folder for temporary files. Figures are medians over many rounds, with the worst but one in twenty
-// beside them, since a disk takes its time now and then.
+// Writing and reading a swatch file with a table of colours: one of the usual size, and the largest of the format. The
+// files are in the folder for temporary files. The figures are medians over many rounds, with the 95th percentile,
+// since a disk is slow at times.
 
 #include <chrono>
 #include <functional>
@@ -32,7 +32,7 @@ bool printMedian(const std::string& what, const std::string& wanted, const std::
   return true;
 }
 
-// A table that a file of so many colours is written from.
+// A table that is written as a file with this number of colours.
 Ref<zrClut> tableOf(Int32 colors) {
   auto table = New<zrClut>();
   table->Count = colors - 1;

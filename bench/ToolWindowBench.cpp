@@ -1,9 +1,9 @@
-// The pieces of the tool window, each by itself, with the toolkit on a real X server: a sample of the screen, the
-// choice of a colour while idle and while following, the paint of the preview and the guides; and its controls.
+// The parts of the tool window and its controls, measured separately with the toolkit on a real X server: a sample of
+// the screen, setting a colour while idle and while following, painting the preview and the guides.
 //
-// The window lies unfolded on an X server of its own, beside another program's window whose pixels all differ and over
-// which the pointer stands. Figures are medians of several rounds. A choice of a colour is entered as every handler is;
-// between two of them the event loop runs for some milliseconds, so that frames and turns of the thread go on.
+// The unfolded window is on a separate X server, beside another program's window whose pixels all differ; the pointer
+// rests over that window. The figures are medians of several rounds. Colours are set in the same way as in a handler.
+// Between two of them the event loop runs for some milliseconds, so that frames and turns of the thread continue.
 
 #include <chrono>
 #include <cstdlib>
@@ -48,7 +48,7 @@ void sample(benchmark::State& state, frmVesk& window) {
   }
 }
 
-// As a sample reads them, column by column. The time is that of one read.
+// Reads pixels column by column, as a sample does. The time is that of one read.
 void readPixels(benchmark::State& state, const frmVesk& window) {
   const PreviewGrid grid(1, window.imgScreen.Width, window.imgScreen.Height);
   desktop().screenReader().beginTurn();
@@ -62,7 +62,7 @@ void readPixels(benchmark::State& state, const frmVesk& window) {
   }
 }
 
-// No two in a row are alike; web-safe ones, which hide two controls, are among them.
+// Two successive colours always differ. Some are web-safe, which hides two controls.
 Color nextColor() {
   static std::uint32_t number = 0;
   ++number;

@@ -1,5 +1,5 @@
-// The yardstick for start and memory: the least that a Qt window with a menu bar takes. Its content has the size and
-// the colour of the tool window's, so that both are seen to be painted in the same way.
+// The reference for start and memory: a minimal Qt window with a menu bar. Its content has the size and the colour of
+// the tool window's, so that both are recognised as painted in the same way.
 
 #include <QApplication>
 #include <QMenuBar>

@@ -1,4 +1,4 @@
-"""compositor_figures.py PROGRAM: measures what only a compositor shows, on one monitor, as rows of a Markdown table."""
+"""compositor_figures.py PROGRAM: measures the figures that need a compositor, on one monitor. Prints table rows."""
 import os
 import statistics
 import subprocess
@@ -21,7 +21,7 @@ def row(what, wanted, figure):
 
 class Figures(User):
     def start_recording(self):
-        """Records the preview's pixels, as they come on screen."""
+        """Records the preview's pixels as they appear on screen."""
         place = (self.program.left + PREVIEW[0], self.program.top + PREVIEW[1])
         self.recording = Recording(*place, *PREVIEW[2:])
         self.recording.start()
@@ -29,7 +29,7 @@ class Figures(User):
         self.recording.next(self.sink)
 
     def await_centre(self, colour):
-        """Gives the time of the first picture whose preview has this colour in the centre, or None in two seconds."""
+        """Returns the time of the first picture with this colour in the preview's centre; None after two seconds."""
         end = time.time() + 2
         while time.time() < end:
             picture = self.recording.next(self.sink, 0.1)
@@ -97,4 +97,4 @@ figures = Figures(sys.argv[1])
 for measure in (figures.start_following, figures.time_moves, figures.count_previews, figures.spend,
                 figures.count_colours):
     measure()
-os._exit(0)  # The library of the assistive technologies may take its time to leave the bus.
+os._exit(0)  # the accessibility library may take long to leave the bus

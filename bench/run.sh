@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the release with the benchmarks, measures, and writes the machine and its figures to docs/figures.md. Installs
-# what that takes, but none of the other programs that it measures where they are. Takes some five minutes, in which the
-# machine should have nothing else to do.
+# the packages that it needs, but not the other programs, which are measured if they are installed. It takes some five
+# minutes, and the machine should have nothing else to do.
 set -euo pipefail
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
 # shellcheck source=scripts/packages.sh
@@ -10,7 +10,7 @@ source "$root/scripts/packages.sh"
 source "$root/scripts/build.sh"
 build="$root/build/bench"
 
-# Nothing of the desktop that this runs on may matter.
+# The surrounding desktop must not matter.
 export LANG=C.UTF-8 LC_ALL=C.UTF-8 DBUS_SESSION_BUS_ADDRESS=disabled:
 unset DISPLAY WAYLAND_DISPLAY XAUTHORITY LANGUAGE "${!QT_@}"
 export XDG_RUNTIME_DIR="$root/build/runtime"
@@ -28,9 +28,9 @@ measure() {
   cat <<'END'
 # Figures
 
-Measured by `bench/run.sh`, which writes this page: the program on a virtual X server of its own, driven by pointer and
-keys as a user would; CPU from the kernel's books, in percent of one core. The bare window is the least that a Qt window
-with a menu bar takes, run in turns with the program.
+`bench/run.sh` measures these figures and writes this page. It runs the program on a separate virtual X server and
+drives it with pointer and keys as a user would. CPU is in percent of one core, as counted by the kernel. The bare
+window is a minimal Qt window with a menu bar, which runs in turns with the program.
 
 END
   echo "${processor:-$(uname -m)}, $(nproc) cores; Linux ${kernel%%-*}; Qt $(pkgconf --modversion Qt6Widgets);" \
@@ -42,17 +42,17 @@ END
   for bench in tool_window_bench swatch_bench dichromat_bench desktop_bench; do "$build/bench/$bench"; done
   cat <<'END'
 
-CPU figures vary from run to run with what else the machine does, those of the pointer in circles by a third.
+CPU figures vary from run to run with the other work of the machine; those of the pointer in circles vary by a third.
 
-Writing a small swatch file is the file system's work: the rename that replaces the old file has the data written before
-it, which takes most of the time on an ext4 disk. In a folder in memory the same write takes a fraction of it.
+The file system takes most of the time of writing a small swatch file: on an ext4 disk, the rename that replaces the old
+file waits until the data are written. In a folder in memory the same write takes a fraction of the time.
 
-A cast screen is one that a played desktop sends, so that these rows show the program's own share.
+A played desktop sends the frames of a cast screen, so these rows show the program's own share.
 
 ## On Wayland
 
-Measured by `tests/wayland.sh --figures` on a headless compositor that draws in software, with one monitor of 1280 by
-1024. Where a figure includes the compositor's share, that is most of it.
+`tests/wayland.sh --figures` measures these rows on a headless compositor that draws in software, with one monitor of
+1280 by 1024. Where a figure includes the compositor's share, that share is the largest part of it.
 
 | What | Wanted | Measured |
 | --- | --- | --- |
@@ -62,15 +62,15 @@ END
 
 ## Beside other programs
 
-All are measured in the same way, from outside, with a window manager and without a session bus. Start is the time until
-the screen shows what it will show at rest. A dash stands where a program doesn't follow the pointer, or only once it has
-been told to pick.
+All programs are measured in the same way, from outside, with a window manager and without a session bus. The start ends
+when the screen shows the program's final look. A dash means that the program does not follow the pointer, or only after
+a command to pick a colour.
 
 END
   "$build/bench/peers_bench"
 }
 
-# A run that fails leaves the page as it was.
+# A failed run leaves the page unchanged.
 page="$root/build/figures.md"
 measure | tee "$page"
 mv -- "$page" "$root/docs/figures.md"

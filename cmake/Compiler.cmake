@@ -1,4 +1,4 @@
-# The language level, the warnings and the sanitizers, for every target alike.
+# The language level, the warnings and the sanitizers of all targets.
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
 set(CMAKE_CXX_EXTENSIONS OFF)
@@ -7,12 +7,12 @@ set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
 add_compile_options(-Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual
   -Wold-style-cast -Wcast-qual -Wformat=2 -Wimplicit-fallthrough -Werror)
 
-# g++ 12 sees overlapping copies in plain joins of strings (GCC bug 105651).
+# g++ 12 falsely warns of overlapping copies when strings are joined (GCC bug 105651).
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
   add_compile_options(-Wno-restrict)
 endif()
 
-# The numbers must be the same in every build: no fused multiply-add, no reordering.
+# Every build must compute the same numbers: no fused multiply-add, no reordering.
 add_compile_options(-ffp-contract=off)
 
 if(TAVRELKIN_SANITIZE)
@@ -20,7 +20,7 @@ if(TAVRELKIN_SANITIZE)
   add_link_options(-fsanitize=address,undefined)
 endif()
 
-# So that the fuzzer sees which code its inputs reach.
+# The instrumentation shows the fuzzer which code its inputs reach.
 if(TAVRELKIN_FUZZ)
   add_compile_options(-fsanitize=fuzzer-no-link)
 endif()

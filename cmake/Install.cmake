@@ -1,5 +1,5 @@
-# What `cmake --install` puts where: the program, and what makes it known to a desktop. The Debian package is made of
-# the same, with Debian's own form of the licence and the manual; see Package.cmake.
+# The files that `cmake --install` installs: the program, and the files by which a desktop knows it. The Debian package
+# has the same files, but Debian's form of the licence and the manual; see Package.cmake.
 include(GNUInstallDirs)
 set(documents "${CMAKE_INSTALL_DATAROOTDIR}/doc/tavrelkin")
 

@@ -1,5 +1,5 @@
-# The Debian package, which `cpack` makes. Debian wants its documents compressed, and a copyright file in place of the
-# licence: these are a component of their own, which takes the place of "documents".
+# The Debian package, which `cpack` makes. Debian wants compressed documents, and a copyright file instead of the
+# licence. These are a component that replaces "documents".
 set(debian "${CMAKE_SOURCE_DIR}/packaging/debian")
 set(compressed "${CMAKE_BINARY_DIR}/debian")
 find_program(GZIP gzip)
@@ -7,7 +7,8 @@ if(NOT GZIP)
   return()
 endif()
 
-# debian_gzip(FILE): compresses it as Debian's policy says, without time and name, so that each build gives the same.
+# debian_gzip(FILE): compresses the file as Debian's policy requires, without time and name, so that each build gives
+# the same bytes.
 function(debian_gzip file)
   cmake_path(GET file FILENAME name)
   add_custom_command(OUTPUT "${compressed}/${name}.gz"
@@ -29,7 +30,7 @@ install(FILES "${compressed}/changelog.gz" "${debian}/copyright" DESTINATION "${
 install(FILES "${debian}/lintian-overrides" DESTINATION "${CMAKE_INSTALL_DATADIR}/lintian/overrides"
   RENAME tavrelkin COMPONENT debian EXCLUDE_FROM_ALL)
 
-# The changelog is where the package's version is written.
+# The changelog contains the package's version.
 file(STRINGS "${debian}/changelog" newest LIMIT_COUNT 1)
 string(REGEX MATCH "\\((.+)\\)" _ "${newest}")
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS "${debian}/changelog")
@@ -58,9 +59,9 @@ set(CPACK_DEBIAN_PACKAGE_VERSION "${CMAKE_MATCH_1}")
 set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
 set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-# Without the toolkit's part a Wayland session runs the program through its X server, blurred on scaled screens. The rest
-# is what reading the screen takes there; the modules and the configuration are in packages that the library doesn't
-# name.
+# Without the toolkit's Wayland platform, the program would use the session's X server, which blurs it on scaled
+# screens. The other packages are needed to read the screen in such a session: the modules and the configuration are in
+# packages on which the library does not depend.
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS
   "qt6-wayland, libpipewire-0.3-modules, pipewire-bin, xdg-desktop-portal")
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)

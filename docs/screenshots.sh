@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Takes the pictures of docs/guide.md: drives the program on a display of its own by pointer and keys, and writes
-# docs/images/*.png. Installs and builds what that takes. A second run gives the same pictures to the byte.
+# Takes the pictures in docs/guide.md: drives the program on a separate display with pointer and keys, and writes
+# docs/images/*.png. Installs and builds what it needs. A second run gives exactly the same files.
 set -euo pipefail
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
 # shellcheck source=scripts/packages.sh
@@ -12,7 +12,7 @@ source "$root/scripts/headless.sh"
 program="$root/build/release/tavrelkin"
 images="$root/docs/images"
 
-# A landscape, with something small and colourful to look at: the balloon around (800, 247).
+# Paints a landscape with something small and colourful to look at: the balloon around (800, 247).
 paint_landscape() {
   local picture="$headless_temp/landscape.png"
   convert -size 1280x800 gradient:'#27348b-#f7b267' -fill '#ffe28a' -draw 'circle 640,400 640,340' \
@@ -25,7 +25,7 @@ paint_landscape() {
     -fill '#2a9d8f' -draw 'ellipse 800,240 7,17 0,360 polygon 793,248 807,248 802,262 798,262' \
     -fill '#f1faee' -draw 'ellipse 800,240 2,17 0,360' \
     -fill '#5c3d2e' -draw 'rectangle 796,266 804,271' -depth 8 "$picture"
-  # Its exit status is 1 even where all went well.
+  # The exit status of `display` is 1 even if it succeeds.
   display -window root "$picture" || true
 }
 
@@ -38,21 +38,21 @@ rests() {
   [[ $(look) == "$before" ]]
 }
 
-# act COMMAND ...: does what changes the screen, and waits until it has changed and is at rest.
+# act COMMAND ...: runs a command that changes the screen, and waits until the screen has changed and is still.
 act() {
   local before
   before=$(look)
   "$@"
-  poll 20 "$headless_program" looks_other_than "$before" || give_up "Nothing came of: $*"
-  poll 20 "$headless_program" rests || give_up "No rest after: $*"
+  poll 20 "$headless_program" looks_other_than "$before" || give_up "The screen did not change after: $*"
+  poll 20 "$headless_program" rests || give_up "The screen did not become still after: $*"
 }
 
-# window TITLE: prints the id of the window whose title begins so, once it is in front.
+# window TITLE: prints the id of the window with this beginning of a title, once it is visible.
 window() {
   xdotool search --sync --onlyvisible --name "^$1" | tail -n 1
 }
 
-# Points and clicks relative to a window's inside, menu bar included.
+# Points and clicks at positions inside a window, menu bar included.
 point() { xdotool mousemove --window "$1" "$2" "$3"; }
 click() {
   point "$@"
@@ -60,21 +60,21 @@ click() {
 }
 park() { xdotool mousemove 1270 790; }
 
-# choose WINDOW X KEY: opens the menu at X of the menu bar, goes to an item by "Up" or "Down", and chooses it.
+# choose WINDOW X KEY: opens the menu at X in the menu bar, selects an item with "Up" or "Down", and chooses it.
 choose() {
   act click "$1" "$2" 9
   act xdotool key "$3"
   act xdotool key Return
 }
 
-# save NAME GEOMETRY: writes that part of the screen to docs/images, without anything that changes from run to run.
+# save NAME GEOMETRY: writes that part of the screen to docs/images, without metadata that change from run to run.
 save() {
   import -silent -window root -crop "$2" +repage -strip -define png:compression-level=9 \
     -define png:exclude-chunks=all "$headless_temp/$1.png"
   mv -- "$headless_temp/$1.png" "$images/$1.png"
 }
 
-# frame WINDOW: prints where a window's frame is, as WIDTHxHEIGHT+X+Y.
+# frame WINDOW: prints the position of a window's frame as WIDTHxHEIGHT+X+Y.
 frame() {
   local outer
   outer=$(xwininfo -tree -id "$1" | sed -n 's/^ *Parent window id: \(0x[0-9a-f]*\).*/\1/p')
@@ -83,14 +83,14 @@ frame() {
 }
 shoot() { save "$1" "$(frame "$2")"; }
 
-# Whether a tool window shows the tip of a bar, which goes after a second.
+# Whether a tool window shows the tip of a bar, which disappears after a second.
 tip_is_up() { [[ $(import -silent -window "$1" -crop 1x1+400+373 -depth 8 txt:-) == *#FFF8CE* ]]; }
 
 take_pictures() {
   local tool=$headless_window palette simulator about
   xdotool windowmove --sync "$tool" 20 20
 
-  # Following, with the red of the balloon taken.
+  # The window follows and has taken the red of the balloon.
   act xdotool mousemove 784 240 key ctrl+f
   act xdotool key ctrl+alt+p
   shoot tool-window "$tool"
@@ -112,7 +112,7 @@ take_pictures() {
   shoot palette "$palette"
   act xdotool key ctrl+w
 
-  # Unfolded, at the largest zoom, with the grid.
+  # The window is unfolded, with the largest zoom and the grid.
   act click "$tool" 30 261
   act click "$tool" 122 378
   act click "$tool" 122 378
@@ -133,7 +133,7 @@ take_pictures() {
   act xdotool mouseup 1 keyup alt
   xdotool windowactivate --sync "$simulator"
   park
-  poll 20 "$headless_program" rests || give_up "No rest after the drop"
+  poll 20 "$headless_program" rests || give_up "The screen did not become still after the drop"
   shoot simulator "$simulator"
 
   xdotool windowactivate --sync "$tool"
@@ -141,7 +141,7 @@ take_pictures() {
   xdotool mousedown 1
   act point "$tool" 240 296
   point "$tool" 228 296
-  poll 20 "$headless_program" tip_is_up "$tool" || give_up "No tip"
+  poll 20 "$headless_program" tip_is_up "$tool" || give_up "The bar shows no tip"
   shoot bar-tip "$tool"
   act xdotool mouseup 1
 
@@ -150,7 +150,7 @@ take_pictures() {
   shoot about "$about"
 }
 
-# Nothing of the desktop that this runs on may show.
+# Nothing of the surrounding desktop may be visible.
 export LANG=C.UTF-8 LC_ALL=C.UTF-8 DBUS_SESSION_BUS_ADDRESS=disabled:
 unset LANGUAGE "${!QT_@}"
 

@@ -90,7 +90,7 @@ void Hand::rest() const {
   std::this_thread::sleep_for(std::chrono::milliseconds(80));
 }
 
-// A window manager may hold the press back for a moment, and a key that follows at once would overtake it.
+// A window manager may delay the press for a moment, and a key that follows at once would overtake it.
 void Hand::click(ScreenPoint at) {
   moveTo(at);
   pressButton();
@@ -98,7 +98,7 @@ void Hand::click(ScreenPoint at) {
   rest();
 }
 
-// A hand takes its time, and a drag needs it: programs talk to each other at each place.
+// The drag pauses at each position, since programs exchange messages there.
 void Hand::drag(ScreenPoint from, ScreenPoint to, const std::function<void()>& before) {
   constexpr int kSteps = 8;
   moveTo(from);

@@ -8,7 +8,7 @@ namespace tavrelkin::test {
 
 namespace {
 
-// The line of that index, once it is whole; empty until then.
+// The line with that index; empty until the line is complete.
 std::string wholeLine(const std::string& text, std::size_t index) {
   std::istringstream lines(text);
   std::string line;
@@ -24,7 +24,8 @@ PlayedSession::PlayedSession()
                .busConfiguration = TAVRELKIN_BUS_CONFIGURATION,
                .environment = {"WAYLAND_DISPLAY=wayland-0", "QT_QPA_PLATFORM=xcb"}}),
       desktop_({TAVRELKIN_PORTAL_DESKTOP, fifo_}, environment) {
-  if (desktop_.firstLine() != "ready") throw std::runtime_error("The desktop can't be played: " + desktop_.errors());
+  if (desktop_.firstLine() != "ready")
+    throw std::runtime_error("The played desktop did not start: " + desktop_.errors());
 }
 
 void PlayedSession::cast(const std::vector<std::string>& lines) {
@@ -41,12 +42,12 @@ void PlayedSession::tell(const std::string& line) {
 PlayedSession::TimePoint PlayedSession::waitForAnswer() {
   std::string answer;
   const auto hasAnswered = [&] { return !(answer = wholeLine(desktop_.output(), answers_)).empty(); };
-  if (!waitUntil(hasAnswered)) throw std::runtime_error("The desktop does not answer.");
+  if (!waitUntil(hasAnswered)) throw std::runtime_error("The played desktop does not answer.");
   ++answers_;
   std::istringstream words(answer);
   std::string done;
   std::chrono::nanoseconds::rep since = 0;
-  if (!(words >> done >> since) || done != "done") throw std::runtime_error("The desktop answers: " + answer);
+  if (!(words >> done >> since) || done != "done") throw std::runtime_error("The played desktop answers: " + answer);
   return TimePoint(std::chrono::nanoseconds(since));
 }
 

@@ -8,19 +8,19 @@
 
 namespace tavrelkin::test {
 
-// A Wayland session: the program's windows are on an X server as ever, but the screen that it reads is one that a
-// played desktop casts, and whose every pixel is known; see PlayedDesktop.
+// A Wayland session. The program's windows are on an X server as usual, but a played desktop casts the screen that the
+// program reads. Every pixel of that screen is known; see PlayedDesktop.
 class PlayedSession : public Session {
  public:
   using TimePoint = std::chrono::steady_clock::time_point;
 
   PlayedSession();
 
-  // Has the desktop obey these lines, one after the other; returns when it has. Throws where it does not know a line.
+  // Makes the desktop obey these lines in order; returns when it has done so. Throws if it does not know a line.
   void cast(const std::vector<std::string>& lines);
 
-  // The same in two steps for one line: tell() returns at once, and waitForAnswer() gives the moment at which the
-  // desktop had done it. Of use where something is to be watched meanwhile.
+  // The same in two steps for one line: tell() returns at once, and waitForAnswer() returns the time at which the
+  // desktop had obeyed. A test can watch the program between the two.
   void tell(const std::string& line);
   TimePoint waitForAnswer();
 

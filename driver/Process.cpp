@@ -41,7 +41,7 @@ Home::Home() {
   fs::permissions(path_ / "runtime", fs::perms::owner_all);
 }
 
-// A program that was killed may have left anything behind, and one that still ends may add to it.
+// A killed program may have left files, and a program that is still ending may add more.
 Home::~Home() {
   std::error_code ignored;
   fs::remove_all(path_, ignored);
@@ -75,7 +75,7 @@ Process::File Process::newFile(const std::string& content) {
   return file;
 }
 
-// Opened again, since the process shares the position in the file.
+// Opens the file again, since the process shares its position.
 std::string Process::contentOf(const File& file) {
   std::ifstream stream("/proc/self/fd/" + std::to_string(fileno(file.get())));
   return {std::istreambuf_iterator<char>(stream), {}};

@@ -14,8 +14,8 @@
 
 namespace tavrelkin::test {
 
-// Whether `condition` comes true before the time is over. Asks again and again, since nothing tells when another
-// process has got so far; returns as soon as it is true.
+// Whether `condition` becomes true in time. Polls it, since another process does not report its progress. Returns as
+// soon as it is true.
 template <class Condition>
 bool waitUntil(const Condition& condition, std::chrono::milliseconds longest = std::chrono::seconds(8)) {
   const auto end = std::chrono::steady_clock::now() + longest;
@@ -26,7 +26,7 @@ bool waitUntil(const Condition& condition, std::chrono::milliseconds longest = s
   return true;
 }
 
-// An empty home folder, removed with the object, and an environment in which nothing of the user's own desktop is left.
+// An empty home folder, removed with the object, and an environment without anything of the user's own desktop.
 class Home {
  public:
   Home();
@@ -36,42 +36,43 @@ class Home {
 
   const std::filesystem::path& path() const { return path_; }
 
-  // NAME=value for each variable; `display` is empty for a program that needs none, and so is `bus`, the address of a
-  // message bus.
+  // NAME=value for each variable. `display` is empty for a program that needs no display. `bus` is the address of a
+  // message bus, or empty for none.
   std::vector<std::string> environment(const std::string& display, const std::string& bus = {}) const;
 
  private:
   std::filesystem::path path_;
 };
 
-// A program that runs beside the test, in no environment but the given one; it is killed with the object, and ends when
-// the test ends in any other way.
+// A program that runs beside the test, with only the given environment. It is killed with the object, and also ends
+// when the test's process ends.
 class Process {
  public:
-  // `command` is the program, looked for in PATH, and its arguments; `environment` has the form NAME=value.
+  // `command` is the program, which is searched in PATH, and its arguments. `environment` has the form NAME=value.
   Process(const std::vector<std::string>& command, const std::vector<std::string>& environment,
           const std::string& input = {});
   ~Process() { end(SIGKILL); }
 
   pid_t id() const { return pid_; }
 
-  // What it has written so far.
+  // What the program has written so far.
   std::string output() const { return contentOf(output_); }
   std::string errors() const { return contentOf(errors_); }
-  // The first line of its output, as soon as it is there. Throws where none comes.
+  // Waits for the first line of the program's output. Throws if none comes.
   std::string firstLine();
 
-  // A number that the system tells of its state, as "VmHWM", the most memory that it has had so far in KiB; 0 if it has
-  // gone.
+  // A number of the system's status of the process, such as "VmHWM", the peak of its memory in KiB; 0 if the process
+  // has ended.
   int status(const std::string& name) const;
 
-  // The exit status, or 128 and the signal that ended it, as soon as it has ended; nothing if it goes on.
+  // Waits for the end of the process. Returns the exit status, or 128 plus the number of the signal that ended it;
+  // nothing if the process is still running after `longest`.
   std::optional<int> waitForExit(std::chrono::milliseconds longest = std::chrono::seconds(8));
   bool isRunning() { return !waitForExit(std::chrono::milliseconds(0)); }
   void end(int signal);
 
  private:
-  // Without a name, in memory.
+  // A file in memory, without a name.
   using File = std::unique_ptr<std::FILE, int (*)(std::FILE*)>;
   static File newFile(const std::string& content = {});
   static std::string contentOf(const File& file);

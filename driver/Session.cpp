@@ -14,8 +14,8 @@ std::vector<std::string> command(const XServer::Options& options) {
   return result;
 }
 
-// Whether a window that is shown now gets managed. The manager announces itself before it is able to do so, and forgets
-// what is shown in between.
+// Whether the manager handles a new window. It announces itself before it can do so, and ignores windows that appear in
+// between.
 bool managesNewWindow(X11Client& client, const Windows& windows) {
   const xcb_window_t window = client.open({0, 0, 1, 1}, false);
   const auto isManaged = [&] { return std::ranges::count(windows.all(), window) > 0; };
@@ -49,7 +49,7 @@ void OutsideClipboard::copy(const std::string& text) {
   const std::vector<std::string> command{"xclip", "-selection", "clipboard", "-in", "-quiet"};
   auto offer = std::make_unique<Process>(command, server_.environment(), text);
   const auto isOffered = [&] { return owner() != before && owner() != XCB_NONE; };
-  if (!waitUntil(isOffered)) throw std::runtime_error("Nothing can be copied: " + offer->errors());
+  if (!waitUntil(isOffered)) throw std::runtime_error("The text can't be copied: " + offer->errors());
   offer_ = std::move(offer);
 }
 
@@ -66,7 +66,7 @@ Session::Session(const Options& options)
       manager(server),
       program({TAVRELKIN_PROGRAM}, environment) {}
 
-// The screen and the bus as they are before any program starts; gives the program's environment.
+// Prepares the screen and the bus before any program starts; returns the program's environment.
 std::vector<std::string> Session::prepared(const Options& options) {
   if (options.dotsPerInch > 0) client.setResources("Xft.dpi:\t" + std::to_string(options.dotsPerInch) + "\n");
   if (options.leftMonitor > 0) client.splitScreen(options.leftMonitor);
@@ -92,12 +92,12 @@ xcb_window_t Session::waitForWindow(const std::string& titleBeginning, std::size
 
 void Session::bringToFront(xcb_window_t window) {
   if (windows.hasKeyboard(window)) return;
-  // Asked for again, since a window manager may still be at work on the window's first appearance.
+  // Repeats the request, since the window manager may still be busy with the window's first appearance.
   const auto isInFront = [&] {
     windows.activate(window);
     return waitUntil([&] { return windows.hasKeyboard(window); }, std::chrono::milliseconds(200));
   };
-  if (!waitUntil(isInFront)) throw std::runtime_error("The window doesn't get the keyboard.");
+  if (!waitUntil(isInFront)) throw std::runtime_error("The window doesn't get the focus.");
 }
 
 }  // namespace tavrelkin::test

@@ -13,7 +13,7 @@
 
 namespace tavrelkin::test {
 
-// An X server with a screen in memory, under a display number that was free.
+// An X server with a screen in memory, on an unused display number.
 class XServer {
  public:
   struct Options {
@@ -21,18 +21,18 @@ class XServer {
     std::vector<std::string> arguments{};
   };
 
-  // Throws if the server doesn't start, as when it doesn't know the depth.
+  // Throws if the server doesn't start, for example because it doesn't support the depth.
   XServer() : XServer(Options()) {}
   explicit XServer(const Options& options);
-  // In order, so that it removes its socket and its lock.
+  // SIGTERM lets the server remove its socket and its lock.
   ~XServer() { process_.end(SIGTERM); }
 
-  // As in DISPLAY.
+  // The display's name, as in DISPLAY.
   const std::string& display() const { return display_; }
-  // For programs on it that may share a home.
+  // An environment for programs on this display that may share a home folder.
   std::vector<std::string> environment() const { return home_.environment(display_); }
 
-  // Ends it at once, as in a crash.
+  // Ends the server at once, as a crash does.
   void kill() { process_.end(SIGKILL); }
 
  private:
@@ -41,24 +41,24 @@ class XServer {
   std::string display_;
 };
 
-// A window manager that leaves all keys and all clicks inside of windows to the programs.
+// A window manager that passes all keys, and all clicks inside windows, to the programs.
 class WindowManager {
  public:
-  // Returns when the windows are managed.
+  // Returns when the manager handles new windows.
   explicit WindowManager(const XServer& server);
 
  private:
   Process process_;
 };
 
-// The clipboard, as another program uses it.
+// The clipboard as another program uses it.
 class OutsideClipboard {
  public:
   OutsideClipboard(const XServer& server, X11Client& client) : server_(server), client_(client) {}
 
-  // The text is on offer until something else is copied or the object goes.
+  // Offers the text until something else is copied or the object is destroyed.
   void copy(const std::string& text);
-  // The text that is on offer now; empty if there is none.
+  // The text on the clipboard; empty if there is none.
   std::string paste() const;
 
  private:
@@ -69,33 +69,33 @@ class OutsideClipboard {
   std::unique_ptr<Process> offer_;
 };
 
-// A desktop session of its own, and the program in it, which has just been started.
+// A separate desktop session with the program, which has just started.
 struct Session {
   struct Options {
     XServer::Options server{};
     bool messageBus = false;
-    std::string busConfiguration{};  // of a message bus of its own kind; the usual one of a session where it is empty
+    std::string busConfiguration{};          // the message bus's configuration file; empty for that of a normal session
     std::vector<std::string> environment{};  // more variables for the program, in the form NAME=value
-    int dotsPerInch = 0;                     // as the desktop's settings say it; nothing where 0
-    std::uint16_t leftMonitor = 0;           // the width of one beside the main one, if any
+    int dotsPerInch = 0;                     // the desktop's setting; 0 for no setting
+    std::uint16_t leftMonitor = 0;           // the width of a second monitor on the left; 0 for none
   };
 
   Session() : Session(Options()) {}
   explicit Session(const Options& options);
 
-  // The newest window with such a title, as soon as there are so many of them.
+  // Waits until there are `count` windows whose title has this beginning, and returns the newest.
   xcb_window_t waitForWindow(const std::string& titleBeginning, std::size_t count = 1);
-  // Returns when the window has the keyboard.
+  // Returns when the window has the focus.
   void bringToFront(xcb_window_t window);
 
-  Home home;  // the program's
+  Home home;  // the program's home folder
   XServer server;
   X11Client client;
   Windows windows{client};
   Hand hand{client};
   OutsideClipboard clipboard{server, client};
   std::optional<Process> bus;
-  std::vector<std::string> environment;  // the program's
+  std::vector<std::string> environment;  // the program's environment
   WindowManager manager;
   Process program;
 

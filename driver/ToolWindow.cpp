@@ -15,7 +15,7 @@ constexpr int kFoldedHeight = 262;
 constexpr int kUnfoldedHeight = 400;
 constexpr ScreenPoint kPreview{20, 33};
 constexpr ScreenPoint kTriangle{29, 241};
-constexpr ScreenPoint kSliderEnd{124, 359};  // beyond the handle while it is at the lower steps
+constexpr ScreenPoint kSliderEnd{124, 359};  // to the right of the handle at the lower steps
 
 std::string hex(std::uint32_t rgb) {
   char text[10];
@@ -23,7 +23,7 @@ std::string hex(std::uint32_t rgb) {
   return text;
 }
 
-// Whether a place lies on the edge of a rectangle, which begins at `left`, `top`.
+// Whether a position is on the edge of the rectangle that begins at `left`, `top`.
 bool isOnEdge(int x, int y, int left, int top, int width, int height) {
   const int fromRight = left + width - 1 - x;
   const int fromBottom = top + height - 1 - y;
@@ -53,7 +53,8 @@ std::uint32_t ProgramWindow::shows(int x, int y) const {
 
 void ProgramWindow::moveTo(std::int16_t x, std::int16_t y) {
   session_.windows.moveTo(window_, x, y);
-  // It may have been near before, and the frame takes some pixels: it is there when it rests.
+  // The window may have been near this position before, and the frame adds some pixels: so waits until the window
+  // rests.
   const auto isThere = [&] {
     const Area before = session_.windows.area(window_);
     session_.hand.rest();
@@ -111,7 +112,7 @@ std::string titleOf(std::uint32_t rgb) {
   return text;
 }
 
-// Out of the way of the other windows of the tests, which stand more to the right and further down.
+// Moves the window away from the other windows of the tests, which are further to the right and further down.
 ToolWindow::ToolWindow(Session& session) : ToolWindow(session, session.waitForWindow("Color: ")) {
   session.bringToFront(window());
   moveTo(20, 20);
@@ -154,7 +155,7 @@ Pixels ToolWindow::preview() const {
                                static_cast<std::uint16_t>(scaled(Preview::kHeight))});
 }
 
-// Each pixel as a block that ends where the next one begins.
+// Draws each pixel as a block that ends where the next one begins.
 Pixels ToolWindow::enlarged(const Preview& preview) const {
   Pixels result;
   for (int y = 0; y < Preview::kHeight; ++y)

@@ -11,7 +11,7 @@
 
 namespace tavrelkin::test {
 
-// One of the program's windows. Places in it count from the top left corner of its content, below the menu bar, in
+// One of the program's windows. Positions in it start at the top left corner of its content, below the menu bar, in
 // pixels at a scale of 100 %.
 class ProgramWindow {
  public:
@@ -22,26 +22,26 @@ class ProgramWindow {
   xcb_window_t window() const { return window_; }
   std::string title() const { return session_.windows.title(window_); }
   ScreenPoint onScreen(int x, int y) const;
-  // What one pixel of its content shows.
+  // The colour that one pixel of its content shows.
   std::uint32_t shows(int x, int y) const;
 
-  // Moves it there; returns when it is there.
+  // Moves the window; returns when it has arrived.
   void moveTo(std::int16_t x, std::int16_t y);
-  // Brings it to the front first.
+  // Brings the window to the front and presses the keys.
   void keys(const std::string& chord);
   void click(int x, int y) { session_.hand.click(onScreen(x, y)); }
-  // Opens the menu whose title lies at `x` in the menu bar, and goes from there with a key: "Down" to its first item,
-  // "Up" to its last, which is chosen.
+  // Opens the menu whose title is at `x` in the menu bar, selects an item with `key` ("Down" for the first, "Up" for
+  // the last), and chooses it.
   void choose(int x, const std::string& key);
-  // Another program copies a text, and the window pastes it.
+  // Copies a text in another program and pastes it into the window.
   void paste(const std::string& text);
 
-  // Whether title, or a pixel of the content, become so before long.
+  // Whether the title, or a pixel of the content, soon has the expected value.
   testing::AssertionResult getsTitle(const std::string& expected) const;
   testing::AssertionResult gets(std::uint32_t rgb, int x, int y) const;
 
  protected:
-  // Where something begins that has so many pixels before it.
+  // The number of pixels of the screen for this many pixels at a scale of 100 %.
   int scaled(int pixels) const;
 
   Session& session_;
@@ -54,24 +54,24 @@ class ProgramWindow {
 
 using Pixels = std::vector<std::uint32_t>;  // 0xRRGGBB, row by row
 
-// What the preview should look like.
+// The expected look of the preview.
 struct Preview {
   static constexpr int kWidth = 408;
   static constexpr int kHeight = 192;
 
-  std::function<std::uint32_t(int x, int y)> screen;  // 0xRRGGBB, as shown
+  std::function<std::uint32_t(int x, int y)> screen;  // 0xRRGGBB, as the screen shows it
   ScreenPoint centre;
-  int zoom = 1;  // step of the slider, 1 to 3
+  int zoom = 1;  // the slider's step, 1 to 3
 
   int cell() const { return 4 * zoom; }
-  // The pixel of the screen that a pixel of the preview enlarges.
+  // The pixel of the screen that this pixel of the preview enlarges.
   ScreenPoint enlarged(int x, int y) const;
-  // Of one of its pixels: cells, marker and frame.
+  // The expected colour of a pixel of the preview: a cell, the marker or the frame.
   std::uint32_t color(int x, int y) const;
 };
 
-// Another program's window, above all others, that shows known pixels: each its own colour, so that any mix-up of
-// places shows.
+// Another program's window above all others. Each of its pixels has a known colour of its own, so that a wrong position
+// shows.
 class ForeignWindow {
  public:
   ForeignWindow(X11Client& client, const Area& area) : client_(client), area_(area), window_(client.open(area)) {
@@ -81,16 +81,16 @@ class ForeignWindow {
   ForeignWindow& operator=(const ForeignWindow&) = delete;
   ~ForeignWindow() { client_.close(window_); }
 
-  // Shows other pixels for each number.
+  // Paints the window; each number gives different colours.
   void paint(std::uint32_t number) {
     number_ = number;
     client_.paint(window_, area_, [this](int x, int y) { return color(x, y); });
   }
 
-  // What it shows at a place on the screen.
+  // The colour that the screen shows for this window at a position on the screen.
   std::uint32_t shown(ScreenPoint at) const { return client_.shown(color(at.x, at.y)); }
 
-  // The preview of a place that is far enough from its edges.
+  // The expected preview of a position that is far enough from the window's edges.
   Preview previewAt(ScreenPoint centre, int zoom = 1) const {
     return {.screen = [this](int x, int y) { return shown({x, y}); }, .centre = centre, .zoom = zoom};
   }
@@ -113,19 +113,20 @@ std::string titleOf(std::uint32_t rgb);
 // One of the program's tool windows.
 class ToolWindow : public ProgramWindow {
  public:
-  // The session's first one, as soon as it has the keyboard; it is moved to the screen's top left corner.
+  // Waits until the session's first tool window has the focus, and moves it to the screen's top left corner.
   explicit ToolWindow(Session& session);
   ToolWindow(Session& session, xcb_window_t window);
 
-  // Another program copies a colour, and the window pastes it: whether it comes to have it. It has then done all that
-  // it was asked for before, too.
+  // Copies a colour in another program and pastes it. Succeeds if the window takes the colour; by then the window has
+  // also handled all earlier input.
   testing::AssertionResult paste(std::uint32_t rgb);
 
   void unfold();
-  // Step 1 to 3, in an unfolded window whose step is lower.
+  // Moves the zoom slider of an unfolded window from one step to a higher one; steps are 1 to 3.
   void zoomIn(int from, int to);
 
-  // Of an unfolded window: a column of a bar, 0 to 120, in its middle row. Bars are 0 red to 5 value.
+  // The position of a column, 0 to 120, in the middle row of a bar of an unfolded window. Bars are numbered from 0,
+  // red, to 5, value.
   ScreenPoint onBar(int bar, int column) const;
   ScreenPoint onSwatch() const { return onScreen(75, 296); }
 
@@ -133,12 +134,12 @@ class ToolWindow : public ProgramWindow {
   ScreenPoint onPreview(int x, int y) const;
   Pixels preview() const;
 
-  // How many of the screen's pixels it takes for one of its own, across and down: 1 until this is called. Whether it
-  // comes to have that size before long.
+  // Sets the expected scale: how many of the screen's pixels one pixel of the window takes, across and down; it is 1 at
+  // first. Succeeds if the window soon has that size.
   testing::AssertionResult getsScale(double scale);
   bool hasItsSize() const;
 
-  // Whether title, or preview, become so before long.
+  // Whether the title, or the preview, soon has the expected value.
   testing::AssertionResult getsTitleOf(std::uint32_t rgb) const { return getsTitle(titleOf(rgb)); }
   testing::AssertionResult getsPreview(const Preview& expected) const;
 
@@ -146,7 +147,7 @@ class ToolWindow : public ProgramWindow {
   Pixels enlarged(const Preview& preview) const;
 };
 
-// A session with its tool window, folded as it comes up or unfolded.
+// A session with its tool window, which is folded at first, or unfolded.
 struct ToolWindowTest : testing::Test {
   Session session_;
   ToolWindow tool_{session_};

@@ -22,7 +22,8 @@ const xcb_visualtype_t* rootVisual(const xcb_screen_t& screen) {
   throw std::runtime_error("The screen has no visual.");
 }
 
-// One channel on its way to the screen and back: what the window stores for a byte, and the byte that this shows as.
+// Converts one channel to the screen's format and back: the value that the window stores for a byte, and the byte that
+// this value shows as.
 std::uint32_t storedChannel(std::uint32_t byte, std::uint32_t mask) {
   const int bits = std::popcount(mask);
   const std::uint32_t value = bits <= 8 ? byte >> (8 - bits) : byte << (bits - 8);
@@ -96,7 +97,7 @@ std::vector<std::uint32_t> X11Client::read(const Area& area) const {
   const auto cookie =
       xcb_get_image(connection(), XCB_IMAGE_FORMAT_Z_PIXMAP, root(), area.x, area.y, area.width, area.height, ~0U);
   const auto image = await(connection(), cookie, xcb_get_image_reply);
-  if (!image) throw std::runtime_error("The screen can't be read there.");
+  if (!image) throw std::runtime_error("This area of the screen can't be read.");
   const std::uint8_t* const bytes = xcb_get_image_data(image.get());
   const std::size_t rowBytes = std::size_t{image->length} * 4 / area.height;
   const std::size_t pixelBytes = image->depth > 16 ? 4 : 2;
@@ -119,7 +120,7 @@ void X11Client::fake(std::uint8_t type, std::uint8_t detail, int x, int y) {
 }
 
 void X11Client::setModifier(int mod, std::uint8_t keyCode) {
-  constexpr int kBeforeMod1 = 3;  // Shift, Lock and Control
+  constexpr int kBeforeMod1 = 3;  // the modifiers Shift, Lock and Control
   const auto mapping = await(connection(), xcb_get_modifier_mapping(connection()), xcb_get_modifier_mapping_reply);
   xcb_keycode_t* const keys = xcb_get_modifier_mapping_keycodes(mapping.get());
   std::replace(keys, keys + xcb_get_modifier_mapping_keycodes_length(mapping.get()), keyCode, xcb_keycode_t{0});
@@ -130,7 +131,7 @@ void X11Client::setModifier(int mod, std::uint8_t keyCode) {
   const auto cookie = xcb_set_modifier_mapping(connection(), mapping->keycodes_per_modifier, keys);
   const auto reply = await(connection(), cookie, xcb_set_modifier_mapping_reply);
   if (!reply || reply->status != XCB_MAPPING_STATUS_SUCCESS)
-    throw std::runtime_error("The modifiers stay as they are.");
+    throw std::runtime_error("The modifiers can't be changed.");
 }
 
 void X11Client::tell(xcb_window_t receiver, std::uint32_t events, xcb_window_t window, const std::string& what,
@@ -157,7 +158,7 @@ void X11Client::setResources(const std::string& lines) {
   sync();
 }
 
-// No screen may be smaller than the monitors that show it, which therefore go dark.
+// Turns the monitors off first, since the screen can't be smaller than the monitors that show it.
 void X11Client::resizeScreen(int width, int height) {
   arrange({"--output", "screen", "--off", "--fb", std::to_string(width) + "x" + std::to_string(height)});
 }
@@ -174,7 +175,7 @@ void X11Client::splitScreen(int width) {
 void X11Client::arrange(std::vector<std::string> changes) const {
   changes.insert(changes.begin(), {"xrandr", "--display", display_});
   Process xrandr(changes, {});
-  if (xrandr.waitForExit() != 0) throw std::runtime_error("The screen stays as it is: " + xrandr.errors());
+  if (xrandr.waitForExit() != 0) throw std::runtime_error("The screen can't be changed: " + xrandr.errors());
 }
 
 }  // namespace tavrelkin::test

@@ -14,11 +14,11 @@ struct Area {
   std::uint16_t width, height;
 };
 
-// Another program on the display, as far as the tests need one: it shows windows, moves the pointer, presses keys and
-// changes the size of the screen. Each operation returns when the server has done it.
+// Another program on the display for the tests: it shows windows, moves the pointer, presses keys and changes the size
+// of the screen. Each operation returns when the server has done it.
 class X11Client {
  public:
-  // `display` as in DISPLAY.
+  // `display` has the form of DISPLAY.
   explicit X11Client(const std::string& display);
 
   xcb_connection_t* connection() const { return connection_.get(); }
@@ -27,38 +27,42 @@ class X11Client {
   int screenWidth() const { return screen_->width_in_pixels; }
   int screenHeight() const { return screen_->height_in_pixels; }
 
-  // Shows a window until close(): above all others and without a frame, unless it is left to the window manager.
+  // Shows a window until close(). If `isAboveAll`, the window is above all others and has no frame; otherwise the
+  // window manager handles it.
   xcb_window_t open(const Area& area, bool isAboveAll = true);
   void close(xcb_window_t window);
 
-  // Paints an area of a window that open() gave for `window`, each pixel by itself: 0xRRGGBB at a place on the screen.
+  // Paints an area of a window that open() returned, pixel by pixel. `pattern` returns 0xRRGGBB for a position on the
+  // screen.
   void paint(xcb_window_t window, const Area& window_area, const std::function<std::uint32_t(int x, int y)>& pattern);
   void fill(xcb_window_t window, std::uint32_t rgb);
 
-  // What the screen is able to show for 0xRRGGBB.
+  // The nearest colour that the screen can show for 0xRRGGBB.
   std::uint32_t shown(std::uint32_t rgb) const { return fromStored(stored(rgb)); }
 
-  // What an area of the screen shows, row by row.
+  // The colours of an area of the screen, row by row.
   std::vector<std::uint32_t> read(const Area& area) const;
 
   void movePointer(int x, int y) { fake(XCB_MOTION_NOTIFY, 0, x, y); }
-  // An event of a device, as the core protocol has them: its type, its button or key code, and where a motion goes.
+  // Sends an event of a device as defined by the core protocol: its type, its button or key code, and the target of a
+  // motion.
   void fake(std::uint8_t type, std::uint8_t detail, int x = 0, int y = 0);
-  // Sends a message about a window to one that listens for `events`, or to the owner of that where there are none.
+  // Sends a message about a window to the clients that listen for `events` on `receiver`, or to the owner of `receiver`
+  // if `events` is 0.
   void tell(xcb_window_t receiver, std::uint32_t events, xcb_window_t window, const std::string& what,
             std::uint32_t first, std::uint32_t second);
   void sync() const;
-  // Makes a key the only one of a modifier, Mod1 to Mod5, and of no other one.
+  // Makes a key the only key of a modifier, Mod1 to Mod5, and removes it from other modifiers.
   void setModifier(int mod, std::uint8_t keyCode);
 
   xcb_atom_t atom(const std::string& name) const;
 
-  // The settings that programs find on the screen, as "Xft.dpi:\t96\n".
+  // Sets the settings that programs find on the screen, such as "Xft.dpi:\t96\n".
   void setResources(const std::string& lines);
 
-  // These throw where the server can't.
+  // These operations throw if the server can't do them.
   void resizeScreen(int width, int height);
-  // Makes the screen two monitors side by side: the main one on the right, and a lower one of this width on the left.
+  // Splits the screen into two monitors: the main one on the right, and a lower one of this width on the left.
   void splitScreen(int width);
 
  private:

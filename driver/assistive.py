@@ -1,4 +1,4 @@
-"""An assistive technology, as a user has it who doesn't see the screen: AccessibilityTest.cpp says what it can do."""
+"""Plays the assistive technology of a user who can't see the screen. AccessibilityTest.cpp lists its commands."""
 import os
 import sys
 import time
@@ -99,7 +99,7 @@ def main():
     }
     commands[sys.argv[1]](*sys.argv[2:])
     sys.stdout.flush()
-    os._exit(0)  # its library may take its time to leave the bus
+    os._exit(0)  # the accessibility library may take long to leave the bus
 
 
 main()

@@ -1,4 +1,4 @@
-"""Another graphics program with boxes of 60 by 60 pixels to drag colours from: ExchangeTest.cpp says what they give."""
+"""Plays a graphics program with boxes of 60 by 60 pixels; colours can be dragged from them. See ExchangeTest.cpp."""
 import time
 
 import gi

@@ -3,14 +3,14 @@
 #include "runtime/core/exchange/DragItem.h"
 #include "runtime/toolkit/RectControl.h"
 
-// What a user does to move data between controls, as real events of the toolkit.
+// The gestures with which a user moves data between controls, as real events of the toolkit.
 namespace tavrelkin::gesture {
 
-// Drops an item that comes from elsewhere in the middle of a control. False where the control doesn't take its kind.
+// Drops an item from elsewhere in the middle of a control. False if the control doesn't accept this kind of item.
 bool drop(const RectControl& control, const DragItem& item);
 
-// Presses at one place of a control and pulls to another. Gives what is dragged away then; nil where nothing is, and in
-// that case the button is still held.
+// Presses at one position of a control and drags to another. Returns the item that is dragged then. Null if no drag
+// starts; the button is still held then.
 Ref<DragItem> pull(const RectControl& from, Int32 x, Int32 y, Int32 toX, Int32 toY);
 
 }  // namespace tavrelkin::gesture

@@ -52,7 +52,7 @@ FakeDesktop::FakeAlarm* FakeDesktop::next(TimePoint until) const {
 void FakeDesktop::advance(std::chrono::nanoseconds by) {
   const TimePoint end = now_ + by;
   if (by.count() == 0) {
-    // What an alarm sets to ring at once waits for the next call.
+    // An alarm that is set during this loop waits for the next call, even if it is due.
     const std::vector<FakeAlarm*> all = alarms_;
     for (FakeAlarm* alarm : all) {
       const bool alive = std::find(alarms_.begin(), alarms_.end(), alarm) != alarms_.end();

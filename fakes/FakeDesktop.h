@@ -12,26 +12,26 @@
 
 namespace tavrelkin {
 
-// A desktop that a test plays: the screen is a function of the place, the pointer and the clock stand where the test
-// puts them, and messages are recorded in place of being shown.
+// A desktop that a test plays: the screen is a function of the position, the test sets the pointer and the clock, and
+// messages are recorded instead of shown.
 class FakeDesktop : public Desktop, public ScreenReader {
  public:
-  // What the test plays.
+  // What the test sets.
   std::function<std::uint32_t(ScreenPoint)> screen = [](ScreenPoint) { return 0u; };
   ScreenPoint pointerAt;
   bool optionHeld = false;
   ScreenState screenState = ScreenState::live;
   bool tellsChanges = false;
   bool canPick = false;
-  // What the desktop does when the program asks for the screen.
+  // Called when the program asks for the screen.
   std::function<void(Picked)> requested = [](const Picked&) {};
-  // What the user does in the colour dialog, given the colour that it begins at: nothing is giving up.
+  // The user's choice in the colour dialog that starts at the given colour; nothing for cancelling.
   std::function<std::optional<std::uint32_t>(std::uint32_t)> colorChoice = [](std::uint32_t) { return std::nullopt; };
-  // What the user does in the save dialog, given the name that it begins with: a path, or nothing for giving up.
+  // The user's choice in the save dialog that proposes the given name: a path, or nothing for cancelling.
   std::function<std::optional<std::string>(const std::string&)> saveChoice = [](const std::string&) {
     return std::nullopt;
   };
-  // Where the program's own files go. The desktop has no such place while it is empty.
+  // The folder for the program's own files; empty for a desktop without such a folder.
   std::string applicationData;
   std::chrono::nanoseconds frame{std::chrono::milliseconds(16)};
 
@@ -43,16 +43,17 @@ class FakeDesktop : public Desktop, public ScreenReader {
   int turns = 0;
   bool watchesScreen() const { return static_cast<bool>(changed_); }
 
-  // Moves the pointer, and tells whoever watches it.
+  // Moves the pointer, and reports that to the watcher.
   void movePointer(ScreenPoint to);
 
-  // Lets time go by, ringing each alarm at its time. With no time, what is due now rings, once each.
+  // Advances the clock and rings each alarm at its time. With a time of zero it rings the alarms that are due, once
+  // each.
   void advance(std::chrono::nanoseconds by);
 
-  // The time until the next alarm, or none.
+  // The time until the next alarm; nothing if no alarm is set.
   std::optional<std::chrono::nanoseconds> nextAlarm() const;
 
-  // Tells whoever watches the screen that it has changed.
+  // Reports a change on the screen to the watcher.
   void changeScreen();
 
   ScreenReader& screenReader() override { return *this; }
@@ -78,7 +79,7 @@ class FakeDesktop : public Desktop, public ScreenReader {
   }
   std::string applicationDataFolder() override { return applicationData; }
 
-  // Has each look at the clock take some time, for code that works until its time is over.
+  // The time that each read of the clock takes, for code that works until its time is up.
   std::chrono::nanoseconds costOfLook{0};
 
  private:

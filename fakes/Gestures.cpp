@@ -20,8 +20,8 @@ namespace tavrelkin::gesture {
 
 namespace {
 
-// The test library's own mouse events end at the widget's edge; a drag does not. Marked as the user's, since the
-// toolkit lets no other press move the keyboard.
+// The test library's own mouse events end at the widget's edge, but a drag does not. The event is marked as the user's,
+// since the toolkit lets no other press move the focus.
 void send(const RectControl& control, QEvent::Type type, Qt::MouseButton button, Qt::MouseButtons held, Int32 x,
           Int32 y) {
   QWidget& widget = control.native();
@@ -130,7 +130,7 @@ bool drop(const RectControl& control, const DragItem& item) {
   return true;
 }
 
-// The offscreen platform takes every drag for ended at once. What was picked up is there until its deferred deletion.
+// The offscreen platform ends every drag at once. The data that it carried exist until their deferred deletion.
 Ref<DragItem> pull(const RectControl& from, Int32 x, Int32 y, Int32 toX, Int32 toY) {
   press(from, x, y);
   dragTo(from, toX, toY);

@@ -15,7 +15,7 @@ namespace tavrelkin {
 
 namespace {
 
-// One toolkit for the whole test program, since it can't be made twice. It has to go before static objects do.
+// The test program has one toolkit, since it can't be made twice. It must be destroyed before static objects are.
 class Toolkit : public ::testing::Environment {
  public:
   void SetUp() override { setUpToolkit(application_.emplace(count_, arguments_.data())); }
@@ -28,7 +28,7 @@ class Toolkit : public ::testing::Environment {
   std::optional<QApplication> application_;
 };
 
-// The test library takes it over.
+// The test library owns it.
 [[maybe_unused]] const ::testing::Environment* const toolkit = ::testing::AddGlobalTestEnvironment(new Toolkit);
 
 }  // namespace
@@ -46,7 +46,7 @@ RuntimeTest::~RuntimeTest() {
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   processEvents();
   installDesktop(nullptr);
-  // A quit that came while no event loop ran would end every later loop at once.
+  // A quit that came while no event loop was running would end every later loop at once.
   runUntilQuit([] { QCoreApplication::quit(); });
 }
 

@@ -9,8 +9,8 @@
 
 namespace tavrelkin {
 
-// A test that needs windows: the toolkit runs on its offscreen platform, and the desktop is a fake one. Each test has
-// an application of its own, made by its body where it needs more than the plain one.
+// A test that needs windows: the toolkit runs on its offscreen platform, with a fake desktop. Each test has its own
+// application; a test that needs more than the plain one makes it.
 class RuntimeTest : public ::testing::Test {
  protected:
   RuntimeTest();
@@ -19,16 +19,16 @@ class RuntimeTest : public ::testing::Test {
   // The fake desktop in use.
   FakeDesktop& fake() const { return *fake_; }
 
-  // Replaces the application by another one, as the program's start does: handlers, then the first window.
+  // Replaces the application as the program's start does: first the handlers, then the first window.
   void start(Ref<Application> application);
 
-  // Runs the event loop until the program quits, and gives its exit status; `first` is called in it.
+  // Runs the event loop, and `first` in it, until the program quits. Returns the exit status.
   static int runUntilQuit(const std::function<void()>& first);
 
-  // Lets the toolkit deliver all that is waiting.
+  // Makes the toolkit deliver all events that are waiting.
   static void processEvents();
 
-  // Delivers events until `done` says so. False after five seconds in vain.
+  // Delivers events until `done` returns true. False if that takes more than five seconds.
   static bool waitUntil(const std::function<bool()>& done);
 
  private:

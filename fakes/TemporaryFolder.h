@@ -13,12 +13,12 @@
 
 namespace tavrelkin {
 
-// An empty folder, removed with the object and all that is in it.
+// An empty folder, which is removed with the object, together with its contents.
 class TemporaryFolder {
  public:
   TemporaryFolder() {
     std::string name = std::filesystem::temp_directory_path() / "tavrelkin-files-XXXXXX";
-    if (!mkdtemp(name.data())) throw std::runtime_error("No folder can be made for temporary files.");
+    if (!mkdtemp(name.data())) throw std::runtime_error("The temporary folder can't be made.");
     path_ = name;
   }
   TemporaryFolder(const TemporaryFolder&) = delete;
@@ -31,20 +31,20 @@ class TemporaryFolder {
   std::filesystem::path path(const std::string& name) const { return path_ / name; }
   Ref<FolderItem> item(const std::string& name) const { return New<FolderItem>(path(name)); }
 
-  // Makes a file of these bytes.
+  // Makes a file with these bytes.
   Ref<FolderItem> write(const std::string& name, const std::string& bytes) const {
     std::ofstream(path(name), std::ios::binary) << bytes;
     return item(name);
   }
 
-  // The bytes of a file, or a text that no test has in a file where it can't be read.
+  // The bytes of a file. If it can't be read, a text that no test writes to a file.
   std::string read(const std::string& name) const {
     std::ifstream file(path(name), std::ios::binary);
     if (!file) return "no such file";
     return {std::istreambuf_iterator<char>(file), {}};
   }
 
-  // The names of all that is in the folder, hidden files too, in their order.
+  // The sorted names of all files in the folder, including hidden files.
   std::vector<std::string> names() const {
     std::vector<std::string> found;
     for (const auto& entry : std::filesystem::directory_iterator(path_))

@@ -1,4 +1,4 @@
-// A drag from another program. The input is a row of formats: a digit for which one, a length, and so many bytes.
+// A drag from another program. The input is a list of formats: a digit for the format, a length, and that many bytes.
 
 #include <algorithm>
 #include <memory>
@@ -17,8 +17,8 @@
 namespace tavrelkin {
 namespace {
 
-// The digits that stand for a format of bytes, each at its place. Two more stand for a colour as the toolkit gives it,
-// and for a private type whose name is in the bytes.
+// The formats of bytes; a digit is the index of its format. Two more digits are a colour in the toolkit's form, and a
+// private type whose name is in the bytes.
 constexpr const char* kPrivate = "application/x-tavrelkin-hcol";
 constexpr const char* kPlainText = "text/plain;charset=utf-8";
 constexpr const char* kFormats[] = {
@@ -27,7 +27,7 @@ constexpr const char* kFormats[] = {
 constexpr std::size_t kColor = 6;
 constexpr std::size_t kOtherType = 7;
 
-// As the toolkit reads the desktop's colour type: four channels of two bytes.
+// Reads the desktop's colour type as the toolkit does: four channels of two bytes.
 QColor platformColor(std::string_view bytes) {
   const auto word = [bytes](Int32 n) {
     return static_cast<quint16>(AscB(MidB(bytes, 2 * n + 1)) << 8 | AscB(MidB(bytes, 2 * n + 2)));
@@ -96,7 +96,8 @@ void checkRead(const QMimeData& drag, const Ref<DragItem>& item) {
   require(offered->TextAvailable() == hasText, "the same text is offered as comes in");
 }
 
-// What a program of the same kind, and one that knows the desktop's colour type alone, get of an item.
+// Checks what two programs receive of an item: another copy of this program, and one that knows only the desktop's
+// colour type.
 void checkSent(const Ref<DragItem>& item) {
   const std::unique_ptr<QMimeData> sent = toMime(*item);
   const Ref<DragItem> again = fromMime(*sent);
@@ -116,7 +117,7 @@ void checkSent(const Ref<DragItem>& item) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   using namespace tavrelkin;
-  // The toolkit warns of each text that is no name of a colour.
+  // The toolkit warns about each text that does not name a colour.
   qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
   const String input(data, data + size);
   const std::unique_ptr<QMimeData> drag = dragOf(input);

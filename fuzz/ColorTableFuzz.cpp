@@ -8,7 +8,8 @@ namespace {
 
 constexpr std::size_t kFileSize = 768;
 
-// What a new table writes after it has read the file: its bytes, up to the last entry. What a colour lacks is 0.
+// The bytes that a new table writes after it has read the file: those of the file, up to the last entry. Missing bytes
+// of a colour are 0.
 String expected(const String& bytes) {
   String all = MidB(bytes, 1, 3 * 255);
   while (all.size() % 3 != 0)
@@ -22,7 +23,7 @@ void checkBounds(const zrClut& table) {
   require(table.Index < 255, "the last entry is never reached");
 }
 
-// A table that was short before keeps nothing of its bounds, and its new entries are black.
+// A table that was short before must not keep its old bounds; its new entries must be black.
 void checkShortTable(const Ref<FolderItem>& file, const zrClut& read) {
   zrClut table;
   table.Count = 0;

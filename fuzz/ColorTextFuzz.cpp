@@ -1,4 +1,4 @@
-// A colour as text, as the user pastes it.
+// A colour as text that the user pastes.
 
 #include <algorithm>
 

@@ -11,10 +11,10 @@
 namespace tavrelkin {
 namespace {
 
-// Two pixels by one, of two colours.
+// A map of two pixels by one, in two colours.
 const String kBefore("D\0\2\1\x20\1\xFF\0\0\0\xFF\0\0\1\0", 15);
 
-// The text that a map gives in the form of bytes but for its pixels, which stay in their own.
+// The map's text in the form of bytes, except that the pixels stay in their own form.
 String fieldsOf(const zrPixMap& map) {
   zrPixMap bytes;
   bytes.width = map.width;
@@ -59,7 +59,8 @@ void checkWritten(const zrPixMap& map) {
   require(again.getPixMapData() == text, "and written the same");
 }
 
-// A picture with its mask: white where that is white too, or all black there where the map has no other mask.
+// Checks a picture and its mask. The mask is white where the map's mask is white too, and black everywhere if the map
+// has no mask.
 void checkPixels(const zrPixMap& map, const Picture& picture, const Picture& mask) {
   std::set<std::uint32_t> inks{kBlack.bits};
   for (const Color c : map.colors)
@@ -76,7 +77,7 @@ void checkPixels(const zrPixMap& map, const Picture& picture, const Picture& mas
   }
 }
 
-// Drawn in part, at a place off the corner, the map shows the same pixels.
+// If only a part of the map is drawn, away from the corner, it must show the same pixels.
 void checkClipped(zrPixMap& map, const Picture& picture) {
   constexpr Int32 side = 8;
   const Ref<Picture> paper = NewPicture(side, side, 32);
@@ -116,7 +117,7 @@ void check(const String& text, bool hexadecimal) {
   }
   checkFields(map, text);
   checkWritten(map);
-  // Not the largest ones, which cost too much time.
+  // The largest maps would take too much time.
   if (map.width * map.height <= 4096) checkPicture(map);
   require(desktop.messages.empty(), "there is nothing more to say");
 }

@@ -1,5 +1,6 @@
-// A desktop that gives its screen, and says what it likes of it. The input is a row of words of 4 bytes: how many
-// streams there are, and for each whether it has a place and a size and which; then frames and pointer places.
+// A desktop that shares its screen and sends any values. The input is a list of words of 4 bytes: the number of
+// streams; for each stream, whether it has a position and a size, and their values; then frames and places of the
+// pointer.
 
 #include <algorithm>
 #include <cstring>
@@ -18,7 +19,7 @@ class Words {
 
   bool isEmpty() const { return rest_.size() < 4; }
 
-  // The next word; 0 where none is left.
+  // The next word; 0 if none is left.
   std::int32_t next() {
     std::int32_t word = 0;
     const auto bytes = take(sizeof(word));
@@ -46,7 +47,7 @@ std::vector<CastStream> streamsOf(Words& words) {
   return streams;
 }
 
-// The last pixel of a frame that was taken.
+// The last pixel of an accepted frame.
 std::uint32_t lastPixel(const ScreenFrame& frame) {
   const auto at = static_cast<std::size_t>((frame.height - 1) * frame.stride + (frame.width - 1) * 4);
   const std::uint32_t ends[] = {frame.bytes[at], frame.bytes[at + 2]};

@@ -13,12 +13,12 @@ std::size_t entries(Int32 upperBound) {
   return static_cast<std::size_t>(std::max(upperBound, -1) + 1);
 }
 
-// The byte at a place of the file, or 0 behind its end.
+// The byte at a position in the file, or 0 after its end.
 Int32 byteAt(const String& bytes, Int32 at) {
   return AscB(MidB(bytes, at + 1, 1));
 }
 
-// What a new table has at an index once it has read the file.
+// The colour that a new table must have at an index after it has read the file.
 Color expected(const String& bytes, Int32 count, Int32 i) {
   const Int32 at = 6 + 10 * i;
   const bool isRead = i < std::max(count, 1) && at < LenB(bytes);
@@ -56,7 +56,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     require(table.ReadSwatch(input.file), rule);
     checkRead(table, input.bytes);
   }
-  // Not the longest ones, which cost too much time.
+  // The longest tables would take too much time.
   if (table.Count < 1000) checkWritten(table, input);
   input.requireSilence();
   return 0;

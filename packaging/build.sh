@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Makes the Debian package with the distribution's own compiler flags (hardening) and prints its path as the last line.
-# Installs what that takes.
+# Makes the Debian package with the distribution's own compiler flags (hardening); the last line that it prints is the
+# package's path. Installs the packages that it needs.
 set -euo pipefail
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
 # shellcheck source=scripts/packages.sh

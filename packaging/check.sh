@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Makes the Debian package and tries it: its metadata, lintian, and its life on a bare Debian 12, where it is installed
-# with what it depends on, started, removed and purged. Says OK for each, and stops at the first that fails. Needs root,
-# for a system of its own (chroot) in build/package-check/; installs what that takes.
+# Makes the Debian package and tests it: its metadata, lintian, and installation, start, removal and purge on a bare
+# Debian 12 with the packages that it depends on. Prints OK for each step, and stops at the first failure. Needs root to
+# make a separate system (chroot) in build/package-check/. Installs the packages that it needs.
 set -euo pipefail
 script=$(readlink -f -- "${BASH_SOURCE[0]}")
 root=$(dirname -- "$(dirname -- "$script")")
@@ -13,10 +13,10 @@ source "$root/scripts/headless.sh"
 source "$root/packaging/tree.sh"
 
 if ((EUID != 0)); then
-  echo "This check needs root: it makes a system of its own by debootstrap and chroot." >&2
+  echo "This check needs root, since it makes a separate system with debootstrap and chroot." >&2
   exit 1
 fi
-# Mounts are made where no other process sees them, and go with the last process of this script, however it ends.
+# No other process sees the mounts. They end with the last process of this script, however it ends.
 [[ ${1:-} == --unshared ]] || exec unshare --mount --propagation private -- "$script" --unshared
 
 export LANG=C.UTF-8 LC_ALL=C.UTF-8
@@ -30,7 +30,7 @@ clean_up() {
 
 build_package() { package=$("$root/packaging/build.sh" | tail -n 1); }
 
-# What is in the package, not in the source folder: the metadata are looked at together with what they name.
+# Checks the metadata in the package, not in the source folder, together with the files that they name.
 check_metadata() {
   local contents="$headless_temp/contents"
   dpkg-deb --extract "$package" "$contents"
@@ -38,7 +38,7 @@ check_metadata() {
   appstreamcli validate-tree --no-net "$contents"
 }
 
-# Every exception stands with its reason in packaging/debian/lintian-overrides.
+# packaging/debian/lintian-overrides has every exception with its reason.
 check_lintian() {
   lintian --allow-root --display-info --pedantic --fail-on error,warning,info,pedantic "$package"
 }
@@ -50,15 +50,15 @@ prepare_tree() {
   list_tree >"$headless_temp/before"
 }
 
-# Without what it only recommends.
+# Does not install packages that are only recommended.
 install_package() {
   cp -- "$package" "$tree/tmp/package.deb"
   apt_in_tree install /tmp/package.deb
   in_tree dpkg --listfiles tavrelkin >"$headless_temp/files"
 }
 
-# As a user, on a display that has no window manager, with no session bus: neither is in the tree. A mere start leaves
-# nothing in the user's home.
+# Starts the program as a user, on a display without a window manager and a session bus: the tree has neither. A start
+# alone must leave nothing in the user's home folder.
 start_program() {
   local uid class left
   uid=$(in_tree id -u visitor)
@@ -80,7 +80,8 @@ start_program() {
   [[ -z $left ]] || { echo "left in the user's home: $left"; return 1; }
 }
 
-# Removal takes the program's own files, and the rest goes with purge and with what was installed for it.
+# Removing the package must remove the program's own files. Purging, and removing the packages that were installed for
+# it, must remove everything else.
 remove_package() {
   local path
   apt_in_tree remove tavrelkin
@@ -94,14 +95,14 @@ remove_package() {
   diff -- "$headless_temp/before" "$headless_temp/after"
 }
 
-# step NAME FUNCTION: in this shell, since one step goes on where the other ended.
+# step NAME FUNCTION: runs the function in this shell, since later steps use the results of earlier ones.
 step() {
   step_name=$1
   "$2" &>"$headless_temp/step.out"
   echo "OK    $1"
 }
 
-# A step that exits outright still has its output redirected here.
+# If a step calls exit, its output is still redirected here.
 end() {
   local status=$?
   ((status == 0)) || { echo "FAIL  $step_name"; tail -n 40 -- "$headless_temp/step.out"; } >&"$errors"
@@ -118,11 +119,11 @@ trap 'exit 130' INT
 trap 'exit 143' TERM
 
 require_packages build package
-step "the package is made" build_package
+step "makes the package" build_package
 step "desktop entry and metadata" check_metadata
 step "lintian, pedantic" check_lintian
-step "a bare Debian 12" prepare_tree
-step "installs with what it depends on" install_package
-step "starts, without window manager and session bus" start_program
-step "removed and purged, nothing is left" remove_package
+step "makes a bare Debian 12" prepare_tree
+step "installs with its dependencies" install_package
+step "starts without a window manager and a session bus" start_program
+step "leaves nothing after removal and purge" remove_package
 echo "$package"

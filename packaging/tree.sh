@@ -1,13 +1,13 @@
 # shellcheck shell=bash
-# A bare Debian 12 system in a folder, to try the package in. Sourced by check.sh, which sets `root` to the source
-# folder. Where its packages come from is what this machine's own apt says.
+# A bare Debian 12 system in a folder, to test the package in. check.sh sources this file and sets `root` to the source
+# folder. The packages come from the sources of this machine's apt.
 : "${root:?}"
 
-store="$root/build/package-check"  # what is kept from one run to the next
+store="$root/build/package-check"  # kept from one run to the next
 tree="$store/tree"
-bare=                              # where debootstrap works, which can't in a path that has a blank
+bare=  # the folder for debootstrap, which fails in a path with a blank
 
-# Prints address, suite and component of each part of Debian 12 that this machine's apt fetches from.
+# Prints address, suite and component of each part of Debian 12 in the sources of this machine's apt.
 debian_sources() {
   # shellcheck disable=SC2016  # It is apt that expands these.
   apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' |
@@ -17,7 +17,7 @@ debian_sources() {
 # Prints the mirror of the main archive.
 mirror() { debian_sources | sed -n 's/ bookworm main$//p' | head -n 1; }
 
-# bootstrap FOLDER: a bare Debian 12 in it, with this machine's sources.
+# bootstrap FOLDER: makes a bare Debian 12 in the folder, with this machine's sources.
 bootstrap() {
   local folder=$1 from proxy=
   from=$(mirror)
@@ -26,7 +26,7 @@ bootstrap() {
     from=$(mirror)
   fi
   if [[ -z $from ]]; then
-    echo "This machine's apt has no source for Debian 12 (bookworm): the package can't be tried." >&2
+    echo "This machine's apt has no source for Debian 12 (bookworm), so the package can't be tested." >&2
     return 1
   fi
   eval "$(apt-config shell proxy Acquire::http::Proxy)"
@@ -39,7 +39,7 @@ bootstrap() {
   apt-config dump Acquire | sed -nE '/^Acquire::(https?:|Retries|Check-)/p' >"$folder/etc/apt/apt.conf.d/90outside"
 }
 
-# The system as debootstrap leaves it, in an archive that is made once: everything that a run does goes with the tree.
+# Saves the system that debootstrap makes in an archive, once: each run removes its tree.
 make_base() {
   local base=$1
   bare=$(mktemp --directory /var/tmp/tavrelkin-base.XXXXXX)
@@ -49,7 +49,7 @@ make_base() {
   mv -- "$base.part" "$base"
 }
 
-# Puts a fresh tree up. It must go through remove_tree in the end.
+# Makes a fresh tree. remove_tree must remove it.
 make_tree() {
   local base="$store/bookworm.tar.gz"
   remove_tree
@@ -63,7 +63,7 @@ make_tree() {
   mount --bind -- /tmp/.X11-unix "$tree/tmp/.X11-unix"
 }
 
-# Nothing outside goes along, even where a mount could not be undone.
+# Removes nothing outside the tree, even if a mount could not be undone.
 remove_tree() {
   local mounted
   for mounted in proc var/cache/apt/archives tmp/.X11-unix; do
@@ -72,7 +72,7 @@ remove_tree() {
   rm -rf --one-file-system -- "$tree" ${bare:+"$bare"}
 }
 
-# in_tree COMMAND ...: runs it there as root, with nothing of this machine's environment.
+# in_tree COMMAND ...: runs the command in the tree as root, without this machine's environment.
 in_tree() {
   env --ignore-environment PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
     chroot "$tree" "$@"
@@ -82,7 +82,7 @@ apt_in_tree() {
   in_tree apt-get --quiet --yes --no-install-recommends -o Dpkg::Use-Pty=0 -o APT::Sandbox::User=root "$@"
 }
 
-# Lists all that is there, less what apt and dpkg keep of each step, and what only passes.
+# Lists all files except those of apt and dpkg that change with each step, and temporary files.
 list_tree() {
   local -a passed_over=(-path ./var/cache -o -path ./var/log -o -path ./var/lib/apt -o -path ./var/lib/dpkg
     -o -path ./proc -o -path ./tmp)

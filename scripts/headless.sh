@@ -1,6 +1,7 @@
 # shellcheck shell=bash
 # A display for machines without one: a virtual X server, a window manager and a colourful desktop, which last as long
-# as the program. Sourced by run.sh, docs/screenshots.sh and packaging/check.sh, which set `root` to the source folder.
+# as the program. run.sh, docs/screenshots.sh and packaging/check.sh source this file and set `root` to the source
+# folder.
 : "${root:?}"
 
 headless_temp=
@@ -9,11 +10,11 @@ headless_manager=
 headless_program=
 headless_window=
 
-# Put ahead of each command that is started here: it gets a session of its own, so that Ctrl-C reaches this script
-# alone, which then ends things in order, and it ends with the script even where that is killed outright.
+# The prefix of each command that is started here. The command gets a session of its own, so that Ctrl-C reaches only
+# this script, which then stops everything in order. It also ends with the script if the script is killed.
 child=(setsid setpriv --pdeathsig TERM --)
 
-# Ends the child and all of its group: politely, and after five seconds by force.
+# Ends the child and its process group; kills them after five seconds.
 stop_child() {
   local pid=$1 turn
   [[ -n $pid ]] || return 0
@@ -34,7 +35,7 @@ stop_headless() {
   [[ -z $headless_temp ]] || rm -rf -- "$headless_temp"
 }
 
-# poll SECONDS PID COMMAND ...: waits until the command succeeds. Fails when the time is over or the process has ended.
+# poll SECONDS PID COMMAND ...: waits until the command succeeds. Fails when the time is up or the process has ended.
 poll() {
   local deadline=$((SECONDS + $1)) pid=$2
   shift 2
@@ -50,7 +51,7 @@ give_up() {
   exit 1
 }
 
-# Only the user who started it may use the display: it has no network socket, and xhost shuts out the others.
+# Only the user who started the server may use it: it has no network socket, and xhost excludes other users.
 start_server() {
   local number
   mkfifo -- "$headless_temp/number"
@@ -65,7 +66,7 @@ start_server() {
 
 manager_is_up() { [[ $(xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null) == *"window id"* ]]; }
 
-# The window manager gets a home of its own, so that neither the user's settings nor their files matter.
+# The window manager has a home folder of its own, so that the user's settings and files do not matter.
 start_manager() {
   local home="$headless_temp/home"
   mkdir -- "$home"
@@ -75,7 +76,7 @@ start_manager() {
   poll 20 "$headless_manager" manager_is_up || give_up "Openbox, the window manager, did not start:"
 }
 
-# Something to point at: all hues from black to white, flat colours with sharp edges, fine patterns.
+# Paints something to point at: all hues from black to white, flat colours with sharp edges, fine patterns.
 paint_desktop() {
   local picture="$headless_temp/desktop.png" left=0 swatch
   local -a draw=(-fill white -draw 'rectangle 0,600 1279,799')
@@ -88,22 +89,22 @@ paint_desktop() {
   for ((left = 648; left < 1272; left += 8)); do
     draw+=(-draw "rectangle $left,720 $((left + 3)),749" -draw "rectangle $((left + 4)),750 $((left + 7)),779")
   done
-  # The server puts the pointer in the middle: on the edge of the inner circle.
+  # At first the pointer is in the middle of the screen, on the edge of the inner circle.
   draw+=(-fill '#ffcc00' -draw 'circle 700,400 700,500' -fill '#003399' -draw 'circle 700,400 700,460')
   convert -size 600x1280 gradient: -rotate 90 \( -size 1280x600 xc:white \) \( -size 1280x600 gradient: \) \
     -set colorspace HSL -combine -colorspace sRGB -alpha off -background white -gravity north -extent 1280x800 \
     +antialias "${draw[@]}" -depth 8 "$picture"
-  # Its exit status is 1 even where all went well.
+  # The exit status of `display` is 1 even if it succeeds.
   display -window root "$picture" || true
 }
 
-# Sets headless_window to the program's first window, known by its title, once that is on the screen.
+# Sets headless_window to the program's first window, found by its title, once it is on the screen.
 window_is_up() {
   headless_window=$(xwininfo -root -tree 2>/dev/null | sed -n 's/^ *\(0x[0-9a-f]*\) "Color: .*/\1/p' | tail -n 1)
   [[ -n $headless_window && $(xwininfo -id "$headless_window" 2>/dev/null) == *"Map State: IsViewable"* ]]
 }
 
-# The toolkit shows a window's content all at once; until then the window is of one colour.
+# The toolkit shows all of a window's content at once; until then the window has one colour.
 window_is_painted() {
   local colours
   window_is_up && colours=$(convert "x:$headless_window" -format %k info: 2>/dev/null) && ((colours > 1))
@@ -113,8 +114,8 @@ take_screenshot() {
   import -window root "png:$1.part" && mv -f -- "$1.part" "$1"
 }
 
-# Brings up the display, with a window manager and an empty desktop, until this script ends; sets headless_temp to a
-# folder that goes with it.
+# Starts the display, with a window manager and an empty desktop, until this script ends. Sets headless_temp to a folder
+# that is removed then.
 start_display() {
   headless_temp=$(mktemp -d "${TMPDIR:-/tmp}/tavrelkin.XXXXXX")
   trap stop_headless EXIT
@@ -128,14 +129,14 @@ start_display() {
   start_manager
 }
 
-# There is no session bus here; the toolkit must not start one, which would outlive the program.
+# There is no session bus here. The toolkit must not start one, since it would outlive the program.
 start_program() {
   DBUS_SESSION_BUS_ADDRESS=${DBUS_SESSION_BUS_ADDRESS:-disabled:} QT_QPA_PLATFORM=xcb "${child[@]}" "$1" &
   headless_program=$!
 }
 
-# run_headless PROGRAM SCREENSHOT: runs the program on a display of its own and writes a picture of the whole screen
-# once its window is up. Ends this script, with the program's exit status.
+# run_headless PROGRAM SCREENSHOT: runs the program on a separate display, and saves a picture of the whole screen once
+# the program's window is visible. Ends this script with the program's exit status.
 run_headless() {
   local program=$1 screenshot=$2 status=0
   rm -f -- "$screenshot"
@@ -144,10 +145,10 @@ run_headless() {
   start_program "$program"
   if poll 30 "$headless_program" window_is_painted; then
     take_screenshot "$screenshot"
-    echo "Tavrelkin is up on a display of its own. Screenshot: $screenshot"
-    echo "To reach it, start other programs with DISPLAY=$DISPLAY. Ctrl-C ends it."
+    echo "Tavrelkin is running on a virtual display. Screenshot: $screenshot"
+    echo "Start other programs with DISPLAY=$DISPLAY to put them on the same display. Ctrl-C ends Tavrelkin."
   elif kill -0 "$headless_program" 2>/dev/null; then
-    echo "Tavrelkin runs on DISPLAY=$DISPLAY, but has shown no window for 30 seconds." >&2
+    echo "Tavrelkin is running on DISPLAY=$DISPLAY, but has shown no window for 30 seconds." >&2
   fi
   wait "$headless_program" || status=$?
   exit "$status"

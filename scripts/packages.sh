@@ -1,5 +1,6 @@
 # shellcheck shell=bash
-# The Debian 12 packages that each purpose needs, and their installation. Sourced by all scripts that need some.
+# The Debian 12 packages that each purpose needs, and their installation. All scripts that need packages source this
+# file.
 
 packages_for() {
   case $1 in
@@ -32,7 +33,7 @@ packages_for() {
   esac
 }
 
-# Prints those of the given packages that are not installed, one a line.
+# Prints the given packages that are not installed, one a line.
 missing_packages() {
   local package status installed=" "
   while read -r package status; do
@@ -43,13 +44,13 @@ missing_packages() {
   done
 }
 
-# Runs apt-get with the given arguments as root, asking nothing. Only sudo may want its password, and only at a
+# Runs apt-get with the given arguments as root and without questions. Only sudo may ask, for its password and at a
 # terminal.
 apt_get() {
   local -a as_root=()
   if ((EUID != 0)); then
     if ! command -v sudo >/dev/null; then
-      echo "Installing packages takes root rights, and there is no sudo here." >&2
+      echo "Installing packages needs root rights, and this system has no sudo." >&2
       return 1
     fi
     as_root=(sudo)
@@ -59,7 +60,7 @@ apt_get() {
     -o Dpkg::Use-Pty=0 "$@" </dev/null
 }
 
-# Installs what is missing of the packages for the given purposes; with nothing missing it says and does nothing.
+# Installs the missing packages for the given purposes; prints and does nothing if none is missing.
 require_packages() {
   local purpose
   local -a wanted=() more missing
@@ -68,7 +69,7 @@ require_packages() {
     wanted+=("${more[@]}")
   done
   if ! command -v dpkg-query >/dev/null; then
-    echo "This is no Debian system: what the Debian packages ${wanted[*]} hold must be installed by hand." >&2
+    echo "This is not a Debian system. Install the contents of these Debian packages by hand: ${wanted[*]}" >&2
     return 0
   fi
   mapfile -t missing < <(missing_packages "${wanted[@]}" | sort -u)
@@ -76,9 +77,9 @@ require_packages() {
 
   echo "Installing ${missing[*]}"
   local -a install=(install --yes --no-install-recommends "${missing[@]}")
-  # The lists are fetched only where they are absent, or so old that the packages they name are gone.
+  # Fetches the package lists only if they are missing, or so old that their packages are gone.
   if apt-cache show --no-all-versions "${missing[@]}" &>/dev/null && apt_get "${install[@]}"; then return 0; fi
   if apt_get update && apt_get "${install[@]}"; then return 0; fi
-  echo "Could not install what is missing. As root, run: apt-get ${install[*]}" >&2
+  echo "The missing packages could not be installed. As root, run: apt-get ${install[*]}" >&2
   return 1
 }

@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""report.py: prints the shape of the tree. Lines of code are those that are neither blank nor comments."""
+"""report.py: prints figures on the source tree. Lines of code are neither blank nor comments."""
 import re
 import statistics
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-# The first line of a function's definition outside of a class, as clang-format leaves it.
+# The first line of a function's definition outside a class, as clang-format writes it.
 BEGIN = re.compile(r"^(?!namespace|class|struct|enum|union)\S.*\).*\{$")
 LAYER = re.compile(r"tavrelkin_layer\(tavrelkin_(\w+)(.*?)\)", re.DOTALL)
 
@@ -27,7 +27,7 @@ def count_code(folder, *endings):
 
 
 def functions(path):
-    """Length and place of each function that is defined outside of a class."""
+    """The length and position of each function that is defined outside a class."""
     begin = None
     for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
         if begin is None and BEGIN.match(line):
@@ -38,7 +38,7 @@ def functions(path):
 
 
 def arrows(path):
-    """The libraries that a CMakeLists.txt defines, each with those that it uses."""
+    """The libraries that a CMakeLists.txt defines, each with the libraries that it uses."""
     for name, rest in LAYER.findall(path.read_text(encoding="utf-8")):
         used = re.findall(r"tavrelkin_(\w+)", rest.partition("USES")[2].partition("PRIVATE")[0])
         yield f"{name} -> {', '.join(used)}" if used else name

@@ -14,7 +14,7 @@ constexpr int kMenuBar = 24;
 
 }  // namespace
 
-// Below the menu bar, where a second press might take the item that ends the program.
+// The position is below the menu bar, where a second press might choose the item that ends the program.
 ScreenPoint RandomUser::placeOn(xcb_window_t window) {
   const Area area = session_.windows.area(window);
   return {area.x + number(area.width), area.y + kMenuBar + number(area.height - kMenuBar)};
@@ -36,7 +36,7 @@ void RandomUser::act() {
     return;
   }
   session_.windows.activate(chosen);
-  // On a busy machine it may not be in front yet, and the mouse would meet another's menu bar.
+  // On a busy machine the window may not be in front yet, and a click would hit another window's menu bar.
   if (!waitUntil([&] { return session_.windows.hasKeyboard(chosen); }, 2s)) return;
   const int what = number(10);
   if (what < 5) return press(chosen);
@@ -45,8 +45,8 @@ void RandomUser::act() {
   moveOrMinimise(chosen);
 }
 
-// What asks nothing of the user, for the most part. The last window is never closed, for that would be the end; another
-// may be closing by itself, as favourites that can't be read do.
+// Presses keys whose commands mostly need no further input. The last window is never closed, since that ends the
+// program. Another window may be closing by itself, as favourites that can't be read do.
 void RandomUser::press(xcb_window_t window) {
   const std::size_t count = session_.windows.all().size();
   const std::string title = session_.windows.title(window);
@@ -72,12 +72,12 @@ void RandomUser::useMouse(xcb_window_t window) {
   if (what == 1) session_.hand.altDrag(from, anywhere());
   if (what == 2) session_.hand.moveTo(anywhere());
   if (what > 2) session_.hand.click(from);
-  // What has come up may be a menu or a dialog.
+  // The new window may be a menu or a dialog.
   if (number(2) == 0) session_.hand.keys(oneOf<const char*>({"Escape", "Down", "Up"}));
 }
 
-// Looks into a menu, or takes the favourites, the last item of one. Not into the one that has Quit: a menu that opens
-// after the keys that close it stays open, and a later click might take that.
+// Opens a menu, or chooses the favourites, the last item of a menu. Never opens the menu with Quit: a menu that opens
+// after the keys that close it stays open, and a later click might choose Quit.
 void RandomUser::openMenu(xcb_window_t window) {
   constexpr int kView = 129;
   const int menu = oneOf<int>({55, 84, kView, 180});
@@ -99,7 +99,7 @@ void RandomUser::moveOrMinimise(xcb_window_t window) {
   session_.windows.activate(window);
 }
 
-// Answers a save dialog now and then. False if no dialog is open.
+// Sometimes answers a save dialog, and leaves any other. False if no dialog is open.
 bool RandomUser::leaveDialog() {
   const auto windows = session_.windows.all();
   const auto titleOf = [this](xcb_window_t window) { return session_.windows.title(window); };

@@ -9,19 +9,19 @@
 
 namespace tavrelkin::test {
 
-// A user who does anything with the program's windows, as the numbers fall, and never quits it.
+// A user who does random things with the program's windows, and never ends the program.
 class RandomUser {
  public:
   RandomUser(Session& session, std::uint32_t seed) : session_(session), random_(seed) {}
 
-  // One act, with any window.
+  // Does one random thing with a random window.
   void act();
 
-  // Closes all windows but a new tool window; false where the program doesn't follow.
+  // Closes all windows except a new tool window; false if the program doesn't obey.
   bool tidyUp();
 
  private:
-  // From 0 on.
+  // A random number from 0 to `below` - 1; 0 if `below` is not positive.
   int number(int below) { return below > 0 ? static_cast<int>(random_() % static_cast<std::uint32_t>(below)) : 0; }
   static bool isTool(const std::string& title) { return title.starts_with("Color: "); }
   static bool isPalette(const std::string& title) { return title.starts_with("Untitled") || title.ends_with(".aco"); }

@@ -1,8 +1,8 @@
-// A user who does anything, for a long time: soak SECONDS [SEED]. The seed is printed; the same one makes the same
-// choices, as far as the windows come and go as they did.
+// A random user for a long time: soak SECONDS [SEED]. Prints the seed. The same seed makes the same choices, as long as
+// the windows open and close in the same way.
 //
-// Fails where the program ends, doesn't follow, leaves in disorder, or holds more at the end than at half time, each
-// time with one fresh window left.
+// Fails if the program ends, does not obey or does not exit cleanly, or if it holds more at the end than at half time.
+// Both times only one new window is left.
 
 #include <chrono>
 #include <cstdlib>
@@ -23,17 +23,17 @@ namespace {
 using Clock = std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
-// What the program holds of the machine.
+// The program's use of the machine's resources.
 struct Usage {
-  int memory = 0;     // KiB of its own; what is mapped from files is shared, and comes and goes as the system likes
+  int memory = 0;     // its own memory in KiB; pages mapped from files are shared and come and go as the system decides
   int handles = 0;    // open files
-  int resources = 0;  // on the X server, of all kinds, with those of the few other programs there
+  int resources = 0;  // all kinds of resources on the X server, including those of the few other programs there
 };
 
-// What may be held more at the end than at half time. The toolkit loads fonts, pointers and dialogs once, when they are
-// first needed. Memory keeps the size of its fullest hour: up to nine windows of 1.7 MiB each, whose gaps were seen to
-// settle within 3 MiB in the second half. Hundreds of windows are opened and thousands of frames drawn in two minutes,
-// each with a resource or more: what leaks shows.
+// How much more the program may hold at the end than at half time. The toolkit loads fonts, pointers and dialogs once,
+// at their first use. Memory keeps its peak size: up to nine windows with 1.7 MiB each, whose gaps were measured to
+// settle within 3 MiB in the second half. In two minutes hundreds of windows open and thousands of frames are drawn,
+// each with at least one resource, so a leak shows.
 constexpr Usage kTolerance{.memory = 8 * 1024, .handles = 3, .resources = 40};
 
 bool isWithin(const Usage& at, const Usage& before) {
@@ -73,16 +73,16 @@ class Soak {
       last = look();
       if (part == 2) halfWay = last;
     }
-    if (!isWithin(last, halfWay)) throw std::runtime_error("It holds more than before.");
+    if (!isWithin(last, halfWay)) throw std::runtime_error("The program holds more resources than at half time.");
     session_.bringToFront(session_.windows.all().front());
     session_.hand.keys("Ctrl+Q");
-    if (session_.program.waitForExit(30s) != 0) throw std::runtime_error("The program doesn't end in order.");
+    if (session_.program.waitForExit(30s) != 0) throw std::runtime_error("The program doesn't exit cleanly.");
   }
 
   std::string errors() const { return session_.program.errors(); }
 
  private:
-  // The program is started in the folder that this process is in.
+  // The program starts in the folder of this process.
   static Session::Options in(const Home& folder) {
     std::filesystem::current_path(folder.path());
     return {};
@@ -98,7 +98,7 @@ class Soak {
   }
 
   Usage look() {
-    if (!user_.tidyUp()) throw std::runtime_error("The program doesn't follow.");
+    if (!user_.tidyUp()) throw std::runtime_error("The program doesn't obey.");
     session_.hand.rest();
     const Process& program = session_.program;
     const std::filesystem::directory_iterator files("/proc/" + std::to_string(program.id()) + "/fd");
@@ -111,7 +111,7 @@ class Soak {
   }
 
   std::chrono::seconds length_;
-  Home folder_;  // where files are saved, unless the user goes elsewhere
+  Home folder_;  // the folder where files are saved, unless the user chooses another
   Session session_;
   RandomUser user_;
   long acts_ = 0;

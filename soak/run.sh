@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# soak/run.sh [SECONDS [SEED]]: uses the program at random for so long, an hour unless told, as users run it and, at
-# the same time, under the sanitizers. Prints the seed, which makes the same choices again, and what the program holds.
+# soak/run.sh [SECONDS [SEED]]: uses the program at random for that time, or for an hour, in two builds at once: as
+# users run it, and under the sanitizers. Prints the seed, which repeats the same choices, and the resources that the
+# program holds.
 set -euo pipefail
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
 # shellcheck source=scripts/packages.sh

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
-# tests/wayland.sh [--figures]: tries the built program against a real compositor and its portal, without a screen, and
-# says OK or what differs for each case; or measures what only such a session shows, and prints rows of a Markdown table.
-# Installs and builds what that takes. Leaves pictures in build/wayland. Fails if a case fails, or can't be tried here.
+# tests/wayland.sh [--figures]: tests the built program on a real compositor with its portal, without a screen. Prints
+# for each case OK, or the difference. With --figures it measures what only such a session shows and prints rows of a
+# Markdown table. Installs and builds what it needs. Saves pictures in build/wayland. Fails if a case fails or can't run
+# here.
 set -euo pipefail
 root=$(dirname -- "$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")")
 # shellcheck source=scripts/packages.sh
@@ -18,7 +19,7 @@ is_configured release || configure release -DTAVRELKIN_TESTS=OFF >&2
 cmake --build "$root/build/release" --target tavrelkin >&2
 mkdir -p -- "$pictures"
 
-# Debian's own interpreter has the bindings.
+# Only Debian's own interpreter has the bindings.
 if [[ ${1:-} == --figures ]]; then
   exec "$in_session" --monitor 1280x1024 /usr/bin/python3 "$root/bench/compositor_figures.py" "$program"
 fi

@@ -4,7 +4,7 @@
 
 namespace tavrelkin::bench {
 
-// Moves the pointer around a place for five seconds, 60 times a second, a turn a second.
+// Moves the pointer in a circle for five seconds, 60 times a second, one turn a second.
 void moveInCircles(test::Hand& hand, ScreenPoint centre, double radius);
 
 }  // namespace tavrelkin::bench

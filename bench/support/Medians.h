@@ -25,7 +25,7 @@ class Medians : public benchmark::BenchmarkReporter {
   std::map<std::string, double> medians_;
 };
 
-// A benchmark of several rounds, of which Medians keeps the middle one.
+// Adds a benchmark of several rounds; Medians keeps their median.
 template <class Body>
 benchmark::internal::Benchmark* add(const std::string& name, Body&& body) {
   return benchmark::RegisterBenchmark(name.c_str(), std::forward<Body>(body))

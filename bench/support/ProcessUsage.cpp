@@ -17,7 +17,7 @@ namespace {
 using namespace std::chrono_literals;
 namespace fs = std::filesystem;
 
-// The value of a line "Name: value ..." of a file of /proc; empty if there is none.
+// The value in the line "Name: value ..." of a file in /proc; empty if there is no such line.
 std::string valueOf(const fs::path& file, const std::string& name) {
   std::ifstream lines(file);
   std::string word;
@@ -42,7 +42,7 @@ pid_t childRunning(const std::string& program) {
     const std::string name = entry.path().filename();
     if (isNumber(name) && isChild(entry.path(), program)) return std::stoi(name);
   }
-  throw std::runtime_error("No child runs " + program + ".");
+  throw std::runtime_error("No child process runs " + program + ".");
 }
 
 }  // namespace
@@ -53,13 +53,13 @@ std::chrono::nanoseconds ProcessUsage::cpu() const {
   clockid_t clock = 0;
   std::timespec time{};
   if (clock_getcpuclockid(pid_, &clock) != 0 || clock_gettime(clock, &time) != 0)
-    throw std::runtime_error("The process has gone.");
+    throw std::runtime_error("The process has ended.");
   return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
 }
 
 double ProcessUsage::mebibytes() const {
   const std::string kibibytes = valueOf("/proc/" + std::to_string(pid_) + "/smaps_rollup", "Pss:");
-  if (kibibytes.empty()) throw std::runtime_error("The process has gone.");
+  if (kibibytes.empty()) throw std::runtime_error("The process has ended.");
   return std::stod(kibibytes) / 1024;
 }
 
@@ -69,7 +69,7 @@ void ProcessUsage::waitUntilIdle() const {
     std::this_thread::sleep_for(200ms);
     return cpu() - before < 500us;
   };
-  if (!test::waitUntil(isIdle)) throw std::runtime_error("The process does not come to rest.");
+  if (!test::waitUntil(isIdle)) throw std::runtime_error("The process does not become idle.");
 }
 
 CpuMeter::CpuMeter(const ProcessUsage& process)

@@ -7,26 +7,26 @@
 
 namespace tavrelkin::bench {
 
-// What a process takes of the machine, as the kernel keeps the books. Throws when the process has gone.
+// The CPU time and memory of a process, from the kernel. Throws if the process has ended.
 class ProcessUsage {
  public:
-  // The child of this process that runs the program of that name (at most 15 characters). There must be one.
+  // Finds the child of this process that runs the program of that name (at most 15 characters). It must exist.
   explicit ProcessUsage(const std::string& program);
 
-  // Processor time of all its threads since its start, exact to the nanosecond.
+  // The CPU time of all its threads since its start, exact to the nanosecond.
   std::chrono::nanoseconds cpu() const;
 
   // Its proportional share of memory (PSS).
   double mebibytes() const;
 
-  // Returns when it has been idle for a moment; throws if that doesn't come within seconds.
+  // Waits until the process has been idle for a moment; throws if that takes more than some seconds.
   void waitUntilIdle() const;
 
  private:
   pid_t pid_;
 };
 
-// The processor time that a process takes from here on.
+// The CPU time of a process from now on.
 class CpuMeter {
  public:
   explicit CpuMeter(const ProcessUsage& process);

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Makes the PNG sizes of the icon from its drawing, tavrelkin.svg. To be run after a change of that; the results are
-# committed, so that a build needs no tool for it. Installs what that takes.
+# Makes the PNG sizes of the icon from its drawing, tavrelkin.svg. Run it after a change of the drawing; the results are
+# committed, so that a build needs no tool for them. Installs the package that it needs.
 set -euo pipefail
 icons=$(dirname -- "$(readlink -f -- "${BASH_SOURCE[0]}")")
 # shellcheck source=scripts/packages.sh

@@ -1,4 +1,4 @@
-"""What an assistive technology sees of the session's windows, and the portal's dialog by its means."""
+"""Reads the session's windows as an assistive technology does, and uses the portal's dialog in the same way."""
 import time
 
 import gi
@@ -23,13 +23,13 @@ def below(part):
 
 
 def windows(is_owner):
-    """The windows of those programs for which is_owner says so."""
+    """Returns the windows of the programs for which is_owner returns true."""
     Atspi.get_desktop(0).clear_cache()
     return [window for program in children(Atspi.get_desktop(0)) if is_owner(program) for window in children(program)]
 
 
 def called(window, role, name):
-    """The part of the window with this role, and a name that has `name` in it; None if no part has."""
+    """Returns the part of the window with this role and with `name` in its name, or None."""
     parts = (part for part in below(window) if part.get_role_name() == role and name in part.get_name())
     return next(parts, None)
 
@@ -40,10 +40,10 @@ def has_state(part, state):
 
 
 def await_dialog(asking):
-    """Waits until the portal asks which monitors to share, over the window that asked for it, and gives its dialog.
+    """Waits until the portal's dialog asks which monitors to share, over the window that caused it. Returns the dialog.
 
-    The portal of GNOME 43 may crash where it is looked at while its dialog opens or closes: the window that loses the
-    keyboard tells of that.
+    The portal of GNOME 43 may crash if its windows are read while the dialog opens or closes. The window below loses
+    the focus at that time, so this waits for that instead.
     """
     wait(lambda: not has_keyboard(asking), "the portal's dialog")
     time.sleep(0.5)
@@ -56,7 +56,7 @@ def has_keyboard(window):
 
 
 def allow(dialog):
-    """Shares all monitors."""
+    """Selects all monitors in the dialog and shares them."""
     monitors = called(dialog, "list", "")
     for index in range(monitors.get_child_count()):
         monitors.select_child(index)

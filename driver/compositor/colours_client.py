@@ -1,6 +1,6 @@
 """Covers every monitor with the known colours of colours.py.
 
-A line "cover" on its standard input opens such windows in front of all others, "uncover" closes these.
+The line "cover" on its standard input opens such windows in front of all others, and "uncover" closes these.
 """
 import sys
 

@@ -1,6 +1,6 @@
-"""The user of a session that session.sh brought up: moves the pointer, presses buttons and keys, and looks.
+"""Plays the user of a session that session.sh started: moves the pointer, presses buttons and keys, takes pictures.
 
-All places are global and in pixels, and each monitor has scale 1. Debian's own python3 runs it.
+All positions are in pixels of the whole screen, and each monitor has scale 1. Debian's own python3 runs it.
 
     desktop = Desktop()
     desktop.move(100, 200)
@@ -17,16 +17,16 @@ gi.require_version("Gst", "1.0")
 from gi.repository import GdkPixbuf, Gio, GLib, Gst  # noqa: E402
 
 PREFIX = "org.gnome.Mutter."
-HIDDEN = 0  # mutter's word for pictures without the pointer
+HIDDEN = 0  # mutter's value for pictures without the pointer
 LEFT_BUTTON = 0x110
-# The kernel's codes, as on a US keyboard.
+# The kernel's key codes on a US keyboard.
 KEYS = {"escape": 1, "tab": 15, "return": 28, "ctrl": 29, "shift": 42, "alt": 56, "space": 57, "super": 125}
 for first, letters in ((16, "qwertyuiop"), (30, "asdfghjkl"), (44, "zxcvbnm")):
     KEYS |= {letter: first + index for index, letter in enumerate(letters)}
 
 
 def wait(happened, what, seconds=10.0):
-    """Waits until it has happened, and gives what that returned. Raises TimeoutError."""
+    """Waits until the function returns a true value, and returns that. Raises TimeoutError."""
     end = time.monotonic() + seconds
     while True:
         while GLib.MainContext.default().iteration(False):
@@ -61,7 +61,7 @@ class Picture:
 
 
 class Service:
-    """One of mutter's own interfaces on the bus."""
+    """One of mutter's own D-Bus interfaces."""
 
     def __init__(self, name):
         self.bus = Gio.bus_get_sync(Gio.BusType.SESSION)
@@ -74,7 +74,7 @@ class Service:
 
 
 class Recording:
-    """An area of the monitors, without the pointer, as a stream of pictures. `remote` is a remote desktop's session."""
+    """A stream of pictures of an area, without the pointer. `remote` is the session of a remote desktop."""
 
     def __init__(self, left, top, width, height, remote=None):
         self.size = (width, height)
@@ -94,7 +94,7 @@ class Recording:
         self.service.call("Start", path=self.session, interface=".Session")
 
     def play(self):
-        """Starts a pipeline, which the caller must stop(), and gives it with the sink that next() takes."""
+        """Starts a pipeline, which the caller must stop(). Returns it and the sink for next()."""
         wait(lambda: self.node, "a stream of pictures")
         pipeline = Gst.parse_launch(
             f"pipewiresrc path={self.node} always-copy=true ! videoconvert ! video/x-raw,format=RGB "
@@ -103,7 +103,7 @@ class Recording:
         return pipeline, pipeline.get_by_name("sink")
 
     def next(self, sink, seconds=5.0):
-        """Gives the next picture, or None where none comes in this time."""
+        """Returns the next picture, or None if none comes in this time."""
         sample = sink.emit("try-pull-sample", int(seconds * Gst.SECOND))
         if not sample:
             return None
@@ -118,7 +118,7 @@ class Recording:
         pipeline.set_state(Gst.State.NULL)
 
     def look(self):
-        """Takes one picture, as it is now."""
+        """Returns a picture of the present moment."""
         pipeline, sink = self.play()
         try:
             return self.next(sink) or self.next(sink)
@@ -127,7 +127,7 @@ class Recording:
 
 
 class Desktop:
-    """`monitors` are the rectangles (left, top, width, height) of all monitors."""
+    """`monitors` has the rectangle (left, top, width, height) of each monitor."""
 
     def __init__(self):
         Gst.init(None)
@@ -141,7 +141,7 @@ class Desktop:
         bottom = max(top + height for _, top, _, height in self.monitors)
         self.recording = Recording(0, 0, right, bottom, session_id)
         self.act("Start")
-        # Clients see no pointer and no keyboard before their first use, and miss what that does.
+        # Clients see no pointer and no keyboard until their first use, and miss that use.
         self.move(right / 2, bottom / 2)
         self.press("shift")
 
@@ -165,12 +165,12 @@ class Desktop:
         self.button(False)
 
     def press(self, *keys):
-        """Presses the keys one after the other, and lets them go in the opposite order."""
+        """Presses the keys in order, and releases them in the opposite order."""
         for key in keys:
             self.act("NotifyKeyboardKeycode", "(ub)", KEYS[key], True)
         for key in reversed(keys):
             self.act("NotifyKeyboardKeycode", "(ub)", KEYS[key], False)
 
     def look(self):
-        """Takes a picture of all monitors. A gap between them is black."""
+        """Returns a picture of all monitors. A gap between them is black."""
         return self.recording.look()

@@ -1,7 +1,7 @@
-"""Another program, with a box for each thing that it offers: a click puts it on the clipboard, a drag takes it along.
+"""Plays another program, with a box for each offer: a click puts it on the clipboard, a drag carries it.
 
-It says "copied" after a click, "dragged" when a drag begins, "accepted" when a target wants what is dragged, "asked"
-when the data of a clipboard or a drag are asked for, and "over" when a drag has ended, whatever became of it.
+It prints "copied" after a click, "dragged" when a drag begins, "accepted" when a target accepts the drag, "asked" when
+a program asks for the data of the clipboard or a drag, and "over" when a drag has ended in any way.
 """
 import gi
 
@@ -13,7 +13,7 @@ COLOUR = "application/x-color"
 TEXT = "text/plain;charset=utf-8"
 BOXES = {"whole": b"\x01\x02\x03", "silent": b"\x02\x03\x04", "endless": b"\x03\x04\x05", "huge": b"\x04\x05\x06"}
 WHOLE = (0xC0, 0x00, 0xFF)
-OPEN = []  # streams, which are closed when nothing holds them
+OPEN = []  # streams that would close if nothing held them
 
 
 def say(word):
@@ -21,7 +21,7 @@ def say(word):
 
 
 def write(stream, data):
-    """Gives whether somebody still reads."""
+    """Returns whether somebody is still reading."""
     try:
         return stream.write_all(data, None)[0]
     except GLib.Error:
@@ -36,7 +36,7 @@ class Offer(Gdk.ContentProvider):
     def do_ref_formats(self):
         return Gdk.ContentFormats.new([TEXT] if self.kind == "whole" else [COLOUR, TEXT])
 
-    # Never calls back: the toolkit closes the stream when it has no holder any more.
+    # Never calls back, and keeps the stream open: the toolkit closes a stream that nothing holds.
     def do_write_mime_type_async(self, _type, stream, *_):
         say("asked")
         if self.kind == "whole":
@@ -55,7 +55,7 @@ def box_of(kind):
 
     def copy(*_):
         box.get_clipboard().set_content(Offer(kind))
-        box.get_display().sync()  # the compositor refuses it when the keyboard is another window's by then
+        box.get_display().sync()  # sent now, since the compositor refuses it once another window has the focus
         say("copied")
 
     def begin(_, drag):

@@ -1,4 +1,4 @@
-"""The built program in a session, as its user sees it."""
+"""The built program in a session as its user sees it."""
 import os
 import subprocess
 import time
@@ -31,7 +31,7 @@ def outline(rows, left, top, width, height, colour):
 
 
 def preview_of(colour_at, x, y):
-    """What the preview must show while it follows at the place, at zoom 1."""
+    """Returns what the preview must show at zoom 1 while it follows the pointer at this position."""
     rows = []
     for row in range(ROWS):
         places = ((x - COLUMNS // 2 + column, y - ROWS // 2 + row) for column in range(COLUMNS))
@@ -44,7 +44,7 @@ def preview_of(colour_at, x, y):
 
 
 class Program:
-    """Starts the program and waits for its window, whose inside has its left top at `left`, `top`."""
+    """Starts the program and waits for its window. The top left corner of its inside is at `left`, `top`."""
 
     def __init__(self, desktop, path):
         self.desktop = desktop
@@ -62,7 +62,7 @@ class Program:
         return next((window for window in self.windows() if window.get_name().startswith("Color: ")), None)
 
     def find(self):
-        """The left top of the window's inside, or None where it is not to be seen whole."""
+        """Returns the top left corner of the window's inside, or None if it is not fully visible."""
         picture = self.desktop.look()
         at = picture.data.find(GREY * WIDTH)
         if at < 0:
@@ -72,7 +72,7 @@ class Program:
         return (left, top) if bottom_is_seen else None
 
     def focus(self):
-        """Gives the window the keyboard, by a click beside its controls."""
+        """Gives the window the focus by a click beside its controls."""
         self.desktop.move(self.left + 8, self.top + HEIGHT - 4)
         self.desktop.click()
         self.await_keyboard()
@@ -85,14 +85,14 @@ class Program:
         return self.window.get_name()
 
     def shows(self, text):
-        """Whether a label comes to show the text."""
+        """Returns whether a label soon shows the text."""
         try:
             return bool(wait(lambda: called(self.window, "label", text), text, 2))
         except TimeoutError:
             return False
 
     def is_marked(self, command):
-        """Whether the menu's command has its mark."""
+        """Returns whether the menu's command has a mark."""
         return has_state(called(self.window, "menu item", command), Atspi.StateType.CHECKED)
 
     def preview(self):
@@ -100,11 +100,11 @@ class Program:
         return self.desktop.look().part(self.left + left, self.top + top, width, height)
 
     def preview_place(self, column, row):
-        """The middle of a cell of the preview, on the screen."""
+        """Returns the middle of a cell of the preview, as a position on the screen."""
         return self.left + PREVIEW[0] + column * CELL + 2, self.top + PREVIEW[1] + row * CELL + 2
 
     def cpu(self, seconds, meanwhile=lambda: None):
-        """The milliseconds a second that all its threads have run."""
+        """Returns the CPU time of all its threads, in milliseconds a second."""
 
         def run():
             tasks = f"/proc/{self.process.pid}/task"
@@ -118,6 +118,6 @@ class Program:
         return (run() - before) / (time.monotonic() - start)
 
     def memory(self):
-        """Its resident memory in MiB."""
+        """Returns its resident memory in MiB."""
         status = open(f"/proc/{self.process.pid}/status").read()
         return int(status.split("VmRSS:")[1].split()[0]) / 1024

@@ -1,28 +1,28 @@
 #!/usr/bin/env bash
 # driver/compositor/session.sh [--monitor WIDTHxHEIGHT ...] COMMAND [ARGUMENT ...]
 #
-# Runs the command in a GNOME session on Wayland of its own: mutter without a screen, a message bus, PipeWire and the
-# desktop portal. The exit status is the command's, or 69 if the session did not come up. The first monitor's left top
-# is at 0, 0; each further one stands right of the last. Without --monitor there is one of 1280x1024.
+# Runs the command in a separate GNOME session on Wayland: mutter without a screen, a message bus, PipeWire and the
+# desktop portal. The exit status is the command's, or 69 if the session did not start. The top left corner of the first
+# monitor is at 0, 0; each further monitor is to the right of the last one. Without --monitor there is one of 1280x1024.
 #
-# The command finds WAYLAND_DISPLAY, DBUS_SESSION_BUS_ADDRESS, XDG_RUNTIME_DIR and a home folder that are the session's
-# and go with it, and the logs of the session's parts in $SESSION_LOGS. All processes that it leaves are ended.
-# desktop.py beside this script is the user of such a session: it moves the pointer, presses buttons and keys, and takes
-# pictures of all monitors.
+# The command gets the session's WAYLAND_DISPLAY, DBUS_SESSION_BUS_ADDRESS, XDG_RUNTIME_DIR and home folder, which end
+# with the session, and the logs of the session's parts in $SESSION_LOGS. All its remaining processes are ended.
+# desktop.py beside this script plays the user of such a session: it moves the pointer, presses buttons and keys, and
+# takes pictures of all monitors.
 #
-# It takes the packages of the purposes "run" and "compositor".
+# It needs the packages of the purposes "run" and "compositor".
 set -euo pipefail
 
-# Ends with the parent, also where that is killed outright.
+# Ends the child with its parent, even if the parent is killed.
 child=(setpriv --pdeathsig TERM --)
 
 give_up() {
-  echo "The session on Wayland did not come up: $1" >&2
+  echo "The session on Wayland did not start: $1" >&2
   tail -n 20 -- "$SESSION_LOGS"/*.log >&2 || true
   exit 69
 }
 
-# start NAME COMMAND ...: starts a part of the session, which writes to a log of its own.
+# start NAME COMMAND ...: starts a part of the session, with a log of its own.
 start() {
   local name=$1
   shift
@@ -43,12 +43,12 @@ await() {
 await_socket() { await "the socket $1" test -S "$XDG_RUNTIME_DIR/$1"; }
 await_name() { gdbus wait --session --timeout 20 "$1" 2>/dev/null || give_up "$1 is missing from the bus."; }
 
-# Runs inside the session's bus, which has written to a log so far.
+# Runs inside the session's bus, whose log exists already.
 run_session() {
   local -a monitors
   read -ra monitors <<<"$1"
   shift
-  # The system's bus is played by a second one: neither it nor its services may matter.
+  # A second bus replaces the system's, so that neither the system's bus nor its services matter.
   start system-bus dbus-daemon --session --nofork --address="unix:path=$XDG_RUNTIME_DIR/system-bus"
   export DBUS_SYSTEM_BUS_ADDRESS="unix:path=$XDG_RUNTIME_DIR/system-bus"
   await_socket system-bus
@@ -70,7 +70,7 @@ run_session() {
   "$@"
 }
 
-# Prints the ids of the session's processes, which are known by their runtime folder.
+# Prints the ids of the session's processes, which are found by their runtime folder.
 session_processes() {
   local process
   for process in /proc/[0-9]*; do
@@ -112,8 +112,8 @@ trap 'exit 130' INT
 trap 'exit 143' TERM
 mkdir -m 700 -- "$folder/runtime" "$folder/home" "$folder/logs"
 
-# Nothing of the desktop that this runs on may matter, or be touched. GTK 4 needs no graphics card by Cairo. The threads
-# of OpenGL's software renderer have hung mutter for seconds.
+# The surrounding desktop must neither matter nor be changed. With Cairo, GTK 4 needs no graphics card; the threads of
+# OpenGL's software renderer have blocked mutter for seconds.
 unset DISPLAY WAYLAND_DISPLAY XAUTHORITY LANGUAGE DBUS_SESSION_BUS_ADDRESS "${!XDG_@}" "${!QT_@}"
 export LANG=C.UTF-8 LC_ALL=C.UTF-8 SESSION_LOGS="$folder/logs"
 export HOME="$folder/home" XDG_RUNTIME_DIR="$folder/runtime" GSETTINGS_BACKEND=memory GSK_RENDERER=cairo LP_NUM_THREADS=0

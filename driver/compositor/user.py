@@ -1,4 +1,4 @@
-"""A user who works with the program over a client with known colours."""
+"""Plays a user who works with the program over a client with known colours."""
 import os
 import random
 import subprocess
@@ -10,11 +10,11 @@ from desktop import Desktop, wait
 from program import COLUMNS, HEIGHT, ROWS, WIDTH, Program, preview_of, title_of
 
 PATIENCE = 3.0  # seconds
-MARGIN = 70  # around the inside of the program's window, for its frame and shadow and half a sample
+MARGIN = 70  # around the inside of the program's window: its frame and shadow, and half a sample
 
 
 class Differs(Exception):
-    """Says what differs from what is wanted."""
+    """Its text says what differs from the expected result."""
 
 
 class Colours:
@@ -43,16 +43,16 @@ class User:
         self.colours = Colours(self.desktop)
         self.program = Program(self.desktop, path)
         self.random = random.Random(1)
-        self.preview = None  # for take_by_click()
+        self.preview = None  # set for take_by_click()
 
     def screen_at(self, x, y):
-        """The colour of the screen at a place, but for the program's window."""
+        """Returns the colour of the screen at a position outside the program's window."""
         inside = any(0 <= x - left < width and 0 <= y - top < height
                      for left, top, width, height in self.desktop.monitors)
         return colour_at(x, y) if inside else (0, 0, 0)
 
     def place_outside(self):
-        """A place whose whole sample lies off the program's window."""
+        """Returns a position whose whole sample is outside the program's window."""
         left, top, width, height = self.random.choice(self.desktop.monitors)
         x, y = self.random.randrange(left, left + width), self.random.randrange(top, top + height)
         is_near = (-MARGIN < x - self.program.left < WIDTH + MARGIN
@@ -65,7 +65,7 @@ class User:
             wait(lambda: self.program.is_marked("Follow mouse") == on, "the mark of Follow mouse", PATIENCE)
 
     def await_preview(self, x, y):
-        """Waits until the preview shows exactly what is around the place."""
+        """Waits until the preview shows exactly the pixels around the position."""
         wanted = preview_of(self.screen_at, x, y)
         end = time.monotonic() + PATIENCE
         while (shown := self.program.preview()).data != wanted.data:
@@ -76,7 +76,7 @@ class User:
                 raise Differs(f"at {x}, {y} the preview has {wrong} wrong pixels; its centre is that of {centre}")
 
     def show_in_preview(self):
-        """Leaves the program following, and its preview with known colours for take_by_click()."""
+        """Makes the program follow, and fills its preview with known colours for take_by_click()."""
         self.follow(True)
         place = self.place_outside()
         self.desktop.move(*place)
@@ -84,11 +84,11 @@ class User:
         self.preview = self.program.preview()
 
     def cell(self):
-        """The place on screen of a cell of the preview, away from its frame and marker, and the cell's colour."""
+        """Returns the position on screen of a cell of the preview, away from its frame and marker, and its colour."""
         column, row = self.random.randrange(1, COLUMNS - 1), self.random.choice((*range(1, 22), *range(27, ROWS - 1)))
         return self.program.preview_place(column, row), self.preview.pixel(column * 4 + 2, row * 4 + 2)
 
-    # Each takes a colour right after a move, and gives the one that was under the pointer.
+    # Each of these takes a colour right after a move, and returns the colour that was under the pointer.
 
     def take_by_poke(self):
         place = self.place_outside()
@@ -114,7 +114,7 @@ class User:
         return colour
 
     def take_often(self, take, rounds):
-        """Gives how often the program took the right colour, and the last difference."""
+        """Returns how often the program took the right colour, and the last difference."""
         right, difference = 0, ""
         for _ in range(rounds):
             before, wanted = self.program.title(), title_of(take())
@@ -129,7 +129,7 @@ class User:
         return right, difference
 
     def recover(self):
-        """Leaves nothing behind of what failed on the way."""
+        """Removes what a failure has left behind."""
         self.desktop.button(False)
         if len(self.program.windows()) > 1:
             self.desktop.press("return")

@@ -67,7 +67,7 @@ FakePortal::FakePortal(const QString& busAddress)
   qDBusRegisterMetaType<PortalColor>();
   if (!connection_.bus.registerVirtualObject(root, this, QDBusConnection::SubPath) ||
       !connection_.bus.registerService(family + QStringLiteral("Desktop")))
-    throw std::runtime_error("The bus has no place for a portal.");
+    throw std::runtime_error("The portal can't be registered on the bus.");
 }
 
 bool FakePortal::handleMessage(const QDBusMessage& message, const QDBusConnection&) {
@@ -86,7 +86,7 @@ bool FakePortal::handleMessage(const QDBusMessage& message, const QDBusConnectio
   return true;
 }
 
-// What the method replies at once; nothing if there is no such method.
+// The method's immediate reply; empty if there is no such method.
 QVariantList FakePortal::replyTo(const QDBusMessage& call) {
   const QString method = call.member();
   const auto arguments = call.arguments();

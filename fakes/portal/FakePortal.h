@@ -19,7 +19,7 @@
 
 namespace tavrelkin::test {
 
-// Values in the form that the portal gives them.
+// Values in the form in which the portal sends them.
 struct PortalStream {  // (ua{sv})
   std::uint32_t node = 0;
   QVariantMap properties;
@@ -32,39 +32,39 @@ struct PortalColor {  // (ddd), each from 0 to 1
 
 PortalStream monitor(std::uint32_t node, QPoint position, QSize size);
 
-// The desktop portal on a bus, played: it grants all that is asked at once, unless told otherwise.
+// A played desktop portal on a bus. It grants all requests at once, unless the test changes that.
 class FakePortal : public QDBusVirtualObject {
  public:
   explicit FakePortal(const QString& busAddress);
 
-  // The properties of the interfaces ScreenCast and Screenshot; without any the interface is not there.
+  // The properties of the interfaces ScreenCast and Screenshot; an interface without properties is missing.
   QVariantMap cast;
   QVariantMap screenshot;
 
   QList<PortalStream> streams{monitor(1, {0, 0}, {1280, 1024})};
-  QString token = QStringLiteral("first token");  // that Start gives
-  PortalColor color;                              // that the user picks
-  std::function<int()> connectPipeWire;           // gives an open file descriptor, which is closed afterwards
+  QString token = QStringLiteral("first token");  // the token that Start returns
+  PortalColor color;                              // the colour that the user picks
+  std::function<int()> connectPipeWire;           // returns an open file descriptor, which is closed after use
 
-  // By the name of the method: arguments in place of the right ones, methods that are not replied to, and methods
-  // whose Response waits for respond().
+  // By the name of a method: replies in place of the right ones, methods without a reply, and methods whose Response
+  // waits for respond().
   std::map<QString, QVariantList> replies;
   std::map<QString, QVariantList> responses;
   QStringList mute;
   QStringList undecided;
-  std::chrono::milliseconds delay{0};  // before each Response
+  std::chrono::milliseconds delay{0};  // the time before each Response
 
-  // What the program did: the options of its last call of each method, how often it called, and the paths of requests
-  // and sessions that are still open.
+  // What the program did: the options of its last call of each method, the number of its calls, and the paths of
+  // requests and sessions that are still open.
   std::map<QString, QVariantMap> options;
   std::map<QString, int> calls;
   QStringList open;
-  QString session;  // the path of the last one
+  QString session;  // the path of the last session
 
   // Sends the Response of the last call of the method.
   void respond(const QString& method);
 
-  // Closes the last session, as a user or a desktop may.
+  // Closes the last session, as a user or a desktop may do.
   void closeSession();
 
   QString introspect(const QString&) const override { return {}; }

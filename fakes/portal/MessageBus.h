@@ -7,15 +7,15 @@
 
 namespace tavrelkin::test {
 
-// A message bus of the test's own, which starts no services, not even those of the machine.
+// A message bus for one test. It starts no services, not even those of the machine.
 class MessageBus {
  public:
-  // Returns when it can be connected to. Throws where it doesn't start.
+  // Returns when the bus accepts connections. Throws if it doesn't start.
   MessageBus();
 
   const QString& address() const { return address_; }
 
-  // Ends it at once, as in a crash.
+  // Ends the bus at once, as a crash does.
   void kill() { process_.end(SIGKILL); }
 
  private:
@@ -24,7 +24,7 @@ class MessageBus {
   QString address_;
 };
 
-// A connection to a bus that ends with the object.
+// A connection to a bus; it closes with the object.
 class BusConnection {
  public:
   explicit BusConnection(const QString& address);

@@ -7,16 +7,16 @@
 
 namespace tavrelkin::test {
 
-// A PipeWire without a session manager and without devices, in a folder of its own.
+// PipeWire without a session manager and without devices, in a folder of its own.
 class PipeWireDaemon {
  public:
-  // Returns when it can be connected to. Throws where it doesn't start.
+  // Returns when the daemon accepts connections. Throws if it doesn't start.
   PipeWireDaemon();
 
-  // A new connection. Throws where the daemon is gone.
+  // Opens a new connection. Throws if the daemon has ended.
   FileDescriptor connect() const;
 
-  // Ends it at once, as in a crash.
+  // Ends the daemon at once, as a crash does.
   void kill() { process_.end(SIGKILL); }
 
  private:

@@ -12,7 +12,7 @@ namespace {
 
 const auto start = QStringLiteral("Start");
 
-// The number of the argument at `index`; 0 if there is no such argument.
+// The number in the argument at `index`; 0 if there is no such argument.
 int number(const QStringList& arguments, int index) {
   return arguments.value(index).toInt();
 }
@@ -75,7 +75,7 @@ void PlayedDesktop::addPortalCommands() {
   commands_[QStringLiteral("undecided")] = [this](auto&) { portal_->undecided << start; };
   commands_[QStringLiteral("decide")] = [this](auto&) {
     portal_->undecided.clear();
-    // The question may still be on its way; then it is answered when it comes.
+    // The request may not have arrived yet; it is then answered when it comes.
     if (portal_->calls[start] > 0) portal_->respond(start);
   };
   commands_[QStringLiteral("mute")] = [this](auto& a) { portal_->mute << a.value(0); };
@@ -105,7 +105,7 @@ void PlayedDesktop::setMonitors(const QStringList& places) {
 void PlayedDesktop::addMonitor(const QString& place) {
   static const QRegularExpression form(QStringLiteral(R"(\A(\d+)x(\d+)([+-]\d+)([+-]\d+)(?:\*(\d))?\z)"));
   const auto match = form.match(place);
-  if (!match.hasMatch()) throw std::runtime_error("This is no monitor: " + place.toStdString());
+  if (!match.hasMatch()) throw std::runtime_error("This is not a monitor: " + place.toStdString());
   const auto part = [&](int index) { return match.captured(index).toInt(); };
   const int scale = match.captured(5).isEmpty() ? 1 : part(5);
   const ScreenProducer::Size frame{part(1) * scale, part(2) * scale};
@@ -113,7 +113,7 @@ void PlayedDesktop::addMonitor(const QString& place) {
   portal_->streams << monitor(monitors_.back().producer->node(), {part(3), part(4)}, {part(1), part(2)});
 }
 
-// As compositors do, the monitor that the pointer leaves says so too.
+// As with compositors, the monitor that the pointer leaves also reports that.
 void PlayedDesktop::movePointer(std::size_t monitor, ScreenPoint at) {
   pointer_ = at;
   const auto last = std::exchange(pointerOn_, monitor);

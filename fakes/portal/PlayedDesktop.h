@@ -17,30 +17,30 @@
 
 namespace tavrelkin::test {
 
-// A desktop that casts its screen: the portal, PipeWire and the monitors, played as a test says by lines of text. Each
-// monitor sends its frame and the pointer when somebody begins to receive, and else on change only.
+// A desktop that casts its screen: it plays the portal, PipeWire and the monitors, and obeys a test's lines of text.
+// Each monitor sends its frame and the pointer when a receiver connects, and after that only on a change.
 //
-//   monitors WxH+X+Y[*SCALE]...   in logical pixels; a frame has SCALE times as many; at first there is 1280x800+0+0
-//   resize W H [MONITOR]          the size of its frames, in their pixels
-//   frame N                       shows another picture on all monitors, see playedPixel()
-//   pointer X Y [MONITOR]         in pixels of the monitor's frames
+//   monitors WxH+X+Y[*SCALE]...   in logical pixels; a frame has SCALE times as many; at first 1280x800+0+0
+//   resize W H [MONITOR]          the size of the monitor's frames, in frame pixels
+//   frame N                       shows picture number N on all monitors, see playedPixel()
+//   pointer X Y [MONITOR]         moves the pointer; in pixels of the monitor's frames
 //   gone                          no monitor has the pointer
-//   blank                         monitors send nothing from now on
-//   modes N | version N           what the portal says of itself; of version 0 it has no ScreenCast
-//   picker N                      the version of Screenshot, likewise
+//   blank                         the monitors send nothing any more
+//   modes N | version N           the portal's properties; with version 0 it has no ScreenCast
+//   picker N                      the version of Screenshot; 0 for none
 //   response N                    the user's answer to Start
-//   undecided | decide            the user lets the question wait, and answers it
-//   mute METHOD                   the portal doesn't reply
-//   delay MS                      before each Response
-//   pick R G B                    the colour that the user picks, each part from 0 to 255
-//   close                         the session
-//   leave | enter                 the portal leaves the bus, and comes back
+//   undecided | decide            the user delays the answer to Start, and gives it
+//   mute METHOD                   the portal doesn't reply to this method
+//   delay MS                      the time before each Response
+//   pick R G B                    the colour that the user picks, each channel from 0 to 255
+//   close                         closes the session
+//   leave | enter                 the portal leaves the bus, and returns
 //   crash                         PipeWire ends
 class PlayedDesktop {
  public:
   explicit PlayedDesktop(const QString& busAddress);
 
-  // Does what a line says; false if that is nothing of the above.
+  // Obeys a line; false if it is none of the above.
   bool obey(const QString& line);
 
  private:
@@ -59,7 +59,7 @@ class PlayedDesktop {
   PipeWireDaemon pipeWire_;
   std::vector<Monitor> monitors_;
   std::optional<FakePortal> portal_;
-  QList<PortalStream> streams_;  // of a portal that has left
+  QList<PortalStream> streams_;  // the streams of a portal that has left
   std::map<QString, std::function<void(const QStringList&)>> commands_;
   std::uint32_t frame_ = 0;
   std::optional<std::size_t> pointerOn_ = 0;

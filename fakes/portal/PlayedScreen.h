@@ -4,8 +4,8 @@
 
 namespace tavrelkin::test {
 
-// The colour, 0xRRGGBB, of a pixel of a monitor that portal_desktop plays, in the frame of that number. No two pixels
-// of a frame up to 2048 by 2048 have the same.
+// The colour, 0xRRGGBB, of a pixel of a played monitor in the frame with this number. Each pixel of a frame up to 2048
+// by 2048 has a colour of its own.
 constexpr std::uint32_t playedPixel(std::uint32_t frame, std::uint32_t monitor, std::int32_t x, std::int32_t y) {
   const auto column = static_cast<std::uint32_t>(x);
   const auto row = static_cast<std::uint32_t>(y);

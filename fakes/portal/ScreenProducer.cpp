@@ -52,7 +52,7 @@ ScreenProducer::ScreenProducer(const PipeWireDaemon& daemon, Size size, std::uin
     linker_.setProducer(node_);
     return pw_stream_get_state(stream_, nullptr) == PW_STREAM_STATE_PAUSED;
   };
-  if (!waitUntil(hasNode)) throw std::runtime_error("PipeWire takes no producer.");
+  if (!waitUntil(hasNode)) throw std::runtime_error("PipeWire does not accept the producer.");
 }
 
 ScreenProducer::~ScreenProducer() {
@@ -120,7 +120,7 @@ bool ScreenProducer::send(const Update& update, std::chrono::milliseconds longes
   return waitUntil([&] { return trySend(update); }, longest);
 }
 
-// A buffer that follows before the last one has gone out overwrites it at the receiver.
+// A buffer that is sent before the last one has gone out overwrites it at the receiver.
 bool ScreenProducer::trySend(const Update& update) {
   const PipeWireConnection::Lock lock(*connection_);
   if (!isReceived_ || !linker_.isReady() || isSending_ || agreedSize_ != size_) return false;

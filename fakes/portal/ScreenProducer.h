@@ -19,24 +19,24 @@ class StreamParameters;
 
 namespace tavrelkin::test {
 
-// A monitor of a desktop, as it is played to PipeWire: it sends frames and pointer places when a test says so, to each
-// stream that asks for its node.
+// Plays a monitor to PipeWire: it sends frames and places of the pointer when a test says so, to each stream that asks
+// for its node.
 class ScreenProducer {
  public:
   using Size = CastStream::Size;
-  using Picture = std::function<std::uint32_t(std::int32_t x, std::int32_t y)>;  // gives 0xRRGGBB
+  using Picture = std::function<std::uint32_t(std::int32_t x, std::int32_t y)>;  // returns 0xRRGGBB
 
-  // What one buffer holds.
+  // The contents of one buffer.
   struct Update {
-    Picture picture{};                     // without one there are no pixels, as when just the pointer has moved
-    std::uint32_t cursorId = 1;            // 0 where the pointer is on another monitor
+    Picture picture{};                     // empty for a buffer without pixels, which reports only the pointer
+    std::uint32_t cursorId = 1;            // 0 if the pointer is on another monitor
     ScreenPoint pointer{};                 // in frame pixels
-    std::optional<std::int32_t> stride{};  // what the buffer claims, in place of the truth
+    std::optional<std::int32_t> stride{};  // a false stride for the buffer to state
     std::optional<std::uint32_t> offset{};
     std::optional<std::uint32_t> bytes{};
   };
 
-  // Throws where the daemon doesn't take it. `format` is one of SPA_VIDEO_FORMAT_BGRx and so on.
+  // Throws if the daemon refuses it. `format` is SPA_VIDEO_FORMAT_BGRx or a similar constant.
   ScreenProducer(const PipeWireDaemon& daemon, Size size, std::uint32_t format = SPA_VIDEO_FORMAT_BGRx);
   ScreenProducer(const ScreenProducer&) = delete;
   ScreenProducer& operator=(const ScreenProducer&) = delete;
@@ -44,13 +44,14 @@ class ScreenProducer {
 
   std::uint32_t node() const { return node_; }
 
-  // Takes effect with the next update.
+  // The size applies from the next update on.
   void setSize(Size size);
 
-  // Sends as soon as somebody receives and the last update has gone out. False where that takes longer than `longest`.
+  // Waits for a receiver, and until the last update has been sent, and then sends. False if that takes longer than
+  // `longest`.
   bool send(const Update& update, std::chrono::milliseconds longest = std::chrono::seconds(5));
 
-  // Whether it comes true soon that somebody receives, or that nobody does.
+  // Waits until there is a receiver, or none if not `wanted`. False if that takes longer than `longest`.
   bool waitForReceiver(bool wanted, std::chrono::milliseconds longest = std::chrono::seconds(5));
 
  private:
@@ -67,7 +68,7 @@ class ScreenProducer {
   spa_hook hook_{};
   std::uint32_t node_ = PW_ID_ANY;
 
-  // The lock of the connection guards these.
+  // The lock of the connection guards these members.
   Size size_;
   std::uint32_t format_;
   Size agreedSize_;

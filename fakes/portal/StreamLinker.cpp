@@ -14,8 +14,7 @@ pw_proxy* proxyOf(void* object) {
 
 }  // namespace
 
-// A node that another program has made, and its link where it asks for the producer. What it asks for comes with its
-// description.
+// A node of another program, and its link if it asks for the producer. The node's properties name what it asks for.
 struct StreamLinker::Node {
   Node(StreamLinker& owner, std::uint32_t id)
       : linker(owner),
@@ -38,7 +37,7 @@ struct StreamLinker::Node {
     pw_proxy_destroy(link);
   }
 
-  // The properties come with the first description only, and the port may come with a later one.
+  // The properties come only with the first description; the port may come with a later one.
   void note(const pw_node_info& info) {
     const char* const found = info.props ? spa_dict_lookup(info.props, "node.target") : nullptr;
     if (found) target = found;

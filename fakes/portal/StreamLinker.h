@@ -10,22 +10,22 @@
 
 namespace tavrelkin::test {
 
-// Does what a session manager does for screen casts: links each stream that asks for the node of a producer to it.
+// Does a session manager's work for screen casts: links each stream that asks for a producer's node to that node.
 class StreamLinker {
  public:
-  // The thread of the connection must not run yet, or be locked.
+  // The thread of the connection must not run yet, or must be locked.
   explicit StreamLinker(const PipeWireConnection& connection);
   StreamLinker(const StreamLinker&) = delete;
   StreamLinker& operator=(const StreamLinker&) = delete;
-  // The thread must have ended.
+  // The thread must have ended before.
   ~StreamLinker();
 
-  // The operations that follow are for the thread of the connection.
-  // The node to link to, as soon as it is known.
+  // The following operations must be called on the thread of the connection. setProducer() sets the node to link to,
+  // once it is known.
   void setProducer(std::uint32_t node) { producer_ = node; }
 
-  // Whether what the producer sends reaches a stream. After a change of the format it doesn't, until the link is made
-  // ready for the new buffers.
+  // Whether the producer's buffers reach a stream. After a change of the format they don't until the link has new
+  // buffers.
   bool isReady() const;
   void formatChanged();
 

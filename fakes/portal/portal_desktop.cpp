@@ -1,6 +1,6 @@
-// Plays a desktop that casts its screen, beside a program under test, on the session's message bus. Makes the FIFO that
-// it is given the name of, and says "ready"; then obeys each line of the FIFO and answers it with "done" and the time
-// at which it was: the nanoseconds of the steady clock.
+// Plays a desktop that casts its screen, beside a program under test, on the session's message bus. Makes the FIFO with
+// the given name and prints "ready". Then obeys each line from the FIFO and answers with "done" and the time of
+// completion, in nanoseconds of the steady clock.
 
 #include <chrono>
 #include <cstdio>
@@ -31,11 +31,11 @@ std::string doneNow() {
 
 int run(const char* fifoName) {
   tavrelkin::test::PlayedDesktop desktop(qEnvironmentVariable("DBUS_SESSION_BUS_ADDRESS"));
-  // Open for writing too, so that it doesn't end between two writers.
+  // Opened for writing too, so that it has no end of file between two writers.
   const int fifo = mkfifo(fifoName, 0600) == 0 ? open(fifoName, O_RDWR | O_NONBLOCK | O_CLOEXEC) : -1;
   QFile lines;
   if (!lines.open(fifo, QIODevice::ReadOnly | QIODevice::Unbuffered, QFileDevice::AutoCloseHandle))
-    throw std::runtime_error("There is no FIFO.");
+    throw std::runtime_error("The FIFO can't be made.");
 
   QByteArray text;
   const QSocketNotifier notifier(fifo, QSocketNotifier::Read);

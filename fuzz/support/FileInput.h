@@ -5,7 +5,7 @@
 
 namespace tavrelkin {
 
-// The bytes of an input as a file, and the desktop of its reader, without any message. All inputs use the same file.
+// A file with the input's bytes, and a desktop without messages. All inputs use the same file.
 class FileInput {
  public:
   FileInput(const std::uint8_t* data, std::size_t size)
@@ -14,10 +14,10 @@ class FileInput {
   const String bytes;
   const Ref<FolderItem> file;
 
-  // What the file holds now.
+  // The file's present contents.
   String content() const { return folder().read(kName); }
 
-  // Ends the program where the user has been told anything.
+  // Ends the program if the user has seen a message.
   void requireSilence() const { require(desktop_.messages.empty(), "there is nothing to say"); }
 
  private:

@@ -1,4 +1,4 @@
-// Runs every file of a folder through a target, where no fuzzer is linked.
+// Runs every file of a folder through a target, without a fuzzer.
 
 #include <algorithm>
 #include <filesystem>
@@ -21,7 +21,7 @@ std::vector<fs::path> filesIn(const fs::path& folder) {
   return files;
 }
 
-// A vector as long as the file, so that the sanitizers see every step beyond its end.
+// The vector is exactly as long as the file, so that the sanitizers notice each access beyond its end.
 std::vector<std::uint8_t> bytesOf(const fs::path& path) {
   std::ifstream file(path, std::ios::binary);
   file.exceptions(std::ios::badbit);
@@ -39,7 +39,7 @@ int main(int count, char** arguments) {
   }
   const std::vector<fs::path> files = filesIn(arguments[1]);
   for (const fs::path& path : files) {
-    // At once, for the run may be the last.
+    // Printed and flushed before the run, since the run may end the program.
     std::cout << path.filename().string() << std::endl;
     const std::vector<std::uint8_t> bytes = bytesOf(path);
     LLVMFuzzerTestOneInput(bytes.data(), bytes.size());

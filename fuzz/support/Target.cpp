@@ -11,7 +11,7 @@ namespace tavrelkin {
 
 namespace {
 
-// The runtime on a fake desktop, which has to go last.
+// The runtime on a fake desktop, which must be destroyed last.
 class Machine {
  public:
   Machine() {

@@ -5,16 +5,16 @@
 
 #include "fakes/FakeDesktop.h"
 
-// What the fuzzer, or the replay of a corpus, calls again and again with other bytes. Each target defines it; it gives
-// 0.
+// Each target defines this function. The fuzzer, or the replay of a corpus, calls it again and again with different
+// bytes. It returns 0.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 namespace tavrelkin {
 
-// Ends the program where a rule does not hold, and says which one: the fuzzer then keeps the input.
+// Ends the program and names the rule if the rule does not hold. The fuzzer then keeps the input.
 void require(bool holds, const char* rule);
 
-// The desktop that the program's code sees in a target, without any message.
+// The desktop that the program's code uses in a target, after all its messages are removed.
 FakeDesktop& freshDesktop();
 
 }  // namespace tavrelkin

@@ -1,4 +1,4 @@
-// The program as someone meets it who doesn't see the screen, or has no mouse.
+// The program for a user who can't see the screen, or has no mouse.
 
 #include <algorithm>
 #include <stdexcept>
@@ -13,17 +13,17 @@ namespace {
 
 using testing::HasSubstr;
 
-// In a session with a message bus, and with an assistive technology, which listens to what the program announces.
+// A session with a message bus and an assistive technology, which receives the program's announcements.
 //
-// What it can be asked for besides, by a name or the beginning of a title:
+// The assistive technology obeys these commands; each takes a name or the beginning of a title:
 //
-//   tree TITLE          tells all that is in the windows whose title begins so: a line each with role, name,
-//                       description, value, and states of interest, with "|" between them
-//   press NAME          presses what is called so, the last of them where there are several
+//   tree TITLE          prints a line for each control in the windows whose title begins so: role, name, description,
+//                       value, and states of interest, separated by "|"
+//   press NAME          presses the control with this name; if there are several, the last one
 //   set NAME VALUE      sets a slider
-//   focus NAME          brings the keyboard there
-//   listen              says "listening", then tells each change as it is announced: its kind, and a line as those of
-//                       "tree"
+//   focus NAME          moves the focus to the control
+//   listen              prints "listening", and then a line for each change that is announced: its kind, and the
+//                       control in the form of "tree"
 class AccessibilityTest : public testing::Test {
  protected:
   AccessibilityTest() { listener_.firstLine(); }
@@ -33,7 +33,7 @@ class AccessibilityTest : public testing::Test {
     return command;
   }
 
-  // Gives the answer. Throws where what the command names isn't there.
+  // Returns the answer. Throws if what the command names does not exist.
   std::string ask(const std::vector<std::string>& command) const {
     Process asking(assistive(command), session_.environment);
     if (asking.waitForExit() != 0) throw std::runtime_error(command.back() + ": " + asking.errors());

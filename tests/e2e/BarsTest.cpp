@@ -1,4 +1,4 @@
-// The colour controls under hand and keyboard.
+// The colour controls under mouse and keyboard.
 
 #include <chrono>
 #include <thread>
@@ -32,7 +32,8 @@ TEST_F(BarsTest, ADragGivesTheColorAtItsEnd) {
   EXPECT_TRUE(tool_.getsTitleOf(suggested));
 }
 
-// From red the way leads to hue; that bar reads the colour back in steps of its own, blue's does not.
+// The focus moves from red to hue. The hue bar reads the colour back in its own steps; the blue bar would not show
+// that.
 TEST_F(BarsTest, APressBringsTheKeyboardTheTabulatorMovesItOnAndShortcutsStillWork) {
   session_.hand.click(tool_.onBar(0, 100));
   EXPECT_TRUE(waitUntil([this] { return tool_.shows(157, 277) != kGround; })) << "a ring around the bar";
@@ -54,7 +55,7 @@ TEST_F(BarsTest, APressBringsTheKeyboardTheTabulatorMovesItOnAndShortcutsStillWo
   EXPECT_TRUE(tool_.getsTitleOf(0x71ABFE)) << "its own clipboard";
 }
 
-// The server repeats it, and a dialog's button would take that for a press.
+// The server repeats the key, and a dialog's button would take the repeat for a press.
 TEST_F(BarsTest, AHeldReturnOpensOneDialog) {
   session_.hand.press("Return");
   const xcb_window_t dialog = session_.waitForWindow("Select Color");

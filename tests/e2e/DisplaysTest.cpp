@@ -1,6 +1,5 @@
-// Displays of all kinds: depths, extensions, monitors, more pixels to the inch, and a session whose screen can't be
-// read. Whatever the program's scale is, each pixel of the screen is hit, and each pixel of the preview is a hard-edged
-// block.
+// Displays of all kinds: depths, extensions, monitors, high resolutions, and a session whose screen can't be read. At
+// any scale of the program, each pixel of the screen can be hit, and each pixel of the preview is a hard-edged block.
 
 #include <algorithm>
 
@@ -14,9 +13,9 @@ namespace {
 constexpr std::uint16_t kLeftMonitor = 1200;
 const XServer::Options kServer{.screen = "2400x1000x24"};
 
-// Sample, marker, poke, click, a drag out of the preview, and follow.
+// Checks sample, marker, poke, click, a drag out of the preview, and follow.
 void expectExact(Session& session, ToolWindow& tool) {
-  const ForeignWindow foreign(session.client, {1080, 720, 240, 140});  // where no tool window is
+  const ForeignWindow foreign(session.client, {1080, 720, 240, 140});  // away from the tool window
   const ScreenPoint at{1201, 793};
   session.hand.moveTo(at);
   tool.keys("Ctrl+Alt+P");
@@ -45,7 +44,7 @@ struct Display {
   const char* name;
   Session::Options session;
   double scale = 1;
-  double rightScale = 1;  // of the other monitor, where there are two
+  double rightScale = 1;  // the scale of the other monitor, if there is one
 };
 
 class DisplaysTest : public testing::TestWithParam<Display> {};
@@ -82,7 +81,7 @@ const Display kDisplays[] = {
 INSTANTIATE_TEST_SUITE_P(Of, DisplaysTest, testing::ValuesIn(kDisplays),
                          [](const auto& display) { return std::string(display.param.name); });
 
-// Where it gets so large that its middle would lie on the monitor it came from, it must not go back and forth.
+// If the window grows so much that its middle would be on the other monitor, it must not move back and forth.
 TEST(MonitorEdgeTest, AWindowThatGrowsStaysOnItsMonitor) {
   Session session(monitors("left=2;right=1"));
   ToolWindow tool(session);
@@ -96,7 +95,7 @@ TEST(MonitorEdgeTest, AWindowThatGrowsStaysOnItsMonitor) {
   }
 }
 
-// An X11 display beside Wayland shows nothing of the screen.
+// In a Wayland session an X11 display doesn't show the screen.
 TEST(WaylandTest, TheUserIsToldOnceThatTheScreenCantBeRead) {
   Session session({.environment = {"WAYLAND_DISPLAY=wayland-0", "QT_QPA_PLATFORM=xcb"}});
   ToolWindow tool(session);
@@ -107,7 +106,7 @@ TEST(WaylandTest, TheUserIsToldOnceThatTheScreenCantBeRead) {
   session.hand.keys("Return");
   ASSERT_TRUE(waitUntil([&] { return session.windows.all().size() == 1; }));
 
-  // The message may have lain over the preview.
+  // The message may have covered the preview.
   const auto isNotBlack = [&] {
     const Pixels preview = tool.preview();
     return std::ranges::count(preview, 0U) <= 20;

@@ -7,7 +7,7 @@
 
 namespace tavrelkin::test {
 
-// Whether `condition` comes true within a generous time; the event loop runs meanwhile.
+// Whether `condition` becomes true within a generous time; the event loop runs meanwhile.
 template <class Condition>
 bool eventually(const Condition& condition) {
   return waitUntil([&] {
@@ -16,7 +16,7 @@ bool eventually(const Condition& condition) {
   });
 }
 
-// Whether the event loop has nothing to do. What it finds to do is done.
+// Processes the events that are waiting; returns whether there were none.
 inline bool isIdle() {
   return !QAbstractEventDispatcher::instance()->processEvents(QEventLoop::AllEvents);
 }

@@ -1,4 +1,4 @@
-// Colours to and from other windows and programs, by drag and by clipboard, also where those do wrong.
+// Colours that are dragged or copied to and from other windows and programs, including faulty ones.
 
 #include <chrono>
 #include <functional>
@@ -12,19 +12,19 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Another graphics program, as far as the exchange of colours by drag goes: it shows boxes to drag from. The first is
-// the toolkit's own colour button, which takes colours too; the others only give.
+// A graphics program with boxes to drag colours from. The first box is the toolkit's own colour button, which also
+// accepts colours; the others only offer them.
 //
-// It says "ready" when it can be used, then "over" for each drag of its own that has ended, whatever became of it, and
-// each colour that the button takes, as four hexadecimal digits a channel.
+// The program prints "ready" when it can be used, "over" for each of its own drags that has ended in any way, and each
+// colour that the button accepts, with four hexadecimal digits a channel.
 struct ForeignColors {
   static constexpr ScreenPoint kButton{930, 630};  // #12ABF0
   static constexpr ScreenPoint kShortColor{990, 630};
   static constexpr ScreenPoint kLongColorAndText{1050, 630};  // the text is #00C0FF
   static constexpr ScreenPoint kText{1110, 630};              // #C000FF
-  static constexpr ScreenPoint kFile{930, 690};               // its address has two dots
+  static constexpr ScreenPoint kFile{930, 690};               // the file's address has two dots
   static constexpr ScreenPoint kHugeText{990, 690};           // 100 MB, with two dots
-  static constexpr ScreenPoint kSilence{1050, 690};           // a colour and a text that don't come for a minute
+  static constexpr ScreenPoint kSilence{1050, 690};           // a colour and a text that take a minute to come
 
   explicit ForeignColors(const XServer& server)
       : process({"/usr/bin/python3", TAVRELKIN_FOREIGN_COLOURS}, server.environment()) {
@@ -38,14 +38,14 @@ struct ForeignColors {
 
 class ExchangeTest : public UnfoldedToolWindowTest {
  protected:
-  // A drag is over when both programs say so; only then may the next one begin.
+  // A drag has ended when both programs say so; only then may the next one begin.
   void dragOut(const ForeignColors& foreign, ScreenPoint from, ScreenPoint to) {
     const auto before = foreign.said().size();
     session_.hand.drag(from, to);
     ASSERT_TRUE(waitUntil([&] { return foreign.said().find("over", before) != std::string::npos; }));
   }
 
-  // Does what a fault may hold up, and sees how long it takes until the window has answered to it, and at what cost.
+  // Does something that a fault may delay, and measures the time until the window has responded, and the cost.
   void expectNoHarm(const std::function<void()>& act) {
     const int memory = session_.program.status("VmHWM");
     const auto before = std::chrono::steady_clock::now();
@@ -135,7 +135,7 @@ TEST_F(ExchangeTest, AHugeClipboardIsNotReadWholeAndASilentOneSoonGivenUp) {
   expectNoHarm([this] { tool_.keys("Ctrl+V"); });
 }
 
-// It would have the toolkit treat the window as another program's.
+// Such a drag would make the toolkit treat the window as another program's.
 TEST_F(ToolWindowTest, ADragThatSaysItComesFromTheWindowItselfLeavesItsEars) {
   constexpr std::uint32_t kVersion = 5U << 24;
   session_.client.tell(tool_.window(), 0, tool_.window(), "XdndEnter", tool_.window(), kVersion);

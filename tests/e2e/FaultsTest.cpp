@@ -1,4 +1,4 @@
-// What the disk, the X server and the desktop may do wrong: the program survives it, or says plainly why it can't.
+// Faults of the disk, the X server and the desktop: the program survives them, or plainly says why it can't.
 
 #include <chrono>
 #include <filesystem>
@@ -18,7 +18,7 @@ using namespace std::chrono_literals;
 
 using FaultsTest = ToolWindowTest;
 
-// Of zeros, which take no room on the disk.
+// The file contains zeros, which take no room on the disk.
 void makeFile(const fs::path& path, std::uintmax_t size) {
   const std::ofstream file(path);
   fs::resize_file(path, size);
@@ -31,7 +31,7 @@ TEST_F(FaultsTest, FavouritesThatAreNoFileAreToldAndHugeOnesRead) {
   const struct {
     const char* name;
     std::function<void()> make;
-    std::string expected;  // the title of the window that comes
+    std::string expected;  // the title of the window that appears
   } rows[] = {
       {"folder", [&] { fs::create_directory(at); }, message},
       {"pipe", [&] { mkfifo(at.c_str(), 0600); }, message},
@@ -54,7 +54,7 @@ TEST_F(FaultsTest, FavouritesThatAreNoFileAreToldAndHugeOnesRead) {
     row.make();
     tool_.choose(kViewMenu, "Up");
     ASSERT_TRUE(waitUntil([&] { return windows.title(windows.all().back()) == row.expected; }));
-    // The palette underneath a message goes after it.
+    // The palette closes after the message over it.
     const auto isClosed = [&] {
       for (const xcb_window_t window : windows.all())
         if (window != tool_.window()) session_.windows.close(window);

@@ -20,7 +20,7 @@ std::string bytesOf(const fs::path& file) {
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-// Comes up by the keys, or by a menu, before.
+// The keys, or a menu, have opened the window before.
 class Palette : public ProgramWindow {
  public:
   Palette(Session& session, const std::string& title) : ProgramWindow(session, session.waitForWindow(title), 161) {
@@ -46,7 +46,7 @@ class Palette : public ProgramWindow {
 
 class FavouritesTest : public ToolWindowTest {
  protected:
-  // In the dialog that is coming up.
+  // Saves in the dialog that is opening.
   void saveAs(const fs::path& path) {
     session_.clipboard.copy(path);
     session_.bringToFront(session_.waitForWindow("Save As"));
@@ -54,7 +54,7 @@ class FavouritesTest : public ToolWindowTest {
       session_.hand.keys(keys);
   }
 
-  // What each file in the home folder holds.
+  // The contents of each file in the home folder.
   std::map<fs::path, std::string> files() const {
     std::map<fs::path, std::string> result;
     for (const auto& entry : fs::recursive_directory_iterator(session_.home.path()))
@@ -63,7 +63,7 @@ class FavouritesTest : public ToolWindowTest {
   }
 };
 
-// The window has its title once it has looked at the file.
+// The window gets its title after it has read the file.
 TEST_F(FavouritesTest, AreMadeWhenAbsentReadWhenEmptyAndKeptWhenSaved) {
   constexpr int kViewMenu = 129;
   const fs::path file = session_.home.path() / "data/tavrelkin/Tavrelkin.aco";
@@ -117,14 +117,14 @@ TEST_F(FavouritesTest, ANewPaletteIsSavedUnderANameOfTheUsersAndColorsAreDragged
   EXPECT_TRUE(tool_.getsTitleOf(0xFEABFF)) << "the colour that was selected before the press";
 }
 
-// The toolkit's dialogs have settings that other programs share.
+// The toolkit's dialogs have settings that programs share.
 TEST_F(FavouritesTest, NothingIsWrittenButWhatTheUserSaves) {
   fs::create_directory(session_.home.path() / "config");
   std::ofstream(session_.home.path() / "config/QtProject.conf") << "[FileDialog]\nviewMode=List\n";
   auto expected = files();
   tool_.click(30, 16);
   session_.bringToFront(session_.waitForWindow("Select Color"));
-  // Adds to the custom colours, once the button has looked pressed for a tenth of a second.
+  // Adds to the custom colours; the button looks pressed for a tenth of a second first.
   session_.hand.keys("Alt+A");
   session_.hand.rest();
   session_.hand.rest();

@@ -25,7 +25,7 @@ TEST_F(FollowTest, ShowsEachPixelAroundThePointerUntilTheSameKeys) {
     }
   }
   tool_.keys("Ctrl+F");
-  // A paste is answered after the keys before it, and draws nothing in the preview.
+  // The program handles the paste after the keys before it, and a paste draws nothing in the preview.
   ASSERT_TRUE(tool_.paste(0x010203));
   session_.hand.moveTo({780, 540});
   ASSERT_TRUE(tool_.paste(0x040506));
@@ -45,7 +45,7 @@ TEST_F(FollowTest, GoesOnWhenTheScreenChangesItsSize) {
   }
 }
 
-// Minimising ends it, so that the first use of the command afterwards begins again.
+// Minimising ends following, so the next use of the command starts it again.
 TEST_F(FollowTest, BeginsAgainAfterMinimising) {
   tool_.keys("Ctrl+N");
   ToolWindow other(session_, session_.waitForWindow("Color: ", 2));

@@ -38,7 +38,7 @@ TEST(NativeDesktop, RingsAlarmsOnceAndTellsTheLengthOfAFrame) {
   EXPECT_GE(Clock::now() - start, 20ms);
 }
 
-// By the event loop, by a read, and by a question; a write to a closed socket must not end the process.
+// The event loop, a read or a question may find the loss. A write to a closed socket must not end the process.
 TEST(LostConnectionTest, IsToldOnceHoweverItIsFound) {
   std::vector<std::string> losses;
   const std::function<void(ScreenReader&)> ways[] = {

@@ -41,7 +41,7 @@ class ScreenReaderTest : public testing::Test {
   std::unique_ptr<ScreenReader> reader_ = makeX11ScreenReader([this](const std::string&) { ++losses_; });
 };
 
-// Larger than several blocks, and read in orders that meet the blocks' edges from all sides.
+// The area is larger than several blocks. The orders of reading cross the blocks' edges from all sides.
 TEST_F(ScreenReaderTest, ReadsEachPixelAsShown) {
   const Area area{101, 83, 241, 119};
   client_.paint(client_.open(area), area, scatter);
@@ -102,7 +102,7 @@ TEST_F(ScreenReaderTest, FollowsThePointer) {
   }
 }
 
-// Layouts give the level-3 shift one modifier or another, and a user may change the layout.
+// Layouts assign the level-3 shift to different modifiers, and a user may change the layout.
 TEST_F(ScreenReaderTest, KnowsAltAndAltGrByTheKeyboardLayoutOfTheMoment) {
   Hand hand(client_);
   const auto holds = [&](const std::string& key) {
@@ -124,7 +124,7 @@ TEST_F(ScreenReaderTest, TellsOfMovementsWhileWatching) {
   for (const bool again : {false, true}) {
     calls_ = 0;
     reader_->watch([this] { ++calls_; });
-    reader_->optionKey();  // waits until the server has begun to watch
+    reader_->optionKey();  // returns after the server has started to watch
     client_.movePointer(20, 30);
     EXPECT_TRUE(eventually([this] { return calls_ > 0; })) << again;
 
@@ -132,7 +132,7 @@ TEST_F(ScreenReaderTest, TellsOfMovementsWhileWatching) {
     reader_->optionKey();
     ASSERT_TRUE(eventually(isIdle));
     calls_ = 0;
-    // The toolkit has events of its own now and then; movements must not add to them.
+    // The toolkit has its own events at times; movements must not add to them.
     const auto sleepsThroughMovements = [&] {
       for (int i = 0; i < 20; ++i)
         client_.movePointer(40 + i, 50);
@@ -143,7 +143,7 @@ TEST_F(ScreenReaderTest, TellsOfMovementsWhileWatching) {
   }
 }
 
-// The events are then in the memory of the process, and the event loop hears nothing of them from the socket.
+// The events are then in the process's memory, and the socket does not wake the event loop.
 TEST_F(ScreenReaderTest, TellsOfMovementsThatArriveDuringARead) {
   const std::function<void()> reads[] = {
       [this] {
@@ -201,7 +201,7 @@ TEST_F(ScreenReaderTest, FollowsTheSizeOfTheScreen) {
     EXPECT_EQ(reader_->pixel({400, 299}), atCorner);
     EXPECT_EQ(reader_->pixel(corner), atCorner);
   }
-  // A change of size in the middle of a turn, of which the reader knows nothing yet.
+  // The size changes in the middle of a turn, and the reader does not know it yet.
   for (int i = 0; i < 20; ++i) {
     const auto& [width, height, atCorner] = sizes[i % 2];
     reader_->beginTurn();
@@ -213,7 +213,7 @@ TEST_F(ScreenReaderTest, FollowsTheSizeOfTheScreen) {
 }
 
 TEST_F(ScreenReaderTest, GivesBackItsConnection) {
-  // More than a server takes at a time.
+  // This is more than a server accepts at a time.
   for (int i = 0; i < 600; ++i)
     ASSERT_TRUE(makeX11ScreenReader({})) << i;
 }

@@ -1,4 +1,4 @@
-// Following and poking on Wayland, from the question to the end of the session.
+// Follow mouse and Poke on Wayland, from the question to the end of the session.
 
 #include <gtest/gtest.h>
 
@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 
 class WaylandSessionTest : public testing::Test {
  protected:
-  // A monitor of 1280 by 800 at the top left corner, unless told otherwise.
+  // By default there is a monitor of 1280 by 800 at the top left corner.
   using Screen = std::function<std::uint32_t(int, int)>;
   static Screen oneMonitor(std::uint32_t frame = 0) {
     return [frame](int x, int y) { return x >= 0 && x < 1280 && y >= 0 && y < 800 ? playedPixel(frame, 0, x, y) : 0U; };
@@ -23,14 +23,14 @@ class WaylandSessionTest : public testing::Test {
     return tool_.getsPreview({.screen = screen, .centre = at});
   }
 
-  // Whether it follows once the keys are pressed again, which would end what still goes on.
+  // Whether the window follows after the keys are pressed again. They would end following that is still on.
   testing::AssertionResult followsAgain() {
     tool_.keys("Ctrl+F");
     session_.cast({"pointer 640 400"});
     return shows({640, 400});
   }
 
-  // Waits for the message, and closes it.
+  // Waits for the message and closes it.
   void closeMessage() {
     session_.bringToFront(session_.waitForWindow("Tavrelkin"));
     session_.hand.keys("Return");
@@ -71,8 +71,8 @@ TEST_F(WaylandSessionTest, AFirstPokeOnlyAsks) {
   EXPECT_TRUE(waitUntil(takes));
 }
 
-// What the desktop does before the program asks, and while it follows; whether the user gets a message then, and what
-// the desktop does before they try again, if that can help.
+// What the desktop does before the program asks, and while the program follows; whether the user then sees a message;
+// and what the desktop does before the user tries again, if that can help.
 struct Ending {
   const char* name;
   std::vector<std::string> before;
@@ -93,7 +93,7 @@ TEST_P(WaylandEndingTest, EndsFollowingAndTheNextFollowTriesAgain) {
     session_.cast(row.after);
   }
   if (row.isTold) closeMessage();
-  // The desktop's own end of a session may be followed by a change of monitors for a moment.
+  // After the desktop has ended a session, a change of the monitors may follow for a moment.
   if (!row.isTold) std::this_thread::sleep_for(1s);
   if (row.mended.empty()) return;
   session_.cast(row.mended);
@@ -120,7 +120,7 @@ TEST_F(WaylandSessionTest, GoesOnWhenTheMonitorsChange) {
   ASSERT_TRUE(shows({100, 100}));
   session_.cast({"monitors 400x300+0+0*2 480x600+400-100", "close"});
   session_.client.splitScreen(400);
-  // The largest scale is 2: the second monitor begins at twice its logical place, and leaves gaps.
+  // The largest scale is 2: the second monitor begins at twice its logical position, with gaps.
   const auto screen = [](int x, int y) {
     if (x >= 0 && x < 800 && y >= 0 && y < 600) return playedPixel(0, 0, x, y);
     if (x >= 800 && x < 1280 && y >= -200 && y < 400) return playedPixel(0, 1, x - 800, y + 200);

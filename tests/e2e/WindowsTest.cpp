@@ -1,4 +1,4 @@
-// From the program's start to its end, by the keys and by the window manager.
+// Windows from the program's start to its end, with the keys and the window manager.
 
 #include <functional>
 #include <utility>
@@ -12,7 +12,7 @@ namespace {
 
 class WindowsTest : public ToolWindowTest {
  protected:
-  // One more by the keys, while `front` is in front.
+  // Opens another window with the keys while `front` is in front.
   ToolWindow openAnother(ToolWindow& front) {
     const auto before = session_.windows.titled("Color: ").size();
     front.keys("Ctrl+N");
@@ -57,7 +57,8 @@ TEST_F(WindowsTest, AMinimisedAboutStaysSoUntilTheUserTurnsToAWindowThatWaitsFor
       {"task bar", [&] { session_.windows.activate(second.window()); }},
   };
   for (const auto& [name, turn] : ways) {
-    // About may have the keyboard while its own request for it is still on its way, which would undo the minimising.
+    // About may have the focus while its own request for it is still being handled; that request would undo the
+    // minimising.
     session_.hand.rest();
     session_.windows.minimise(about);
     ASSERT_TRUE(waitUntil([&] { return session_.windows.hasKeyboard(tool_.window()); })) << name;

@@ -1,5 +1,5 @@
-// Runs tests of this program's own on an X server of their own, without a window manager, since they change the
-// screen's size and move its pointer.
+// Runs this program's tests on a separate X server without a window manager, since they change the screen's size and
+// move its pointer.
 
 #include <QApplication>
 

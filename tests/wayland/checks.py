@@ -1,6 +1,6 @@
-"""checks.py PROGRAM PICTURES: tries the program in a session with two monitors of unlike size.
+"""checks.py PROGRAM PICTURES: tests the program in a session with two monitors of different sizes.
 
-Says OK or what differs for each case, and leaves pictures of the monitors in the folder PICTURES.
+Prints OK or the difference for each case, and saves pictures of the monitors in the folder PICTURES.
 """
 import os
 import sys
@@ -12,7 +12,7 @@ from user import PATIENCE, Differs, User
 
 
 class Checks(User):
-    """The cases, in their order."""
+    """The cases, in order."""
 
     def __init__(self, path, pictures):
         super().__init__(path)
@@ -117,7 +117,7 @@ class Checks(User):
         self.follow(True)
         self.colours.obey("cover")
         wait(lambda: not self.program.find(), "a window that covers the program's")
-        # The program learns of it within some seconds.
+        # The program notices that it is covered within some seconds.
         spent = min(self.program.cpu(1, lambda: self.desktop.move(*self.place_outside())) for _ in range(5))
         place = self.place_outside()
         self.desktop.move(*place)
@@ -170,7 +170,7 @@ def main():
         try:
             case()
             print(f"OK    {case.__doc__} ({time.monotonic() - start:.1f} s)", flush=True)
-        except Exception as error:  # noqa: BLE001  # A case may fail in any way; the next is tried all the same.
+        except Exception as error:  # noqa: BLE001  # a case may fail in any way; the next one runs anyway
             failures += 1
             print(f"FAIL  {case.__doc__}: {error or type(error).__name__}", flush=True)
             checks.keep_picture(f"failed-{case.__name__}")
@@ -179,4 +179,4 @@ def main():
 
 
 if __name__ == "__main__":
-    os._exit(1 if main() else 0)  # The library of the assistive technologies may take its time to leave the bus.
+    os._exit(1 if main() else 0)  # the accessibility library may take long to leave the bus

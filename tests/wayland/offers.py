@@ -1,6 +1,6 @@
-"""offers.py PROGRAM: colours from another program by clipboard and by drag, also where it sends without end or nothing.
+"""offers.py PROGRAM: colours from another program's clipboard and drags, even if it sends endless data or none.
 
-Runs in a session of session.sh. Says OK or what differs for each case.
+Runs in a session of session.sh. Prints OK or the difference for each case.
 """
 import os
 import re
@@ -12,9 +12,9 @@ from desktop import Desktop, wait
 import offers_client
 from program import Program, title_of
 
-GROUND = (1200, 1000)  # where no window is
+GROUND = (1200, 1000)  # a position without a window
 SWATCH = (29, 16)
-PATIENCE = 8.0  # seconds: two that a bad source may take, and what the session does by itself
+PATIENCE = 8.0  # seconds: a bad source may take two, and the session needs some
 MEMORY = 30_000  # KiB
 
 
@@ -26,13 +26,13 @@ class Offers:
         os.set_blocking(self.client.stdout.fileno(), False)
         self.boxes = {kind: wait(lambda: self.find(rgb), f"the box {kind}") for kind, rgb in offers_client.BOXES.items()}
         self.desktop.move(*GROUND)
-        self.desktop.press("shift")  # a client finds no pointer and no keyboard before they are used
+        self.desktop.press("shift")  # clients see no pointer and no keyboard before their first use
         self.program = Program(self.desktop, path)
         self.swatch = (self.program.left + SWATCH[0], self.program.top + SWATCH[1])
         self.pasted = 0
 
     def find(self, rgb):
-        """The middle of the area that has a colour."""
+        """Returns the middle of the area with a colour."""
         picture = self.desktop.look()
         hits = [hit.start() // 3 for hit in re.finditer(re.escape(rgb), picture.data) if hit.start() % 3 == 0]
         places = [(hit % picture.width, hit // picture.width) for hit in hits]
@@ -52,7 +52,7 @@ class Offers:
         return self.program.title() == title_of(colour)
 
     def press_paste(self, await_effect):
-        """Gives whether the keys had their effect; they have none on a window that is only just getting the keyboard."""
+        """Returns whether the keys had an effect; they have none on a window that is just getting the focus."""
         self.desktop.press("ctrl", "v")
         try:
             await_effect()
@@ -65,7 +65,7 @@ class Offers:
         self.desktop.click()
         self.await_word(b"copied")
         self.program.focus()
-        self.client.stdout.read()  # the compositor may have asked too, to keep what is on the clipboard
+        self.client.stdout.read()  # the compositor may have read too, to keep the contents of the clipboard
         wait(lambda: self.press_paste(lambda: self.await_word(b"asked", 0.5)), "a request for the clipboard")
 
     def drop(self, kind):
@@ -75,7 +75,7 @@ class Offers:
         self.desktop.move(left + 20, top)
         self.await_word(b"dragged")
         self.desktop.move(*GROUND)
-        self.desktop.look()  # takes its time: a late refusal by the client itself would count as the next target's
+        self.desktop.look()  # takes time; a late refusal by the client would count as the next target's
         self.desktop.move(*self.swatch)
         self.await_word(b"accepted")
         self.desktop.button(False)
@@ -83,7 +83,7 @@ class Offers:
         self.program.focus()
 
     def paste_another(self):
-        """A colour from a clipboard that does no wrong, to see that the program goes on."""
+        """A colour from a correct clipboard, to see that the program still works."""
         self.pasted += 1
         colour = (18, 52, self.pasted)
         subprocess.run(["wl-copy", "#%02X%02X%02X" % colour], check=True)
@@ -118,7 +118,7 @@ def main():
             try:
                 offers.try_whole(take) if kind == "whole" else offers.try_bad(take, kind)
                 result = "OK   "
-            except Exception as error:  # noqa: BLE001  # A case may fail in any way, and the next is tried all the same.
+            except Exception as error:  # noqa: BLE001  # a case may fail in any way; the next one runs anyway
                 failures += 1
                 result = f"FAIL  {type(error).__name__}: {error}:"
             print(f"{result} {take.__name__}, {kind} ({time.monotonic() - begin:.1f} s)", flush=True)
@@ -126,4 +126,4 @@ def main():
 
 
 if __name__ == "__main__":
-    os._exit(1 if main() else 0)  # The library of the assistive technologies may take its time to leave the bus.
+    os._exit(1 if main() else 0)  # the accessibility library may take long to leave the bus

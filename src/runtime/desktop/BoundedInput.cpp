@@ -25,7 +25,7 @@ class PipeEnd {
   ~PipeEnd() { close(descriptor_); }
 
   std::optional<std::string> readAll(std::size_t most, TimePoint end) const {
-    std::array<char, 65536> part;  // what a pipe holds
+    std::array<char, 65536> part;  // the capacity of a pipe
     std::string all;
     while (waitForInput(descriptor_, end)) {
       const ssize_t length = read(descriptor_, part.data(), part.size());

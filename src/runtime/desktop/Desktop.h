@@ -12,7 +12,8 @@
 
 namespace tavrelkin {
 
-// A call that is made once, later, from the event loop. Destroying or cancelling it before then takes it back.
+// Calls a function once, later, from the event loop. Destroying the alarm, or cancelling it, before then prevents the
+// call.
 class Alarm {
  public:
   Alarm() = default;
@@ -20,13 +21,13 @@ class Alarm {
   Alarm& operator=(const Alarm&) = delete;
   virtual ~Alarm() = default;
 
-  // Asks for the call after `delay`, in place of any earlier request. A delay of zero or less means: as soon as the
-  // event loop has nothing else to do.
+  // Asks for the call after `delay`; it replaces any earlier request. With a delay of zero or less, the call comes as
+  // soon as the event loop has nothing else to do.
   virtual void set(std::chrono::nanoseconds delay) = 0;
   virtual void cancel() = 0;
 };
 
-// All that differs between machines, or that a test must play. The runtime asks nothing of the machine but through this
+// Everything that differs between machines, or that a test must play. The runtime reaches the machine only through this
 // interface and through the widgets of the toolkit.
 class Desktop {
  public:
@@ -37,37 +38,38 @@ class Desktop {
   Desktop& operator=(const Desktop&) = delete;
   virtual ~Desktop() = default;
 
-  // The screen, the pointer and the Option key. It lives as long as the desktop.
+  // Reads the screen, the pointer and the Option key. The reader lives as long as the desktop.
   virtual ScreenReader& screenReader() = 0;
 
-  // A clock that only goes forward.
+  // The time on a clock that only goes forward.
   virtual TimePoint now() const = 0;
 
-  // The time between two frames of the display.
+  // The time between two frames of the display; always more than zero.
   virtual std::chrono::nanoseconds frameInterval() const = 0;
 
-  // An alarm, not set yet, that calls `ring`. It must not outlive the desktop.
+  // Makes an alarm that calls `ring`. It is not set yet, and must not outlive the desktop.
   virtual std::unique_ptr<Alarm> newAlarm(std::function<void()> ring) = 0;
 
   // Shows `text` with an OK button over the front window, and returns when the user has closed it.
   virtual void messageBox(const std::string& text) = 0;
 
-  // Lets the user choose a colour, 0xRRGGBB, in a dialog over the front window that begins at `initial` and has
-  // `prompt` as its title. Returns when it is closed; nothing where the user gives up.
+  // Lets the user choose a colour in a dialog over the front window. The dialog has `prompt` as its title and starts at
+  // `initial`, 0xRRGGBB. Returns when the dialog is closed, with the colour as 0xRRGGBB, or with nothing if the user
+  // cancels.
   virtual std::optional<std::uint32_t> selectColor(std::uint32_t initial, const std::string& prompt) = 0;
 
-  // Lets the user choose where to save a file, in a dialog over the front window that begins with `name` and shows the
-  // files that `filter`, as "Swatches (*.aco)", lets through; all where that is empty. Asks before it gives the path of
-  // an existing file, and adds nothing to what the user typed. Returns when it is closed; nothing where the user gives
-  // up.
+  // Lets the user choose where to save a file, in a dialog over the front window that proposes `name`. The dialog lists
+  // the files that match `filter`, such as "Swatches (*.aco)", or all files if `filter` is empty. It asks before it
+  // accepts an existing file, and adds no extension to the typed name. Returns when the dialog is closed, with the
+  // absolute path, or with nothing if the user cancels.
   virtual std::optional<std::string> chooseSaveFile(const std::string& filter, const std::string& name) = 0;
 
-  // The path of the folder for the program's own files of this user, which is made first where it is missing. If that
-  // can't be done there is still a path, but no folder. Empty on a desktop without such a place.
+  // The path of the user's folder for this program's own files. Makes the folder if it is missing, but returns the path
+  // even if that fails. Empty if the desktop has no such place.
   virtual std::string applicationDataFolder() = 0;
 
-  // What another program has on the clipboard, and what its drag carries that is just being dropped on a window of this
-  // one. Null where the toolkit's own reading will do, or must.
+  // What another program has put on the clipboard, and what another program's drag carries while its drop on a window
+  // of this program is being handled. Null if the data must be read through the toolkit.
   virtual std::unique_ptr<Offer> clipboardOffer() { return nullptr; }
   virtual std::unique_ptr<Offer> dropOffer() { return nullptr; }
 };
@@ -75,7 +77,7 @@ class Desktop {
 // The desktop in use. It must be installed before any other part of the runtime is used.
 Desktop& desktop();
 
-// Puts another desktop in place, and gives back the one before it, if any.
+// Replaces the desktop in use, and returns the previous one, or null.
 std::unique_ptr<Desktop> installDesktop(std::unique_ptr<Desktop> next);
 
 }  // namespace tavrelkin

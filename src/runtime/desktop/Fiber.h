@@ -6,14 +6,14 @@
 
 namespace tavrelkin {
 
-// A function with a stack of its own, which can be suspended and resumed. All fibers run on the one OS thread: nothing
-// else runs between resume() and the next suspend().
+// A function with its own stack, which can be suspended and resumed. All fibers run on the one OS thread: no other code
+// runs between resume() and the next suspend().
 class Fiber {
  public:
   static constexpr std::size_t kDefaultStackSize = 1 << 20;
 
-  // `body` starts at the first resume(). `stackSize` is in bytes; 0 is the default. `body` must catch all exceptions
-  // but the one that suspend() throws.
+  // `body` starts at the first resume(). `stackSize` is in bytes; 0 means kDefaultStackSize. `body` must catch all
+  // exceptions except the one that suspend() throws.
   explicit Fiber(std::function<void()> body, std::size_t stackSize = 0);
   Fiber(const Fiber&) = delete;
   Fiber& operator=(const Fiber&) = delete;
@@ -26,12 +26,12 @@ class Fiber {
 
   bool finished() const;
 
-  // Ends the body at its present place and unwinds its stack. A suspended body has ended when kill() returns. A fiber
-  // that kills itself does not return from kill().
+  // Ends the body where it is and unwinds its stack. If the body is suspended, it has ended when kill() returns. If a
+  // fiber kills itself, kill() does not return.
   void kill();
 
-  // Suspends the running body, and returns when it is resumed. Returns at once in a killed body, whose destructors may
-  // call it while the stack unwinds. Call it only within a body.
+  // Suspends the running body; returns when it is resumed. In a killed body it returns at once, since destructors may
+  // call it while the stack unwinds. Only a body may call it.
   static void suspend();
 
  private:

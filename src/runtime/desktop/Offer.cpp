@@ -4,7 +4,7 @@
 
 namespace tavrelkin {
 
-// In the order of how well each type names its encoding.
+// The types that name their encoding come first.
 std::optional<std::string> Offer::text() {
   for (const char* type : {"UTF8_STRING", "text/plain;charset=utf-8"})
     if (const auto utf8 = bytes(type)) return QString::fromUtf8(QByteArray::fromStdString(*utf8)).toStdString();

@@ -8,9 +8,9 @@
 
 namespace tavrelkin {
 
-// What another program has on offer, on the clipboard or by a drag that was just dropped. That program sends what it
-// likes, or nothing, so that reading is bounded: all reads of one offer together take two seconds at the most, and what
-// is longer than 1 MiB counts as absent.
+// Data that another program offers on the clipboard or in a drag that was just dropped. That program may send anything,
+// or nothing, so reading is bounded: all reads of one offer together take at most two seconds, and data longer than 1
+// MiB count as absent.
 class Offer {
  public:
   static constexpr std::chrono::seconds kPatience{2};
@@ -21,16 +21,16 @@ class Offer {
   Offer& operator=(const Offer&) = delete;
   virtual ~Offer() = default;
 
-  // The bytes under a MIME type, or under another name of a type that the desktop has; nothing where they are not
-  // offered, or don't come within the bounds. After a read that breaks the bounds all others of this offer give
-  // nothing.
+  // The bytes of the MIME type `type`, or of a type with another kind of name that the desktop uses. Nothing if the
+  // type is not offered, or its data exceed a bound. After a read that exceeds a bound, all later reads of this offer
+  // return nothing.
   virtual std::optional<std::string> bytes(const std::string& type) = 0;
 
-  // The plain text, in well-formed UTF-8; nothing as above.
+  // The plain text as well-formed UTF-8; nothing in the same cases as for bytes().
   std::optional<std::string> text();
 };
 
-// Where a kind of desktop has the offers of other programs. The toolkit's own reading of them is unbounded.
+// Finds the offers of other programs on one kind of desktop. The toolkit can read them too, but without bounds.
 class OfferSource {
  public:
   OfferSource() = default;
@@ -38,11 +38,11 @@ class OfferSource {
   OfferSource& operator=(const OfferSource&) = delete;
   virtual ~OfferSource() = default;
 
-  // What the clipboard holds, which must not be this program's own. Null where it can't be read in a bounded way. An
-  // offer is of use until events are processed.
+  // What the clipboard holds. The clipboard must not belong to this program. Null if the data can't be read with
+  // bounds. The offer is valid until events are processed.
   virtual std::unique_ptr<Offer> clipboard() = 0;
 
-  // The same for the drag, of another program, whose drop is being handled.
+  // The same for another program's drag while its drop is being handled.
   virtual std::unique_ptr<Offer> drop() = 0;
 };
 

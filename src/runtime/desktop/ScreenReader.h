@@ -6,7 +6,8 @@
 
 namespace tavrelkin {
 
-// A position in the screen's own pixels, over all monitors. May be negative, and may lie off every monitor.
+// A position in physical pixels of the screen; all monitors share one coordinate system. It may be negative, and may
+// lie outside all monitors.
 struct ScreenPoint {
   std::int32_t x = 0;
   std::int32_t y = 0;
@@ -14,16 +15,16 @@ struct ScreenPoint {
 };
 
 enum class ScreenState {
-  notAsked,     // the user has to allow it first, and was not asked yet
+  notAsked,     // the user has to allow reading, and has not been asked yet
   asking,       // the user is being asked, or the desktop has not answered yet
-  live,         // pixel() and pointer() give what is on screen
-  idle,         // allowed, but nobody reads: the next read, or watch(), makes it live within some milliseconds
-  refused,      // the user did not allow it
-  lost,         // it could be read until the desktop stopped giving it
-  unavailable,  // this desktop does not give it
+  live,         // pixel() and pointer() return what is on screen
+  idle,         // allowed, but not in use; the next read or watch() makes the reader live within some milliseconds
+  refused,      // the user did not allow reading
+  lost,         // the desktop has stopped sharing the screen
+  unavailable,  // this desktop does not let programs read the screen
 };
 
-// Reads the screen and the pointer of one kind of display server. NativeDesktop.cpp chooses among the classes.
+// Reads the screen, the pointer and the Option key on one kind of display server. NativeDesktop.cpp chooses the class.
 class ScreenReader {
  public:
   ScreenReader() = default;
@@ -33,43 +34,45 @@ class ScreenReader {
 
   virtual ScreenState state() const { return ScreenState::live; }
 
-  // Asks the desktop for the screen where that takes the user's permission; the user is asked once in a run. Returns at
-  // once: state() is `asking` then. Does nothing while the screen can be read or is being asked for. A request that
-  // fails is explained to the user by one message.
+  // Asks the desktop for the screen if that takes the user's permission. The user is asked once in a run. Returns at
+  // once; state() is `asking` then. Does nothing while the screen can be read or is being asked for. If the request
+  // fails, one message to the user says why.
   //
-  // Where the desktop gives no more than single colours, each picked by the user with a click, the user picks one for
-  // `picked`, which takes it as 0xRRGGBB from the event loop. Without `picked` the user is told so by a message.
+  // On some desktops a program can't read the screen, but the user can pick a single colour with a click. On these,
+  // request() lets the user pick a colour and passes it to `picked`, as 0xRRGGBB, from the event loop. Without
+  // `picked`, a message to the user says that only single colours can be picked.
   using Picked = std::function<void(std::uint32_t)>;
   virtual void request(const Picked& /*picked*/ = {}) {}
 
-  // Forgets for whom a request is under way: `picked` is not called any more. What it holds may have to go before the
-  // desktop does.
+  // Forgets the `picked` of the request that is under way: it is not called any more. This lets a caller release in
+  // time what `picked` holds.
   virtual void dropRequest() {}
 
-  // Whether `unavailable` still leaves the user a way to pick single colours, see request().
+  // Whether the user can pick single colours although state() is `unavailable`; see request().
   virtual bool canPickColor() const { return false; }
 
-  // A handler or a thread's turn begins: drops what pointer() and pixel() have cached. Cheap.
+  // Drops the cached results of pointer() and pixel(). The runtime calls it whenever a handler or a thread's turn
+  // begins, so it must be cheap.
   virtual void beginTurn() {}
 
-  // The pixel at `at` as 0xRRGGBB, whichever window shows there. Black off the screen. Within one turn the answers may
-  // come from one capture, which is never older than a few milliseconds. Where the state is neither live nor idle: a
-  // pattern of greys that can't be taken for the screen.
+  // The pixel at `at` as 0xRRGGBB, from whichever window shows there. Black outside the screen. Within one turn the
+  // pixels may come from one capture, which is never more than a few milliseconds old. While state() is neither live
+  // nor idle, the result is a pattern of greys that nobody takes for the screen.
   virtual std::uint32_t pixel(ScreenPoint at) = 0;
 
-  // Where the pointer is, also when the program is not in front. In the event of a press, a release or a key it is the
-  // place of that moment, which may take up to 100 ms to find out.
+  // Where the pointer is, even if another program is in front. While a press, a release or a key is being handled, it
+  // is the position at the time of that event; finding it out may take up to 100 ms.
   virtual ScreenPoint pointer() = 0;
 
-  // While on, `changed` is called from the event loop soon after each movement of the pointer, wherever it is, after
-  // each change of state() and, where tellsEachChange(), after each change of what is on screen. An empty function
-  // turns it off, as it is at first. A program that is idle leaves it off, since the changes wake the process.
+  // Calls `changed` from the event loop soon after each movement of the pointer anywhere on the screen, after each
+  // change of state() and, if tellsEachChange(), after each change on the screen. An empty function, the initial
+  // setting, turns this off. The calls wake the process, so a program that is idle should turn them off.
   virtual void watch(std::function<void()> changed) = 0;
 
-  // Whether watch() tells of each change on the screen, so that nobody needs to look at it from time to time.
+  // Whether watch() reports each change on the screen, so that nobody needs to poll it.
   virtual bool tellsEachChange() const { return false; }
 
-  // Whether the Option key is held down now: Alt or AltGr.
+  // Whether the Option key (Alt or AltGr) is held down now.
   virtual bool optionKey() = 0;
 };
 

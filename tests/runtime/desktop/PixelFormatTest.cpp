@@ -12,8 +12,8 @@ namespace {
 constexpr auto kLsb = ByteOrder::LsbFirst;
 constexpr auto kMsb = ByteOrder::MsbFirst;
 
-// Scaled by hand: 16 of 31 is 131.6, 32 of 63 is 129.5, 1 of 31 is 8.2, 1 of 63 is 4.05, 15 of 31 is 123.4. At depth 30
-// stand 0x3FFFFFFF, then red 0x201, green 0x003 and blue 0x3FC.
+// Scaled by hand: 16 of 31 is 131.6, 32 of 63 is 129.5, 1 of 31 is 8.2, 1 of 63 is 4.05, 15 of 31 is 123.4. The pixels
+// of depth 30 are 0x3FFFFFFF, then red 0x201, green 0x003 and blue 0x3FC.
 TEST(PixelFormat, GivesColorsOfStoredPixels) {
   const struct {
     const char* name;

@@ -2,7 +2,7 @@
 #include <QKeyEvent>
 
 #include "fakes/RuntimeTest.h"
-#include "runtime/desktop/native/ToolkitOptionKey.h"
+#include "runtime/desktop/native/NoScreenReader.h"
 
 namespace tavrelkin {
 namespace {

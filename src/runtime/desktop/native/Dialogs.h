@@ -8,8 +8,8 @@
 
 namespace tavrelkin {
 
-// The toolkit's dialogs over the program's front window, as Desktop describes them. What the toolkit remembers of them,
-// such as the visited folders and the user's own colours, lasts as long as the program and leaves no file.
+// The toolkit's dialogs over the program's front window, as described in Desktop. What the toolkit remembers for them,
+// such as visited folders and the user's own colours, lasts as long as the program and leaves no file.
 class Dialogs {
  public:
   Dialogs();

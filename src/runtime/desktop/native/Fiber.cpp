@@ -17,10 +17,11 @@ namespace {
 
 namespace context = boost::context;
 
-// Thrown by suspend() in a fiber that is to end. No std::exception, so that no handler takes it for a fault.
+// suspend() throws this in a fiber that must end. It is not derived from std::exception, so that no handler takes it
+// for a fault.
 struct Killed {};
 
-// Tells the address sanitizer which stack is in use. It needs to know before each switch and after it.
+// Tells the address sanitizer which stack is in use, as it requires before and after each switch.
 struct StackSwitch {
 #if defined(__SANITIZE_ADDRESS__)
   static void leave(void** fakeStack, const void* bottom, std::size_t size) {
@@ -29,7 +30,8 @@ struct StackSwitch {
   static void arrive(void* fakeStack, const void** cameFrom, std::size_t* size) {
     __sanitizer_finish_switch_fiber(fakeStack, cameFrom, size);
   }
-  // The outermost frames never return, and their marks would lie on whatever is mapped to the same place next.
+  // The outermost frames never return, so the sanitizer's marks for them would stay and apply to the next mapping at
+  // this address.
   static void forget(const void* bottom, std::size_t size) {
     __asan_unpoison_memory_region(bottom, size);
   }
@@ -45,13 +47,13 @@ struct StackSwitch {
 struct Fiber::State {
   std::function<void()> body;
   context::stack_context stack;
-  context::fiber self;    // where to go on, while the body is suspended
-  context::fiber caller;  // where to go back to, while the body runs
+  context::fiber self;    // continues the body, while the body is suspended
+  context::fiber caller;  // continues the caller, while the body runs
   const void* callerStack = nullptr;
   std::size_t callerStackSize = 0;
   bool killed = false;
   bool ended = false;
-  State* outer = nullptr;  // the fiber that resumed this one, if one did
+  State* outer = nullptr;  // the fiber that resumed this one, or null
 
   inline static State* running = nullptr;
 

@@ -3,18 +3,22 @@
 #include <algorithm>
 #include <chrono>
 #include <climits>
+#include <filesystem>
 #include <iostream>
 #include <string>
+#include <system_error>
 #include <utility>
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
+#include <QFile>
+#include <QLibrary>
 #include <QMetaObject>
 #include <QScreen>
 #include <QTimer>
 
 #include "runtime/desktop/ScreenReader.h"
-#include "runtime/desktop/native/ApplicationDataFolder.h"
 #include "runtime/desktop/native/Dialogs.h"
 #include "runtime/desktop/native/NoScreenReader.h"
 #include "runtime/desktop/native/WaylandModule.h"
@@ -31,34 +35,54 @@ using namespace std::chrono_literals;
 constexpr auto kWhyNotOnWayland =
     "This desktop session runs on Wayland, and the part of Tavrelkin that reads the screen there can't be loaded. "
     "It needs PipeWire (libpipewire-0.3).\n\n"
-    "Following the mouse and Poke also work in a session on X11 (X.Org). Many login screens offer one, often under the "
-    "name of the desktop with \"on Xorg\" or \"X11\" beside it.\n\n"
-    "Mixing a colour on the bars, paste and copy work here as well.";
+    "Following the mouse and Poke also work in a session on X11 (X.Org). Many login screens offer such a session, "
+    "often as the name of the desktop with \"on Xorg\" or \"X11\".\n\n"
+    "You can still mix colours on the bars, copy and paste.";
 
 constexpr auto kWhyNotHere =
-    "Tavrelkin reads the colours of the screen from an X11 display (X.Org) in full colour, and found none that it can "
-    "read.\n\n"
+    "Tavrelkin needs an X11 display (X.Org) in full colour to read the screen, and has found no such display.\n\n"
     "Following the mouse and Poke work in a desktop session on X11.\n\n"
-    "Mixing a colour on the bars, paste and copy work here as well.";
+    "You can still mix colours on the bars, copy and paste.";
 
-// Posted, so that it also takes effect when the event loop has not begun yet.
+// The call is posted, so that it also works before the event loop has started.
 void endProgram(const std::string& message) {
   std::cerr << "Tavrelkin: " << message << '.' << std::endl;
   const auto leave = [] { QCoreApplication::exit(1); };
   QMetaObject::invokeMethod(QCoreApplication::instance(), leave, Qt::QueuedConnection);
 }
 
-// Under Wayland there often is an X11 display too, but it shows nothing of the screen.
+// A Wayland session often has an X11 display too, but that display doesn't show the screen.
 bool isWaylandSession() {
   return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || QGuiApplication::platformName().startsWith("wayland");
 }
 
-// Qt on Wayland reads other programs by Wayland's own means, and through an X server by those of X.
+// The way to read other programs' data follows the toolkit's platform, not the session.
 std::unique_ptr<OfferSource> makeOfferSource() {
   const QString platform = QGuiApplication::platformName();
   if (platform == "xcb") return std::make_unique<X11Offers>();
   if (platform.startsWith("wayland")) return makeWaylandOffers();
   return nullptr;
+}
+
+// Loads the module for the rest of the run. Null if the module, or a library that it needs, is missing.
+const WaylandModule* loadWaylandModule() {
+  using Entry = const WaylandModule* (*)();
+  for (const char* const folder : {"/", "/" TAVRELKIN_MODULE_FOLDER "/"}) {
+    QLibrary module(QCoreApplication::applicationDirPath() + folder + "tavrelkin-wayland.so");
+    if (const auto entry = reinterpret_cast<Entry>(module.resolve("tavrelkinWaylandModule"))) return entry();
+  }
+  return nullptr;
+}
+
+// Returns the program's folder in XDG_DATA_HOME, or in ~/.local/share if that is unset or not an absolute path. Makes
+// the folder if it is missing and ignores a failure.
+std::string makeApplicationDataFolder() {
+  QString dataHome = qEnvironmentVariable("XDG_DATA_HOME");
+  if (!QDir::isAbsolutePath(dataHome)) dataHome = QDir::homePath() + QStringLiteral("/.local/share");
+  const std::filesystem::path folder = QFile::encodeName(dataHome + QStringLiteral("/tavrelkin")).toStdString();
+  std::error_code ignored;
+  std::filesystem::create_directories(folder, ignored);
+  return folder;
 }
 
 class NativeAlarm final : public Alarm {
@@ -107,13 +131,14 @@ class NativeDesktop final : public Desktop {
  private:
   std::unique_ptr<ScreenReader> makeScreenReader();
 
-  // Shows a message from the event loop, since a thread may be asking, whose stack can't hold a dialog's loop.
+  // Shows a message later, from the event loop. The caller may be a thread of the program, whose stack is too small for
+  // a dialog.
   void tellSoon(const std::string& text);
 
   std::unique_ptr<ScreenReader> reader_;
   std::unique_ptr<OfferSource> offers_;
   Dialogs dialogs_;
-  QObject context_;  // takes back what is not told yet when the desktop goes
+  QObject context_;  // drops messages that are still to come when the desktop is destroyed
 };
 
 std::unique_ptr<ScreenReader> NativeDesktop::makeScreenReader() {
@@ -133,7 +158,7 @@ void NativeDesktop::tellSoon(const std::string& text) {
       &context_, [this, text] { messageBox(text); }, Qt::QueuedConnection);
 }
 
-// Some displays state no rate, or a senseless one.
+// Some displays state no refresh rate, or an absurd one.
 std::chrono::nanoseconds NativeDesktop::frameInterval() const {
   const QScreen* const screen = QGuiApplication::primaryScreen();
   const double stated = screen ? screen->refreshRate() : 0;

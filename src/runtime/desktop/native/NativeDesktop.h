@@ -6,9 +6,9 @@
 
 namespace tavrelkin {
 
-// The machine that the program runs on, through the toolkit. The toolkit's application object must exist first, and
-// outlive the desktop. If the connection to the display breaks, it says so on the standard error stream and ends the
-// program's event loop with exit status 1.
+// Makes the desktop of the real machine, on top of the toolkit. The toolkit's application object must exist first, and
+// outlive the desktop. If the connection to the display breaks, the desktop prints a message to the standard error
+// stream and ends the event loop with exit status 1.
 std::unique_ptr<Desktop> makeNativeDesktop();
 
 }  // namespace tavrelkin

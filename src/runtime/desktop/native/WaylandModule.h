@@ -7,14 +7,11 @@ namespace tavrelkin {
 
 class ScreenReader;
 
-// What a Wayland session takes that other sessions should not pay for. It stands in a loadable module, beside the
-// program in a build folder, and in the folder for libraries where the program is installed.
+// The interface of the loadable module that only a Wayland session loads, so that other sessions don't pay for its
+// libraries. In a build folder the module is beside the program; an installation has it in the folder for libraries.
 struct WaylandModule {
-  // See makePortalScreenReader. The caller takes the reader over.
+  // Makes a PortalScreenReader. The caller owns it.
   ScreenReader* (*makeScreenReader)(std::function<void(const std::string&)> tell);
 };
-
-// Loads the module, which stays for the rest of the run. Null where it is missing, or libraries that it needs are.
-const WaylandModule* loadWaylandModule();
 
 }  // namespace tavrelkin

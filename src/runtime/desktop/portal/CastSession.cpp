@@ -9,7 +9,7 @@
 #include <fcntl.h>
 
 #include "runtime/desktop/portal/CastStreams.h"
-#include "runtime/desktop/portal/DBusCall.h"
+#include "runtime/desktop/portal/DBus.h"
 
 namespace tavrelkin {
 
@@ -17,9 +17,9 @@ namespace {
 
 using Failure = ScreenCastPortal::Failure;
 
-constexpr std::uint32_t monitors = 1;           // among the types of source
-constexpr std::uint32_t pointerAsMetadata = 4;  // among the cursor modes
-constexpr std::uint32_t whileRunning = 1;       // how long the user's permission persists
+constexpr std::uint32_t monitors = 1;           // a bit of AvailableSourceTypes
+constexpr std::uint32_t pointerAsMetadata = 4;  // a bit of AvailableCursorModes
+constexpr std::uint32_t whileRunning = 1;       // a value of persist_mode: the permission lasts as long as the program
 constexpr std::uint32_t versionWithTokens = 4;
 
 QString castInterface() {
@@ -30,7 +30,7 @@ QString sessionInterface() {
   return QStringLiteral("org.freedesktop.portal.Session");
 }
 
-// The path in `value`, which portals give as a string; empty if it is none.
+// The object path in `value`, which portals send as a string; empty if it is not a path.
 QString pathOf(const QVariant& value) {
   static const QRegularExpression form(QStringLiteral("\\A(/[A-Za-z0-9_]+)+\\z"));
   const bool isTyped = value.metaType() == QMetaType::fromType<QDBusObjectPath>();
@@ -66,7 +66,7 @@ void CastSession::takePortal(const PortalInterface& portal) {
   }
 }
 
-// The session's path is known before the portal answers, so that it can be closed at any time.
+// The program knows the session's path before the portal answers, so it can close the session at any time.
 void CastSession::create() {
   const QString token = newHandleToken();
   listen(handlePath(bus_, "session", token));

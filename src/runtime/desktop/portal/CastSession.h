@@ -12,22 +12,23 @@
 #include <QVariantList>
 #include <QVariantMap>
 
-#include "runtime/desktop/portal/DBusSignal.h"
+#include "runtime/desktop/portal/DBus.h"
 #include "runtime/desktop/portal/PortalInterface.h"
 #include "runtime/desktop/portal/PortalRequest.h"
 #include "runtime/desktop/portal/ScreenCastPortal.h"
 
 namespace tavrelkin {
 
-// One session of the portal's interface ScreenCast, from the first question to its end. The destructor closes it.
+// One session of the portal's interface ScreenCast, from the first request to its end. The destructor closes it.
 class CastSession {
  public:
   using Done = std::function<void(ScreenCastPortal::Result)>;
   using Ended = std::function<void(ScreenCastPortal::Ending)>;
 
-  // `token` reopens an earlier session without a dialog, if it is not empty. It is good for one session: the token for
-  // the next session takes its place, so it has to outlive this object. `done` is called once; `ended` once at most,
-  // after `done` gave a cast. Both are called from the event loop, and may destroy this object.
+  // If `token` is not empty, it reopens an earlier session without a dialog. A token is good for one session; the
+  // session replaces it with the token for the next one, so the string must outlive this object. `done` is called once.
+  // `ended` is called at most once, after `done` has received a cast. Both are called from the event loop, and may
+  // destroy this object.
   CastSession(QDBusConnection bus, std::chrono::milliseconds patience, QString& token, Done done, Ended ended);
   CastSession(const CastSession&) = delete;
   CastSession& operator=(const CastSession&) = delete;
@@ -36,7 +37,7 @@ class CastSession {
  private:
   using Next = void (CastSession::*)(const QVariantMap& results);
 
-  // The steps, in their order.
+  // The steps, in order.
   void takePortal(const PortalInterface& portal);
   void create();
   void selectSources(const QVariantMap& created);
@@ -44,7 +45,7 @@ class CastSession {
   void openRemote(const QVariantMap& started);
   void takeRemote(const QDBusMessage& reply);
 
-  // Asks the portal; a refusal or a failure ends the session, anything else goes on with `next`.
+  // Sends a request to the portal. If it is granted, the session continues with `next`; otherwise the session ends.
   void ask(const QString& method, const QVariantList& arguments, const QVariantMap& options,
            PortalRequest::Answerer answerer, Next next);
   void listen(const QString& path);
@@ -57,12 +58,12 @@ class CastSession {
   Done done_;
   Ended ended_;
   PortalInterface portal_;
-  QString path_;  // of the session's object; empty while there is none
+  QString path_;  // the path of the session's object; empty while there is no session
   std::vector<CastStream> streams_;
   std::optional<PortalWatch> watch_;
   std::optional<DBusSignal> closed_;
   std::unique_ptr<PortalRequest> request_;
-  QObject context_;  // drops replies that are still due when the object ends
+  QObject context_;  // drops replies that come after the end of this object
 };
 
 }  // namespace tavrelkin

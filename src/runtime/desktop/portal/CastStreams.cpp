@@ -2,7 +2,7 @@
 
 #include <QVariantMap>
 
-#include "runtime/desktop/portal/DBusCall.h"
+#include "runtime/desktop/portal/DBus.h"
 
 namespace tavrelkin {
 
@@ -20,7 +20,7 @@ struct Pair {
   }
 };
 
-// The pair of integers `value`; nothing if it is something else, or one of them is out of range.
+// The pair of integers in `value`; nothing if it holds anything else, or if an integer is out of range.
 std::optional<Pair> pairOf(const QVariant& value, int least, int most) {
   const auto argument = argumentOf(value, "(ii)");
   if (!argument) return std::nullopt;

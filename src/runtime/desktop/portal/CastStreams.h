@@ -9,9 +9,9 @@
 
 namespace tavrelkin {
 
-// The streams that the portal answered: an array of nodes with properties, a(ua{sv}). Nothing if it is anything else,
-// has no stream, or more than 64. A position or a size of another type than (ii), or farther out than any desktop
-// reaches, counts as not given.
+// Parses the streams in the portal's answer, an array of PipeWire nodes with properties, a(ua{sv}). Nothing if `value`
+// holds anything else, no stream, or more than kMostStreams. A position or size that is not of type (ii), or is beyond
+// the reach of any desktop, counts as missing.
 std::optional<std::vector<CastStream>> castStreams(const QVariant& value);
 
 }  // namespace tavrelkin

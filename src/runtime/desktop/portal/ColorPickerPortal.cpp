@@ -4,7 +4,7 @@
 #include <cmath>
 #include <utility>
 
-#include "runtime/desktop/portal/DBusCall.h"
+#include "runtime/desktop/portal/DBus.h"
 #include "runtime/desktop/portal/PortalInterface.h"
 #include "runtime/desktop/portal/PortalRequest.h"
 
@@ -22,7 +22,7 @@ bool hasPicker(const PortalInterface& portal) {
   return portal.state == PortalInterface::State::there && portal.number("version") >= versionWithPicker;
 }
 
-// 0xRRGGBB of three numbers from 0 to 1, (ddd); nothing if `value` is anything else.
+// 0xRRGGBB from three numbers from 0 to 1, (ddd); nothing if `value` holds anything else.
 std::optional<std::uint32_t> colorOf(const QVariant& value) {
   const auto argument = argumentOf(value, "(ddd)");
   if (!argument) return std::nullopt;
@@ -32,7 +32,7 @@ std::optional<std::uint32_t> colorOf(const QVariant& value) {
   argument->endStructure();
   std::uint32_t result = 0;
   for (const double channel : channels) {
-    if (!(channel >= 0 && channel <= 1)) return std::nullopt;  // as is the case with NaN
+    if (!(channel >= 0 && channel <= 1)) return std::nullopt;  // also refuses NaN
     result = (result << 8) | static_cast<std::uint32_t>(std::lround(channel * 255));
   }
   return result;

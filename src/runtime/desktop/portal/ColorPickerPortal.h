@@ -13,25 +13,27 @@ namespace tavrelkin {
 
 struct PortalInterface;
 
-// Lets the user take one colour of the screen with the desktop's own picker, by the desktop portal. Nothing here
-// blocks, and all calls back come from the event loop.
+// Lets the user pick one colour of the screen with the desktop's own picker, through the desktop portal. No operation
+// blocks, and all callbacks come from the event loop.
 class ColorPickerPortal {
  public:
-  // `patience` is how long the portal may take for what it answers without the user. The user may take any time.
+  // `patience` limits the time of each answer that the portal gives without the user. An answer by the user may take
+  // any time.
   explicit ColorPickerPortal(QDBusConnection bus, std::chrono::milliseconds patience = std::chrono::seconds(10));
   ColorPickerPortal(const ColorPickerPortal&) = delete;
   ColorPickerPortal& operator=(const ColorPickerPortal&) = delete;
   ~ColorPickerPortal();
 
-  // Whether the portal has a picker. Calls `done` once, unless this object ends first.
+  // Calls `done` once with whether the portal has a picker, unless this object is destroyed first.
   void askAvailable(std::function<void(bool)> done);
 
-  // Takes back the question that is open, if any, then asks the user for a colour. Calls `done` once with 0xRRGGBB,
-  // unless cancel(), another pick() or the end of this object comes first; with nothing if the user gives up, there is
-  // no picker, or the portal reports an error, gives a malformed answer or none in time.
+  // Cancels the pick that is under way, if any, then asks the user to pick a colour. Calls `done` once, unless
+  // cancel(), another pick() or the end of this object comes first. The argument is the colour as 0xRRGGBB; it is
+  // nothing if the user cancels, if there is no picker, or if the portal reports an error, sends a malformed answer or
+  // does not answer in time.
   void pick(std::function<void(std::optional<std::uint32_t>)> done);
 
-  // Takes the question back; `done` is not called.
+  // Cancels the pick that is under way, if any; its `done` is not called.
   void cancel();
 
  private:
@@ -43,7 +45,7 @@ class ColorPickerPortal {
   QDBusConnection bus_;
   std::chrono::milliseconds patience_;
   std::unique_ptr<Pick> pick_;
-  QObject context_;  // drops the answers that are still due when the object ends
+  QObject context_;  // drops answers that come after the end of this object
 };
 
 }  // namespace tavrelkin

@@ -54,7 +54,7 @@ bool PipeWireConnection::connect(FileDescriptor socket) {
   if (!context_) return false;
   core_.reset(pw_context_connect_fd(context_.get(), socket.release(), nullptr, 0));
   if (!core_) return false;
-  // The macro for this is not C++.
+  // PipeWire's macro for this does not compile as C++.
   auto* const proxy = reinterpret_cast<pw_proxy*>(core_.get());
   pw_proxy_add_object_listener(proxy, &listener_->hook, &listener_->events, listener_.get());
   return true;

@@ -11,28 +11,28 @@ struct pw_thread_loop;
 
 namespace tavrelkin {
 
-// A connection to PipeWire, and the thread on which its events arrive.
+// A connection to PipeWire, and the thread that receives its events.
 class PipeWireConnection {
  public:
-  // Takes over the descriptor of a connected socket. `broken` is called on the thread when the connection ends. Null
-  // where PipeWire's modules or its configuration are missing.
+  // Opens a connection on a connected socket and takes over its descriptor. `broken` is called on the thread when the
+  // connection ends. Null if PipeWire's modules or its configuration are missing.
   static std::unique_ptr<PipeWireConnection> open(FileDescriptor socket, std::function<void()> broken);
 
   PipeWireConnection(const PipeWireConnection&) = delete;
   PipeWireConnection& operator=(const PipeWireConnection&) = delete;
   ~PipeWireConnection();
 
-  // Starts the thread. Before that, and after stop(), any thread may use the connection and all that was made on it; in
-  // between they belong to the thread, and others need a Lock. False where no thread can be started.
+  // Starts the thread. False if no thread can be started. While the thread runs, only it may use the connection and the
+  // objects made on it; other threads need a Lock. Before start() and after stop(), any thread may use them.
   bool start();
 
-  // Returns when the thread has ended. What was made on the connection must be destroyed after it, and before the
-  // connection. Does nothing where the thread isn't running.
+  // Stops the thread and returns when it has ended. Does nothing if the thread isn't running. The objects made on the
+  // connection must be destroyed after stop() and before the connection.
   void stop();
 
   pw_core* core() const { return core_.get(); }
 
-  // Keeps the thread from delivering events.
+  // While it lives, the thread delivers no events.
   class Lock {
    public:
     explicit Lock(const PipeWireConnection& connection);

@@ -5,7 +5,7 @@ namespace tavrelkin {
 void PointerMerge::moved(std::uintptr_t window, ScreenPoint local, const std::optional<Stream>& stream, TimePoint now) {
   learn(stream, now);
   if (local_ && local_->window != window) window_.reset();
-  // A press or a release where the pointer already was does not end its rest.
+  // A press or a release at the same place does not end the pointer's rest.
   const bool rests = local_ && local_->window == window && local_->at == local;
   local_ = {window, local, rests ? local_->when : now};
 }
@@ -21,10 +21,11 @@ std::optional<ScreenPoint> PointerMerge::place(const std::optional<Stream>& stre
   return ScreenPoint{window_->x + local_->at.x, window_->y + local_->at.y};
 }
 
-// Each rest is used, so that a place that was learnt wrong, or has changed unseen, is corrected.
+// It learns from each rest, so that a wrong or outdated place is corrected.
 void PointerMerge::learn(const std::optional<Stream>& stream, TimePoint now) {
   if (!local_ || !stream) return;
-  // A movement in a window has its event before the stream knows of it: without one the pointer is elsewhere.
+  // A mouse event comes before the stream knows of the movement. If the stream moves and no event comes, the pointer is
+  // not in the window.
   if (stream->since - local_->when > kLatest) return forget();
   // A stream that has not changed since the event does not know its place yet.
   if (stream->since < local_->when || now - stream->since < kRest) return;

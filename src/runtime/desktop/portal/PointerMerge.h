@@ -8,34 +8,37 @@
 
 namespace tavrelkin {
 
-// Where the pointer is now, from two sources that each know a part of it. The desktop's stream knows the place on the
-// screen, but some 20 ms late, and later where the desktop repaints slowly. The toolkit's mouse events come at once,
-// but know the place within a window only, and a program on Wayland is not told where its windows are.
+// Computes where the pointer is now from two sources that each know only a part. The desktop's stream reports the place
+// on the screen, but some 20 ms late, and later if the desktop repaints slowly. The toolkit's mouse events come at
+// once, but report only the place within a window, and on Wayland a program can't ask where its windows are.
 //
-// The window's place is learnt while both rest, and added to the places of the events from then on. Plain numbers, no
-// clock of its own: the caller says what time it is.
+// While both sources rest, this class learns the window's place; from then on it adds that to the places of the events.
+// It has no clock: the caller passes the time.
 class PointerMerge {
  public:
-  using TimePoint = std::chrono::steady_clock::time_point;
+  using Clock = std::chrono::steady_clock;
+  using TimePoint = Clock::time_point;
 
-  // What the stream knows, and since when it has known that place.
+  // The pointer's place by the stream, and the time at which the stream learnt it.
   struct Stream {
     ScreenPoint place;
     TimePoint since;
   };
 
-  // How long the stream must rest after an event until the two count as agreeing, and how late it may be at the most.
+  // How long the stream must rest after an event before the two sources count as agreeing, and the longest delay of the
+  // stream.
   static constexpr std::chrono::milliseconds kRest{100};
   static constexpr std::chrono::milliseconds kLatest{250};
 
-  // An event of the pointer in a window, at `local` in screen pixels from its top left corner. The place may lie
-  // outside of the window while a button is held. `stream` is what the stream knew when the event came, if anything.
+  // The toolkit has reported a mouse event in `window`, at `local` in screen pixels from its top left corner. The place
+  // may be outside the window while a button is held. `stream` is the stream's state at the time of the event, if it
+  // has one.
   void moved(std::uintptr_t window, ScreenPoint local, const std::optional<Stream>& stream, TimePoint now);
 
-  // The pointer is in no window of the program, or its window may have moved: events say nothing any more.
+  // The pointer has left the program's windows, or its window may have moved: the last event says nothing any more.
   void forget();
 
-  // The pointer's place by the newest event; nothing where the window's place is not known.
+  // The pointer's place on the screen by the newest event; nothing if the window's place is not known.
   std::optional<ScreenPoint> place(const std::optional<Stream>& stream, TimePoint now);
 
  private:

@@ -5,7 +5,7 @@
 #include <QDBusError>
 #include <QDBusMessage>
 
-#include "runtime/desktop/portal/DBusCall.h"
+#include "runtime/desktop/portal/DBus.h"
 
 namespace tavrelkin {
 

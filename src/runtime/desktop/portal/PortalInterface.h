@@ -10,18 +10,18 @@
 #include <QString>
 #include <QVariantMap>
 
-#include "runtime/desktop/portal/DBusSignal.h"
+#include "runtime/desktop/portal/DBus.h"
 
 namespace tavrelkin {
 
-// The path of the object that has all interfaces of the desktop portal.
+// The path of the object with all interfaces of the desktop portal.
 inline constexpr auto portalPath = "/org/freedesktop/portal/desktop";
 
-// One interface of the desktop portal, as it says itself.
+// One interface of the desktop portal, as the portal describes it.
 struct PortalInterface {
   enum class State {
     there,
-    absent,  // there is no bus, no portal, or none with this interface
+    absent,  // there is no bus, no portal, or no portal with this interface
     silent,  // no answer came in time
   };
 
@@ -33,16 +33,15 @@ struct PortalInterface {
   std::uint32_t number(const char* property) const;
 };
 
-// Looks the interface up and returns at once; the portal is started if it doesn't run. `done` is called from the event
-// loop, unless `context` ends first.
+// Looks up the interface and returns at once; starts the portal if it is not running. `done` is called from the event
+// loop, unless `context` is destroyed first.
 void findPortal(const QDBusConnection& bus, const QString& interface, std::chrono::milliseconds patience,
                 QObject& context, std::function<void(const PortalInterface&)> done);
 
-// Watches whether the owner of a portal is still on the bus.
+// Watches whether the portal's process is still on the bus.
 class PortalWatch {
  public:
-  // `gone` is called from the event loop when the owner has left the bus, or the bus has ended. It may destroy this
-  // object.
+  // `gone` is called from the event loop when the owner leaves the bus, or the bus ends. It may destroy this object.
   PortalWatch(const QDBusConnection& bus, const QString& owner, const std::function<void()>& gone);
 
  private:

@@ -7,8 +7,7 @@
 #include <QTimer>
 #include <QUuid>
 
-#include "runtime/desktop/portal/DBusCall.h"
-#include "runtime/desktop/portal/DBusSignal.h"
+#include "runtime/desktop/portal/DBus.h"
 #include "runtime/desktop/portal/PortalInterface.h"
 
 namespace tavrelkin {
@@ -62,7 +61,7 @@ void PortalRequest::takeReply(const QDBusMessage& reply) {
     return;
   }
   const QString path = reply.arguments().at(0).value<QDBusObjectPath>().path();
-  if (path != path_) listen(path);  // portals before version 0.9 don't take the token
+  if (path != path_) listen(path);  // portals before version 0.9 ignore the token
 }
 
 void PortalRequest::takeResponse(const QDBusMessage& response) {

@@ -16,22 +16,21 @@ namespace tavrelkin {
 
 class DBusSignal;
 
-// A word that no other request or session of this program has, for their names in the portal.
+// Makes a token that no other request or session of this program uses. The portal builds object paths with it.
 QString newHandleToken();
 
-// The path that the portal gives to a "request" or a "session" of this connection with the token.
+// The object path of a "request" or a "session" (`kind`) of this connection with the token.
 QString handlePath(const QDBusConnection& bus, const char* kind, const QString& token);
 
-// A call of the portal that it answers twice: at once with the path of a request, and by the request's signal Response
-// when all is done. The call is made by the constructor, and taken back by the destructor if it is not answered by
-// then.
+// A call that the portal answers twice: at once with the path of a request object, and later by that object's signal
+// Response. The constructor makes the call; the destructor cancels it if the Response has not come yet.
 class PortalRequest {
  public:
   struct Call {
-    QString owner;  // of the portal
+    QString owner;  // the unique name of the portal's process
     QString interface;
     QString method;
-    QVariantList arguments;  // all but the last, which are the options
+    QVariantList arguments;  // all except the last, which is `options`
     QVariantMap options;     // without the handle token
   };
 
@@ -40,15 +39,15 @@ class PortalRequest {
   struct Answer {
     static constexpr std::uint32_t granted = 0;
     static constexpr std::uint32_t refused = 1;
-    static constexpr std::uint32_t failed = 2;  // also for an error, a malformed answer, or none in time
+    static constexpr std::uint32_t failed = 2;  // also for an error, a malformed answer, or no answer in time
 
     std::uint32_t code = failed;
     QVariantMap results;
   };
   using Done = std::function<void(const Answer&)>;
 
-  // `patience` is how long the portal may take, to the Response if that is the portal's, else to its first answer.
-  // `done` is called once, from the event loop, and may destroy this object.
+  // `patience` limits the time until the Response if the portal itself answers, and until the first answer if the user
+  // does. `done` is called once, from the event loop, and may destroy this object.
   PortalRequest(QDBusConnection bus, const Call& call, Answerer answerer, std::chrono::milliseconds patience,
                 Done done);
   PortalRequest(const PortalRequest&) = delete;
@@ -66,8 +65,8 @@ class PortalRequest {
   QString path_;
   std::unique_ptr<DBusSignal> response_;
   Done done_;
-  bool isOver_ = false;  // for the portal: the Response has come
-  QObject context_;      // drops replies and time limits that are still due when the object ends
+  bool isOver_ = false;  // the portal has sent the Response
+  QObject context_;      // drops replies and timeouts that come after the end of this object
 };
 
 }  // namespace tavrelkin

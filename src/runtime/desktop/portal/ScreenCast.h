@@ -19,12 +19,13 @@ struct CastStream {
     friend bool operator==(Size, Size) = default;
   };
 
-  std::uint32_t node = 0;               // the PipeWire node that gives the frames
-  std::optional<ScreenPoint> position;  // of the top left corner, in the desktop's logical pixels
+  std::uint32_t node = 0;               // the PipeWire node that sends the frames
+  std::optional<ScreenPoint> position;  // the top left corner, in the desktop's logical pixels
   std::optional<Size> size;             // in logical pixels
 };
 
-// More than any desk has. Each costs memory and a connection, and their number comes from another program.
+// The largest number of streams: more than any desk has. The number comes from another program, and each stream costs
+// memory and a connection.
 inline constexpr std::size_t kMostStreams = 16;
 
 // An open file descriptor with one owner.
@@ -55,7 +56,7 @@ class FileDescriptor {
   int fd_ = -1;
 };
 
-// A screen cast that the user has allowed: its monitors, and the connection to PipeWire that gives their frames.
+// A screen cast that the user has allowed: its monitors, and the connection to PipeWire that sends their frames.
 struct ScreenCast {
   std::vector<CastStream> streams;
   FileDescriptor pipeWire;

@@ -19,7 +19,7 @@ void ScreenCastPortal::open(std::function<void(Result)> done) {
   };
   const auto end = [this](Ending ending) {
     close();
-    const auto call = closed;  // a copy: the call may change it
+    const auto call = closed;  // a copy, since the call may change it
     if (call) call(ending);
   };
   session_ = std::make_unique<CastSession>(bus_, patience_, token_, take, end);

@@ -14,38 +14,39 @@ namespace tavrelkin {
 
 class CastSession;
 
-// Asks the desktop portal for a cast of all monitors with the pointer as metadata. Nothing here blocks, and all calls
-// back come from the event loop. The bus is first used by open(), and may be one that is not connected.
+// Asks the desktop portal for a cast of all monitors with the pointer as metadata. No operation blocks, and all
+// callbacks come from the event loop. open() is the first to use the bus, which need not be connected.
 class ScreenCastPortal {
  public:
   enum class Failure {
     refused,    // the user said no
-    noPortal,   // there is no bus, no portal, or none that casts monitors
-    noPointer,  // the portal can't give the pointer; the user was not asked
-    failed,     // the portal reported an error, gave a malformed answer, or none in time
+    noPortal,   // there is no bus, no portal, or no portal that casts monitors
+    noPointer,  // the portal can't report the pointer; the user was not asked
+    failed,     // the portal reported an error, sent a malformed answer, or did not answer in time
   };
   using Result = std::variant<ScreenCast, Failure>;
 
   enum class Ending {
     session,  // the user or the desktop closed it
-    portal,   // the portal or the bus has gone
+    portal,   // the portal or the bus is gone
   };
 
-  // `patience` is how long the portal may take for what it answers without the user. The user may take any time.
+  // `patience` limits the time of each answer that the portal gives without the user. An answer by the user may take
+  // any time.
   explicit ScreenCastPortal(QDBusConnection bus, std::chrono::milliseconds patience = std::chrono::seconds(10));
   ScreenCastPortal(const ScreenCastPortal&) = delete;
   ScreenCastPortal& operator=(const ScreenCastPortal&) = delete;
   ~ScreenCastPortal();
 
-  // Closes what is open or asked for, then asks. Calls `done` once, unless close(), another open() or the end of this
-  // object comes first. The first time, the user sees a dialog; after that none, as long as the token holds, which the
-  // portal gave for the time that the program runs.
+  // Closes an open session, or cancels a request, and then asks for a new session. Calls `done` once, unless close(),
+  // another open() or the end of this object comes first. The first time, the user sees a dialog. Later the portal
+  // shows none as long as its token is valid, which the portal issues for the run of the program.
   void open(std::function<void(Result)> done);
 
-  // Called when a session that `done` was given has ended by itself, once for each. It is closed by then.
+  // Called once when a session that was passed to `done` ends by itself. The session is already closed then.
   std::function<void(Ending)> closed;
 
-  // Closes the session, or takes the question back, and with it the dialog. Neither `done` nor `closed` is called.
+  // Closes the session, or cancels the request and its dialog. Neither `done` nor `closed` is called.
   void close();
 
   // Lets the next open() ask the user again.

@@ -10,7 +10,7 @@ namespace {
 
 constexpr std::int64_t kBytesPerPixel = 4;
 
-// Keeps sums of an origin and a place within a frame in range, whatever the portal says.
+// Keeps the sum of an origin and a place within a frame in range, whatever the portal sends.
 constexpr std::int64_t kFarthest = 1 << 30;
 
 bool isSound(const ScreenFrame& frame) {
@@ -35,15 +35,15 @@ void copyLines(const ScreenFrame& frame, std::uint8_t* target) {
     std::memcpy(target + row * line, frame.bytes.data() + row * stride, line);
 }
 
-// Unsigned, since the difference may not fit.
+// Computes unsigned, since the difference may not fit.
 bool isWithin(std::int32_t from, std::int32_t length, std::int32_t at) {
   return static_cast<std::uint32_t>(at) - static_cast<std::uint32_t>(from) < static_cast<std::uint32_t>(length);
 }
 
 }  // namespace
 
-// Rounded to the nearest, halves up. All places are rounded the same way, so that a whole number of pixels between two
-// of them is never lost.
+// Rounds to the nearest, halves up. All places are rounded in the same way, so that two places that are a whole number
+// of pixels apart stay so.
 std::int32_t ScreenModel::Scale::times(std::int32_t length) const {
   const std::int64_t twice = 2 * frame * length + logical;
   const std::int64_t divisor = 2 * logical;
@@ -68,10 +68,10 @@ std::uint32_t ScreenModel::Monitor::pixel(ScreenPoint at) const {
   return order == ChannelOrder::bgr ? rgb(c[2], c[1], c[0]) : rgb(c[0], c[1], c[2]);
 }
 
-// A frame that a copy of the model still reads stays as it is.
+// A frame that a copy of the model still uses is not overwritten.
 std::uint8_t* ScreenModel::Monitor::bytesToWrite(std::size_t count) {
   if (bytes.use_count() != 1) bytes = std::make_shared_for_overwrite<std::uint8_t[]>(count);
-  // use_count() alone does not order the reads of a copy that has just gone before the writes to come.
+  // use_count() alone does not order the reads of a copy that was just destroyed before the writes to come.
   std::atomic_thread_fence(std::memory_order_acquire);
   return bytes.get();
 }

@@ -12,11 +12,12 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// From the portal's answer to the first frame of each monitor.
+// The longest time from the portal's answer to the first frame of each monitor.
 constexpr auto kFirstFrames = 5s;
-// From there to the first place of the pointer: a desktop that has not told it by then won't do so.
+// The longest time from those frames to the first place of the pointer. A desktop that has not reported it by then
+// never does.
 constexpr auto kFirstPlace = 1s;
-// A pause that nobody asked for is over by then, or the stream does not go on.
+// The longest pause that the desktop makes unasked. A stream that pauses for longer has stopped.
 constexpr auto kPause = 1s;
 // The desktop ends the cast when its monitors change, at about the time at which the toolkit learns of the change.
 constexpr auto kMonitorsChangedBefore = 3s;
@@ -81,7 +82,7 @@ void ScreenSession::streamChanged() {
     hasMissedPlace_ = false;
     events_.begun();
   } else if (!std::exchange(awaitsPlace_, true)) {
-    // A desktop that misses it twice, on all monitors, never tells it.
+    // A desktop that fails to report it twice, with all monitors shared, never does.
     const bool isHopeless = std::exchange(hasMissedPlace_, true) && sharesAllMonitors();
     waitAtMost(kFirstPlace, isHopeless ? End::noPointer : End::pointerNotSeen);
   }
@@ -101,7 +102,7 @@ void ScreenSession::closed(ScreenCastPortal::Ending how) {
   stopped(End::byUser);
 }
 
-// A pause before this counts no more: the streams tell of the next one.
+// An earlier pause no longer counts; the streams report the next one.
 void ScreenSession::setActive(bool active) {
   limit_.stop();
   isWaking_ = active;
@@ -109,7 +110,7 @@ void ScreenSession::setActive(bool active) {
   streams_->setActive(active);
 }
 
-// The session and its streams may end one after the other; the first end says why.
+// The session and its streams may end one after the other; the first end gives the reason.
 void ScreenSession::stopped(End how) {
   if (!streams_ || isStopped_) return;
   if (monitorsChanged_ && Clock::now() - *monitorsChanged_ < kMonitorsChangedBefore) return reopen();
@@ -146,7 +147,7 @@ void ScreenSession::interrupt() {
   if (std::exchange(hasBegun_, false)) events_.interrupted();
 }
 
-// With all that was known of them.
+// Also forgets all state of the streams.
 void ScreenSession::dropStreams() {
   limit_.stop();
   isStopped_ = false;
@@ -160,7 +161,7 @@ void ScreenSession::end(End how) {
   dropStreams();
   if (portal_) {
     portal_->close();
-    // By the token the same monitors would be shared again, without a question.
+    // The token would share the same monitors again without asking the user.
     if (how == End::byUser || how == End::pointerNotSeen) portal_->forgetToken();
   }
   events_.ended(how);

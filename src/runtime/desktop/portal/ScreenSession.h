@@ -13,26 +13,27 @@
 
 namespace tavrelkin {
 
-// A screen cast from the request to its end: the portal's permission, the first frames with a first place of the
-// pointer, and a new cast without a question where the desktop ends the old one because its monitors have changed.
+// A screen cast from the request to its end: the portal's permission, the first frames, and the first place of the
+// pointer. If the desktop ends the cast because its monitors have changed, the session opens a new one without asking
+// the user.
 class ScreenSession {
  public:
   enum class End {
     refused,         // the user said no
-    byUser,          // the user has ended it in the desktop
-    noPortal,        // nothing here shares a screen
-    noPointer,       // the desktop does not tell the pointer's place
-    pointerNotSeen,  // it should, but has not
+    byUser,          // the user has ended the sharing in the desktop
+    noPortal,        // this desktop can't share the screen
+    noPointer,       // the desktop does not report the pointer's place
+    pointerNotSeen,  // the desktop should report the pointer's place, but has not
     failed,          // the portal gave an error, or no frames came
-    lost,            // frames have come, but PipeWire or the portal is gone, or the stream has stopped
+    lost,            // frames came, but then PipeWire or the portal went away, or the stream stopped
   };
 
-  // All from the event loop, but for the one that giveUp() causes.
+  // All are called from the event loop, except the call that giveUp() makes.
   struct Events {
-    std::function<void()> begun;        // frames() is there, and active
-    std::function<void()> changed;      // something in frames() is new
-    std::function<void()> interrupted;  // frames() is gone; the session begins once more, or ends
-    std::function<void(End)> ended;     // frames() is gone for good
+    std::function<void()> begun;        // frames() is available and active
+    std::function<void()> changed;      // frames() has something new
+    std::function<void()> interrupted;  // frames() is null; the session will begin again, or end
+    std::function<void(End)> ended;     // frames() is null for good
   };
 
   explicit ScreenSession(Events events);
@@ -43,17 +44,18 @@ class ScreenSession {
   // Asks for the screen. Does nothing while the session is open or is being opened.
   void open();
 
-  // From waking an idle stream to its frames. They take some 20 ms; a desktop that is busy may take much longer.
+  // The longest time from waking an idle stream to its frames. Some 20 ms are usual; a busy desktop may take much
+  // longer.
   static constexpr std::chrono::seconds kFramesAgain{2};
 
-  // Has frames() sent, or no more; see ScreenStreams. Of use while frames() is there. The session ends as lost where
-  // frames that are wanted don't come within kFramesAgain.
+  // Makes frames() active or inactive; see ScreenStreams. Call it only while frames() is not null. After waking, the
+  // session ends as lost if no frames come within kFramesAgain.
   void setActive(bool active);
 
-  // Ends the session as lost: its frames have failed the reader.
+  // Ends the session as lost, because the reader has waited for its frames in vain.
   void giveUp() { end(End::lost); }
 
-  // The frames and the pointer, or null before the session has begun and after its end.
+  // The frames and the pointer; null before the session has begun and after its end.
   ScreenStreams* frames() const { return hasBegun_ ? streams_.get() : nullptr; }
 
  private:
@@ -78,13 +80,13 @@ class ScreenSession {
   std::unique_ptr<ScreenStreams> streams_;
   bool isOpening_ = false;
   bool hasBegun_ = false;
-  bool awaitsPlace_ = false;     // of the pointer: all frames are there
-  bool hasMissedPlace_ = false;  // none has come since a session had all frames
-  bool isWaking_ = false;        // has been made active, and frames have not come yet
-  bool isStopped_ = false;       // the desktop has ended it, and may tell of a change of its monitors next
-  std::optional<Clock::time_point> monitorsChanged_;  // since the session was opened
+  bool awaitsPlace_ = false;     // all frames have come, but no place of the pointer
+  bool hasMissedPlace_ = false;  // an earlier session had all frames, but no place of the pointer
+  bool isWaking_ = false;        // the session was made active, and frames have not come yet
+  bool isStopped_ = false;       // the desktop has ended the cast; a change of its monitors may follow
+  std::optional<Clock::time_point> monitorsChanged_;  // the last change since the session was opened
   End orElse_ = End::failed;
-  QTimer limit_;  // of what is being waited for
+  QTimer limit_;  // ends the session with orElse_
   QObject context_;
 };
 

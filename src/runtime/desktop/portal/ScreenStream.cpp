@@ -18,7 +18,7 @@ const Meta* metaOf(const spa_buffer& buffer, std::uint32_t type) {
   return static_cast<const Meta*>(spa_buffer_find_meta_data(&buffer, type, sizeof(Meta)));
 }
 
-// A buffer may tell of the pointer only. It has no pixels then, or ones that mean nothing.
+// A buffer may report only the pointer. It then has no pixels, or meaningless ones.
 bool hasPixels(const spa_buffer& buffer) {
   if (buffer.n_datas == 0 || !buffer.datas[0].data || !buffer.datas[0].chunk) return false;
   const spa_chunk& chunk = *buffer.datas[0].chunk;
@@ -27,7 +27,7 @@ bool hasPixels(const spa_buffer& buffer) {
   return !header || (header->flags & SPA_META_HEADER_FLAG_CORRUPTED) == 0;
 }
 
-// A place with an id of 0 is a stale one: the pointer is elsewhere.
+// With an id of 0 the place is stale: the pointer is not on this monitor.
 void notePointer(const spa_buffer& buffer, StreamArrival& arrival) {
   const auto* const cursor = metaOf<spa_meta_cursor>(buffer, SPA_META_Cursor);
   if (cursor && cursor->id != 0) arrival.pointer = ScreenPoint{cursor->position.x, cursor->position.y};
@@ -78,7 +78,7 @@ bool ScreenStream::connect(std::uint32_t node, std::uint32_t mostFrames) {
 
   StreamParameters offer;
   offerFormats(offer, mostFrames);
-  // Where the monitor goes, another node, as a camera, must not take its place.
+  // If the monitor is removed, PipeWire must not connect to another node instead, such as a camera.
   constexpr auto kFlags = static_cast<pw_stream_flags>(PW_STREAM_FLAG_AUTOCONNECT | PW_STREAM_FLAG_MAP_BUFFERS |
                                                        PW_STREAM_FLAG_DONT_RECONNECT);
   return pw_stream_connect(stream_, PW_DIRECTION_INPUT, node, kFlags, offer.data(), offer.count()) == 0;
@@ -102,8 +102,8 @@ void ScreenStream::negotiate(const spa_pod* format) {
   pw_stream_update_params(stream_, offer.data(), offer.count());
 }
 
-// A buffer that is kept makes the producer skip an update. So all are given back at once, and where several wait only
-// the newest frame is read.
+// The producer skips an update for each buffer that is kept. So all buffers are returned at once, and if several wait,
+// only the newest frame is read.
 void ScreenStream::receive() {
   StreamArrival arrival;
   pw_buffer* newest = nullptr;

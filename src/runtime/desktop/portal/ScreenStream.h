@@ -15,15 +15,15 @@ struct spa_buffer;
 
 namespace tavrelkin {
 
-// What has arrived on a stream at once. The bytes of the frame are there for the time of the call only.
+// What one call of a stream delivers. The bytes of the frame are valid during the call only.
 struct StreamArrival {
-  std::optional<ScreenFrame> frame;    // the newest one; it may be unsound
+  std::optional<ScreenFrame> frame;    // the newest frame, not checked yet
   std::optional<ScreenPoint> pointer;  // the newest place, in frame pixels
 };
 
 enum class StreamState { streaming, paused, ended };
 
-// One monitor's stream of frames. All calls come on the thread of the connection.
+// One monitor's stream of frames. All callbacks come on the thread of the connection.
 class ScreenStream {
  public:
   struct Events {
@@ -31,7 +31,8 @@ class ScreenStream {
     std::function<void(StreamState)> stateChanged;
   };
 
-  // Connects to a node of PipeWire, active. Null where that fails at once; later failures are a state.
+  // Connects to a node of PipeWire; the stream is active. `mostFrames` is the largest number of frames a second. Null
+  // if this fails at once; a later failure is reported as StreamState::ended.
   static std::unique_ptr<ScreenStream> connect(pw_core* core, std::uint32_t node, std::uint32_t mostFrames,
                                                Events events);
 
@@ -39,7 +40,7 @@ class ScreenStream {
   ScreenStream& operator=(const ScreenStream&) = delete;
   ~ScreenStream();
 
-  // An inactive stream gets no buffers.
+  // An inactive stream receives no buffers.
   void setActive(bool active);
 
  private:

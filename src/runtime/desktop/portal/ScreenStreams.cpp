@@ -36,14 +36,14 @@ ScreenStreams::~ScreenStreams() {
 }
 
 void ScreenStreams::setActive(bool active) {
-  // No buffer is taken meanwhile.
+  // The thread must take no buffer meanwhile.
   const PipeWireConnection::Lock connectionLock(*connection_);
   {
     const std::lock_guard lock(mutex_);
     if (active == std::exchange(active_, active)) return;
     for (StreamStatus& status : statuses_) {
       status.pausedUnasked = false;
-      status.streaming = false;  // the pause that was asked for may arrive when the stream is active again
+      status.streaming = false;  // the requested pause may arrive after the stream is active again
       if (active) status.fresh = false;
     }
     paused_ = false;
@@ -104,7 +104,7 @@ void ScreenStreams::post() {
       &context_, [this] { tell(); }, Qt::QueuedConnection);
 }
 
-// Copies, and a look after each call, since any of them may end the streams.
+// Works on copies and checks after each call, since any of the calls may destroy the object.
 void ScreenStreams::tell() {
   News news;
   {

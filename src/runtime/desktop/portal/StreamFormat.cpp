@@ -11,14 +11,15 @@ namespace tavrelkin {
 
 namespace {
 
-// The pointer's picture is not used, but producers reserve room for it, each for another size.
+// The size in bytes of a pointer image of `side` by `side` pixels, with its headers. The image is not used, but
+// producers reserve room for it, each for a different size.
 constexpr int cursorBytes(int side) {
   return static_cast<int>(sizeof(spa_meta_cursor) + sizeof(spa_meta_bitmap)) + side * side * 4;
 }
 
 }  // namespace
 
-// A key and its value on a line.
+// One key and its value a line.
 // clang-format off
 void offerFormats(StreamParameters& parameters, std::uint32_t mostFrames) {
   constexpr std::uint32_t kLongestSide = ScreenModel::kLongestSide;

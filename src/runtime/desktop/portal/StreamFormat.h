@@ -11,10 +11,10 @@ namespace tavrelkin {
 
 class StreamParameters;
 
-// Adds the formats that can be read, at up to `mostFrames` frames a second. Only ones that lie in plain memory.
+// Adds the formats that can be read, with at most `mostFrames` frames a second. All of them use plain memory.
 void offerFormats(StreamParameters& parameters, std::uint32_t mostFrames);
 
-// Adds what is wanted of the buffers once the format is known: that they are few, and say where the pointer is.
+// Adds what the buffers must be like once the format is known: few, and with the pointer's place.
 void offerBuffers(StreamParameters& parameters);
 
 struct StreamFormat {
@@ -23,7 +23,7 @@ struct StreamFormat {
   std::int64_t height = 0;
 };
 
-// The format that the other side has chosen; nothing where it is none of those that were offered. `pod` may be null.
+// The format that the other side has chosen; nothing if it is not one of the offered formats. `pod` may be null.
 std::optional<StreamFormat> parseFormat(const spa_pod* pod);
 
 }  // namespace tavrelkin

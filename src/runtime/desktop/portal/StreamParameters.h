@@ -9,15 +9,16 @@
 
 namespace tavrelkin {
 
-// Parameters of a stream's negotiation, which PipeWire calls pods, and the memory that they are in. It is enough for
-// those of one operation.
+// The parameters of a stream's negotiation, which PipeWire calls pods, and their memory. The memory is enough for one
+// operation.
 class StreamParameters {
  public:
   StreamParameters() { spa_pod_builder_init(&builder_, memory_.data(), static_cast<std::uint32_t>(memory_.size())); }
   StreamParameters(const StreamParameters&) = delete;
   StreamParameters& operator=(const StreamParameters&) = delete;
 
-  // Adds an object of these properties, each a key and what one of PipeWire's SPA_POD macros makes of a value.
+  // Adds an object with these properties. Each property is a key and a value made with one of PipeWire's SPA_POD
+  // macros.
   template <class... Properties>
   void add(std::uint32_t type, std::uint32_t id, Properties... properties) {
     spa_pod_frame frame{};
@@ -26,7 +27,7 @@ class StreamParameters {
     pods_.push_back(static_cast<const spa_pod*>(spa_pod_builder_pop(&builder_, &frame)));
   }
 
-  // As PipeWire takes them.
+  // The pods in the form that PipeWire takes.
   const spa_pod** data() { return pods_.data(); }
   std::uint32_t count() const { return static_cast<std::uint32_t>(pods_.size()); }
 

@@ -1,7 +1,8 @@
-// What the loadable module gives to the program.
+// The entry point of the loadable module.
 
 #include "runtime/desktop/native/WaylandModule.h"
 
+#include <memory>
 #include <utility>
 
 #include "runtime/desktop/portal/PortalScreenReader.h"
@@ -11,7 +12,7 @@ namespace tavrelkin {
 namespace {
 
 ScreenReader* makeScreenReader(std::function<void(const std::string&)> tell) {
-  return makePortalScreenReader(std::move(tell)).release();
+  return std::make_unique<PortalScreenReader>(std::move(tell)).release();
 }
 
 }  // namespace

@@ -9,7 +9,7 @@ namespace {
 constexpr xcb_keysym_t kLevel3Shift = 0xFE03;  // ISO_Level3_Shift
 constexpr int kModifiers = 8;
 
-// The symbols that each key has on its levels, from the lowest key code on.
+// The symbols on the levels of each key; the first key has the lowest key code.
 struct KeySymbols {
   const xcb_get_keyboard_mapping_reply_t& reply;
   xcb_keycode_t first;
@@ -23,7 +23,7 @@ struct KeySymbols {
   }
 };
 
-// The modifiers of which some key has the symbol.
+// A bit for each modifier that has a key with this symbol.
 std::uint16_t modifiersOf(xcb_keysym_t symbol, const xcb_get_modifier_mapping_reply_t& modifiers,
                           const KeySymbols& symbols) {
   const int perModifier = modifiers.keycodes_per_modifier;

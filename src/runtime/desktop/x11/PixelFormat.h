@@ -10,9 +10,9 @@ namespace tavrelkin {
 
 enum class ByteOrder { LsbFirst, MsbFirst };
 
-// How a display server stores the pixels of an image, in the server's own words: `bitsPerPixel` counts the unused bits
-// too, each scanline is filled up to a multiple of `scanlinePad` bits, and the masks say where a channel lies within
-// the pixel's number.
+// How a display server stores the pixels of an image, in the terms of the X protocol: `bitsPerPixel` includes unused
+// bits, each scanline is padded to a multiple of `scanlinePad` bits, and each mask says which bits of a pixel hold the
+// channel.
 struct PixelLayout {
   int bitsPerPixel = 32;
   int scanlinePad = 32;
@@ -22,28 +22,28 @@ struct PixelLayout {
   std::uint32_t blueMask = 0x0000FF;
 };
 
-// Turns stored pixels into 0xRRGGBB. A channel of fewer than 8 bits is scaled and rounded so that its greatest value
-// gives 255; of one with more bits the upper 8 count.
+// Turns stored pixels into 0xRRGGBB. A channel with fewer than 8 bits is scaled and rounded, so that its greatest value
+// gives 255. Of a channel with more bits the upper 8 count.
 class PixelFormat {
  public:
-  // Nothing where pixels are not stored in 16, 24 or 32 bits, a scanline is not padded to whole bytes, or a mask is
-  // empty, has gaps or lies outside the pixel (a screen with a palette has empty masks).
+  // Nothing if a pixel does not have 16, 24 or 32 bits, if a scanline is not padded to whole bytes, or if a mask is
+  // empty, has gaps or lies outside the pixel. (A screen with a palette has empty masks.)
   static std::optional<PixelFormat> make(const PixelLayout& layout);
 
-  // The length of a scanline of `width` pixels, padding included.
+  // The length in bytes of a scanline of `width` pixels, with the padding.
   std::size_t bytesPerLine(std::size_t width) const;
 
-  // The pixel in `column`, counted from 0, of a scanline that begins at `line`. The caller sees to the bounds.
+  // The pixel in `column`, counted from 0, of the scanline that begins at `line`. The caller must check the bounds.
   std::uint32_t rgb(const std::uint8_t* line, std::size_t column) const;
 
-  // The first pixels of a scanline, as many as `rgbOut` has room for: the same as rgb() for each, but faster.
+  // Decodes the first pixels of a scanline into all of `rgbOut`: the same result as rgb() for each pixel, but faster.
   void decode(const std::uint8_t* line, std::span<std::uint32_t> rgbOut) const;
 
  private:
   struct Channel {
     std::uint32_t mask = 0;
     int shift = 0;                              // brings the masked bits, or the upper 8 of them, down to bit 0
-    std::array<std::uint8_t, 256> toByte = {};  // from there to 0..255
+    std::array<std::uint8_t, 256> toByte = {};  // from the shifted bits to 0..255
   };
 
   explicit PixelFormat(const PixelLayout& layout);
@@ -53,7 +53,7 @@ class PixelFormat {
   std::size_t bytesPerPixel_;
   std::size_t padBytes_;
   ByteOrder order_;
-  bool isPlain_;  // only the unused upper byte stands between a stored pixel and 0xRRGGBB
+  bool isPlain_;  // a stored pixel is 0xRRGGBB with an unused upper byte
   Channel red_;
   Channel green_;
   Channel blue_;

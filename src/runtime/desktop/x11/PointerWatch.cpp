@@ -14,7 +14,7 @@ PointerWatch::PointerWatch(xcb_connection_t* connection, xcb_window_t root) : co
   if (hasXInput2()) opcode_ = xcb_get_extension_data(connection_, &xcb_input_id)->major_opcode;
 }
 
-// Before 2.2 the raw events stay out while another program holds a grab, as each open menu does.
+// Before version 2.2 no raw events come while another program holds a grab, as each open menu does.
 bool PointerWatch::hasXInput2() {
   const auto* extension = xcb_get_extension_data(connection_, &xcb_input_id);
   if (!extension || !extension->present) return false;

@@ -9,19 +9,19 @@
 
 namespace tavrelkin {
 
-// Tells of each movement of the pointer, wherever it is, by the raw events of XInput2.
+// Reports each movement of the pointer anywhere on the screen, by the raw events of XInput2.
 class PointerWatch {
  public:
   PointerWatch(xcb_connection_t* connection, xcb_window_t root);
 
-  // What to call; an empty function ends the watch. Without XInput2 nothing is ever called.
+  // Sets the function to call; an empty function ends the watch. Without XInput2 the function is never called.
   void set(std::function<void()> moved);
 
-  // Looks at an event of the connection, and remembers it if it is a movement.
+  // Must be called for each event of the connection. Remembers that a call is due if the event is a movement.
   void note(const xcb_generic_event_t& event);
 
-  // Makes the call that is due, if any: deliver() at once, which is for the event loop only, and deliverSoon() from the
-  // event loop, for events that came in while the program was waiting for a reply.
+  // Makes the call that is due, if any. deliver() calls at once and may only be used from the event loop. deliverSoon()
+  // lets the event loop make the call; it is for events that came while the program was waiting for a reply.
   void deliver();
   void deliverSoon();
 
@@ -31,11 +31,11 @@ class PointerWatch {
 
   xcb_connection_t* connection_;
   xcb_window_t root_;
-  std::uint8_t opcode_ = 0;  // of XInput2; 0 if the server lacks it
+  std::uint8_t opcode_ = 0;  // the extension code of XInput2; 0 if the server lacks it
   std::function<void()> moved_;
   bool motionSeen_ = false;
   bool deliveryPosted_ = false;
-  QObject context_;  // takes the posted delivery back when the watch is gone
+  QObject context_;  // drops a posted delivery when the watch is destroyed
 };
 
 }  // namespace tavrelkin

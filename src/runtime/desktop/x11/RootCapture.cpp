@@ -29,7 +29,7 @@ PixelRect united(const PixelRect& a, const PixelRect& b) {
                  std::max(a.top + a.height, b.top + b.height));
 }
 
-// The block for `at`: around it, and around the block before as well where that is near enough.
+// The block to capture for `at`: the area around it, together with the previous block if that is near enough.
 PixelRect blockFor(ScreenPoint at, const PixelRect& before) {
   const PixelRect around{at.x - RootCapture::kReachX, at.y - RootCapture::kReachY, kBlockWidth, kBlockHeight};
   if (before.isEmpty()) return around;
@@ -37,7 +37,7 @@ PixelRect blockFor(ScreenPoint at, const PixelRect& before) {
   return both.width <= kGreatestWidth && both.height <= kGreatestHeight ? both : around;
 }
 
-// A rectangle on the root as the protocol has it. No screen of X11 is larger than 32767 pixels.
+// A rectangle on the root window in the protocol's types. No screen of X11 is larger than 32767 pixels.
 struct ProtocolRect {
   explicit ProtocolRect(const PixelRect& r)
       : x(static_cast<std::int16_t>(r.left)),
@@ -49,7 +49,30 @@ struct ProtocolRect {
   std::uint16_t width, height;
 };
 
+const xcb_visualtype_t* rootVisual(const xcb_screen_t& screen) {
+  for (auto depths = xcb_screen_allowed_depths_iterator(&screen); depths.rem > 0; xcb_depth_next(&depths))
+    for (auto visuals = xcb_depth_visuals_iterator(depths.data); visuals.rem > 0; xcb_visualtype_next(&visuals))
+      if (visuals.data->visual_id == screen.root_visual) return visuals.data;
+  return nullptr;
+}
+
 }  // namespace
+
+std::optional<PixelFormat> rootPixelFormat(const xcb_setup_t& setup, const xcb_screen_t& screen) {
+  const auto* visual = rootVisual(screen);
+  if (!visual) return std::nullopt;
+  const auto order = setup.image_byte_order == XCB_IMAGE_ORDER_MSB_FIRST ? ByteOrder::MsbFirst : ByteOrder::LsbFirst;
+
+  for (auto formats = xcb_setup_pixmap_formats_iterator(&setup); formats.rem > 0; xcb_format_next(&formats))
+    if (formats.data->depth == screen.root_depth)
+      return PixelFormat::make({.bitsPerPixel = formats.data->bits_per_pixel,
+                                .scanlinePad = formats.data->scanline_pad,
+                                .order = order,
+                                .redMask = visual->red_mask,
+                                .greenMask = visual->green_mask,
+                                .blueMask = visual->blue_mask});
+  return std::nullopt;
+}
 
 RootCapture::RootCapture(xcb_connection_t* connection, const xcb_screen_t& screen, const PixelFormat& format)
     : connection_(connection),
@@ -69,7 +92,7 @@ void RootCapture::take(ScreenPoint at) {
   drop();
   if (capture(intersected(wanted, rootRect_))) return;
 
-  // The root can have become smaller, and the event that says so is still under way.
+  // The root may have become smaller, and the event that reports it may not have arrived yet.
   if (!askRootSize() || !isOnScreen(at)) return;
   const PixelRect onRoot = intersected(wanted, rootRect_);
   if (!capture(onRoot)) keepBlack(onRoot);

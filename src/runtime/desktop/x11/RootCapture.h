@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include <xcb/xcb.h>
@@ -13,7 +14,11 @@
 
 namespace tavrelkin {
 
-// A rectangle in the screen's own pixels; empty at a width or height of zero or less.
+// How the server stores the pixels of the root window in an image of the format ZPixmap. Nothing if PixelFormat does
+// not support it.
+std::optional<PixelFormat> rootPixelFormat(const xcb_setup_t& setup, const xcb_screen_t& screen);
+
+// A rectangle in physical pixels of the screen. It is empty if the width or the height is zero or less.
 struct PixelRect {
   std::int32_t left = 0;
   std::int32_t top = 0;
@@ -22,7 +27,8 @@ struct PixelRect {
 
   bool isEmpty() const { return width <= 0 || height <= 0; }
 
-  // For any point; the rectangle must not have a negative size. Unsigned, since the difference may not fit.
+  // Works for any point; the rectangle must not have a negative size. Computes unsigned, since the difference may not
+  // fit.
   bool contains(ScreenPoint at) const {
     const auto distance = [](std::int32_t from, std::int32_t to) {
       return static_cast<std::uint32_t>(to) - static_cast<std::uint32_t>(from);
@@ -32,23 +38,23 @@ struct PixelRect {
   }
 };
 
-// What shows on the root window, which is the whole screen, one block of pixels at a time.
+// Reads what shows on the root window, which is the whole screen, one block of pixels at a time.
 class RootCapture {
  public:
-  // How many pixels a block reaches to each side of the pixel that it is taken for: a preview of 103 x 49 pixels, read
-  // from its middle, comes from a single block.
+  // How many pixels a block extends to each side of the pixel that it is captured for. A preview of 103 x 49 pixels
+  // that is read from its middle comes from a single block.
   static constexpr std::int32_t kReachX = 52;
   static constexpr std::int32_t kReachY = 26;
 
   RootCapture(xcb_connection_t* connection, const xcb_screen_t& screen, const PixelFormat& format);
 
-  // The root has a new size. A size of zero by zero makes all of the screen black.
+  // Sets the size of the root window in pixels. A size of zero by zero makes the whole screen black.
   void setRootSize(std::int32_t width, std::int32_t height);
 
   // Forgets the block.
   void drop() { block_.width = 0; }
 
-  // The pixel at `at` in the block as 0xRRGGBB; nil if it lies outside.
+  // The pixel at `at` in the block as 0xRRGGBB; null if the block does not contain `at`.
   const std::uint32_t* find(ScreenPoint at) const {
     if (!block_.contains(at)) return nullptr;
     return &pixels_[static_cast<std::size_t>(at.y - block_.top) * static_cast<std::size_t>(block_.width) +
@@ -57,9 +63,9 @@ class RootCapture {
 
   bool isOnScreen(ScreenPoint at) const { return rootRect_.contains(at); }
 
-  // Takes a block with `at` in it, of black where the server refuses. Afterwards find() gives nil only if `at` is off
-  // the screen. A block that lies next to the one before takes that one in, so that a scan that starts in a corner does
-  // not take a new block for each change of direction.
+  // Captures a block that contains `at`; the block is black if the server refuses. Afterwards find() returns null only
+  // if `at` is off the screen. If the previous block is near, the new block covers it too, so that a scan that starts
+  // in a corner does not need a new block for each change of direction.
   void take(ScreenPoint at);
 
  private:

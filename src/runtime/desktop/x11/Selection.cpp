@@ -51,7 +51,7 @@ Selection::Selection(XcbConnection connection, std::string_view name, xcb_timest
                     XCB_COPY_FROM_PARENT, XCB_CW_EVENT_MASK, &events);
 }
 
-// A value that is too long is left in the property, on the server. The offer then ends, since another type of the same
+// A value that is too long stays in the property on the server. The offer then ends, since another type of the same
 // data would be too long as well.
 std::optional<std::string> Selection::bytes(const std::string& type) {
   if (!isConverted(atom(connection_.get(), type))) return std::nullopt;
@@ -75,7 +75,7 @@ XcbPtr<xcb_generic_event_t> Selection::waitFor(IsWanted isWanted) {
   return nullptr;
 }
 
-// False where the time is over or the connection has failed.
+// False if the time is up or the connection has failed.
 bool Selection::waitForData() {
   return !xcb_connection_has_error(connection_.get()) && waitForInput(xcb_get_file_descriptor(connection_.get()), end_);
 }
@@ -91,7 +91,7 @@ bool Selection::isConverted(xcb_atom_t target) {
   return event && reinterpret_cast<const xcb_selection_notify_event_t&>(*event).property == property_;
 }
 
-// The owner may send a long value in parts (INCR). It sends each part when the one before has been deleted, and an
+// The owner may send a long value in parts (INCR). It sends each part after the previous part has been deleted, and an
 // empty part at the end.
 bool Selection::takeAll(std::string& to) {
   const auto first = peek();

@@ -9,11 +9,12 @@
 
 namespace tavrelkin {
 
-// What the owner of an X11 selection, another client, offers there, by the protocol of the ICCCM, section 2.4. It is
-// asked on a connection of the offer's own, which goes with it: an answer that comes later finds nobody. Null where the
-// display can't be reached.
+// Opens an offer of what another client, the owner of an X11 selection, provides. It follows section 2.4 of the ICCCM.
+// The offer has its own connection, which closes with it, so a late answer reaches nobody. Null if the display can't be
+// reached.
 //
-// `name` is that of the selection, as "CLIPBOARD"; `time` is the server's at what the user did, or XCB_CURRENT_TIME.
+// `name` is the selection's name, such as "CLIPBOARD". `time` is the server's timestamp of the user's action, or
+// XCB_CURRENT_TIME.
 std::unique_ptr<Offer> openSelection(std::string_view name, xcb_timestamp_t time);
 
 }  // namespace tavrelkin

@@ -23,7 +23,7 @@ std::unique_ptr<SharedSegment> SharedSegment::make(xcb_connection_t* connection,
     segment.reset(new SharedSegment(connection, static_cast<std::uint8_t*>(memory)));
     if (!segment->attach(kernelId)) segment.reset();
   }
-  // The segment lives on as long as it is attached, and goes with the process even after a crash.
+  // The kernel keeps the segment while it is attached, and frees it with the process, even after a crash.
   shmctl(kernelId, IPC_RMID, nullptr);
 
   return segment && segment->isReached(root) ? std::move(segment) : nullptr;

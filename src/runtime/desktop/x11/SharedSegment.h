@@ -8,18 +8,18 @@
 
 namespace tavrelkin {
 
-// A piece of memory that the display server writes images into.
+// Memory that the display server writes images into.
 class SharedSegment {
  public:
-  // A segment of `bytes` bytes, at least 4. Nil where the server has no MIT-SHM or can't reach this process's memory,
-  // as from another machine.
+  // Makes a segment of `bytes` bytes, at least 4. Null if the server has no MIT-SHM or can't reach this process's
+  // memory, for example because it runs on another machine.
   static std::unique_ptr<SharedSegment> make(xcb_connection_t* connection, xcb_window_t root, std::size_t bytes);
 
   SharedSegment(const SharedSegment&) = delete;
   SharedSegment& operator=(const SharedSegment&) = delete;
   ~SharedSegment();
 
-  // The server's name for the segment.
+  // The server's identifier of the segment.
   xcb_shm_seg_t id() const { return id_; }
   const std::uint8_t* data() const { return data_; }
 

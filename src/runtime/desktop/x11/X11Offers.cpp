@@ -35,14 +35,14 @@ bool X11Offers::isOwn(std::uint32_t window) const {
 }
 
 bool X11Offers::nativeEventFilter(const QByteArray&, void* message, qintptr*) {
-  constexpr int kSource = 0;  // where the messages of the XDND protocol have it
+  constexpr int kSource = 0;  // the index in the messages of the XDND protocol
   constexpr int kTime = 2;
   const auto& event = *static_cast<const xcb_generic_event_t*>(message);
   if (kindOf(event) != XCB_CLIENT_MESSAGE) return false;
-  const auto& told = reinterpret_cast<const xcb_client_message_event_t&>(event);
-  if (told.format != 32) return false;
-  if (told.type == dropMessage_) dropTime_ = told.data.data32[kTime];
-  return told.type == enterMessage_ && isOwn(told.data.data32[kSource]);
+  const auto& content = reinterpret_cast<const xcb_client_message_event_t&>(event);
+  if (content.format != 32) return false;
+  if (content.type == dropMessage_) dropTime_ = content.data.data32[kTime];
+  return content.type == enterMessage_ && isOwn(content.data.data32[kSource]);
 }
 
 }  // namespace tavrelkin

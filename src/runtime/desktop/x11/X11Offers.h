@@ -9,10 +9,10 @@
 
 namespace tavrelkin {
 
-// What other programs have on offer on an X11 display. The toolkit's own reading is unbounded: it waits five seconds
-// for each form of the data that isn't sent, and takes in all that is. These keep to the bounds of an Offer.
+// Reads what other programs offer on an X11 display, within the bounds of an Offer. The toolkit's own reading has no
+// bounds: it waits up to five seconds for each form of the data, and takes any amount.
 //
-// Made while the toolkit runs on X11; needed from before the first drop on.
+// Must be made while the toolkit runs on X11, and before the first drop.
 class X11Offers final : public QAbstractNativeEventFilter, public OfferSource {
  public:
   X11Offers();
@@ -21,9 +21,9 @@ class X11Offers final : public QAbstractNativeEventFilter, public OfferSource {
   std::unique_ptr<Offer> clipboard() override;
   std::unique_ptr<Offer> drop() override;
 
-  // Notes the timestamp of a drop; the source uses it to know which of its drags is meant. Drops each message of a drag
-  // that claims to come from a window of this program, since such a message is forged: the toolkit's own drags send
-  // none. The toolkit would treat that window as another program's, and no click or key would reach it any more.
+  // Remembers the timestamp of a drop, which tells the source which of its drags is meant. Discards each message of a
+  // drag that claims to come from a window of this program. Such a message is forged, since the toolkit's own drags
+  // send none. The toolkit would treat that window as another program's, and no click or key would reach it any more.
   bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;
 
  private:
@@ -31,7 +31,7 @@ class X11Offers final : public QAbstractNativeEventFilter, public OfferSource {
 
   std::uint32_t enterMessage_ = 0;
   std::uint32_t dropMessage_ = 0;
-  std::uint32_t ownWindows_ = 0;  // the bits that are the same in all of them
+  std::uint32_t ownWindows_ = 0;  // the bits that all windows of this program have in common
   std::uint32_t ownWindowsMask_ = 0;
   std::uint32_t dropTime_ = 0;
 };

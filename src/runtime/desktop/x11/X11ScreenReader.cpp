@@ -10,7 +10,6 @@
 #include "runtime/desktop/x11/OptionKeys.h"
 #include "runtime/desktop/x11/PointerWatch.h"
 #include "runtime/desktop/x11/RootCapture.h"
-#include "runtime/desktop/x11/RootFormat.h"
 #include "runtime/desktop/x11/Xcb.h"
 
 namespace tavrelkin {
@@ -19,7 +18,7 @@ namespace {
 
 constexpr std::int64_t kGoodForNanoseconds = 8'000'000;
 
-// Exact to a tick of the kernel, some milliseconds, but cheap enough to ask at each pixel.
+// This clock is exact to a tick of the kernel, some milliseconds, and cheap enough to read for each pixel.
 std::int64_t coarseNanoseconds() {
   std::timespec time;
   clock_gettime(CLOCK_MONOTONIC_COARSE, &time);
@@ -53,22 +52,22 @@ class X11ScreenReader final : public ScreenReader {
  private:
   using Poll = xcb_generic_event_t* (*)(xcb_connection_t*);
 
-  // What was read before the turn, or too long ago, is not looked at any more. The clock costs as much as a read, so
-  // that only some of the reads look at it.
+  // Discards what was read before this turn or too long ago. The clock costs as much as a read of a pixel, so only one
+  // in 16 reads looks at it.
   void look() {
     constexpr unsigned kReadsPerLook = 16;
-    if (!isFresh_ || (++reads_ % kReadsPerLook == 0 && isOld())) lookAnew();
+    if (!isFresh_ || (++reads_ % kReadsPerLook == 0 && isOld())) refresh();
   }
   bool isOld() const { return coarseNanoseconds() - freshSince_ >= kGoodForNanoseconds; }
 
-  void lookAnew();
+  void refresh();
   std::uint32_t pixelOutsideBlock(ScreenPoint at);
   XcbPtr<xcb_query_pointer_reply_t> askPointer();
   void takeEvents(Poll poll);
   void afterReply();
   void lose();
 
-  // In this order: what uses the connection goes first.
+  // The connection comes first, so that it is destroyed after the members that use it.
   XcbConnection connection_;
   xcb_window_t root_;
   RootCapture capture_;
@@ -82,7 +81,7 @@ class X11ScreenReader final : public ScreenReader {
   bool isFresh_ = false;
   unsigned reads_ = 0;
   std::int64_t freshSince_ = 0;
-  bool isPointerKnown_ = false;  // for this turn
+  bool isPointerKnown_ = false;  // pointer_ is valid for this turn
   ScreenPoint pointer_;
 };
 
@@ -104,8 +103,8 @@ X11ScreenReader::X11ScreenReader(XcbConnection connection, const xcb_screen_t& s
   xcb_flush(connection_.get());
 }
 
-// The events are looked at as well, since a program that is busy may not have been in the event loop for long.
-void X11ScreenReader::lookAnew() {
+// Events are read too, since a busy program may not have been in the event loop for long.
+void X11ScreenReader::refresh() {
   isFresh_ = true;
   freshSince_ = coarseNanoseconds();
   isPointerKnown_ = false;
@@ -150,7 +149,7 @@ void X11ScreenReader::watch(std::function<void()> changed) {
   watch_.set(std::move(changed));
 }
 
-// Waiting for a reply, XCB may have read events as well. The socket stays silent about those.
+// XCB may have read events while it waited for a reply. The socket notifier does not report those.
 void X11ScreenReader::afterReply() {
   takeEvents(xcb_poll_for_queued_event);
   watch_.deliverSoon();
@@ -169,12 +168,12 @@ void X11ScreenReader::takeEvents(Poll poll) {
 
 void X11ScreenReader::lose() {
   if (std::exchange(isLost_, true)) return;
-  notifier_.setEnabled(false);  // at its end, a socket is ready to be read for ever
+  notifier_.setEnabled(false);  // a closed socket stays ready to read for ever
   capture_.setRootSize(0, 0);
   if (connectionLost_) connectionLost_("the connection to the display was lost");
 }
 
-// A write of XCB to a socket whose server has just gone would end the process without a word.
+// When the server is gone, XCB's next write to the socket would end the process by SIGPIPE, without a message.
 void ignoreBrokenPipes() {
   struct sigaction current = {};
   if (sigaction(SIGPIPE, nullptr, &current) == 0 && current.sa_handler == SIG_DFL) std::signal(SIGPIPE, SIG_IGN);

@@ -18,7 +18,7 @@ class ColorPickerPortalTest : public PortalTest {
     picker.pick([this](Color color) { picked = color; });
   }
 
-  // The answer; fails the test where none comes.
+  // Waits for the answer; the test fails if none comes.
   Color answer() {
     EXPECT_TRUE(waitUntil([this] { return picked.has_value(); }));
     return picked.value_or(Color());

@@ -10,7 +10,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// One thing that happens, and where the pointer is then by the events: "-" where they don't know it.
+// One event, and the pointer's place by the events after it: "-" if they don't give it.
 struct Step {
   std::chrono::milliseconds at;
   enum class Kind { stream, event, otherWindow, leave, ask } kind;

@@ -16,15 +16,14 @@
 
 namespace tavrelkin::test {
 
-// How long a portal may take that answers, and that doesn't.
+// The time limit for a portal that answers, and for one that doesn't.
 constexpr auto patient = std::chrono::seconds(10);
 constexpr auto impatient = std::chrono::milliseconds(100);
 
-// A test against a played portal on a bus of its own.
+// A test with a played portal on a separate bus.
 class PortalTest : public RuntimeTest {
  protected:
-  // Delivers events until `done` says so, which is asked after each of them and every 20 ms. False after five seconds
-  // in vain.
+  // Delivers events until `done` returns true; calls it after each event and every 20 ms. False after five seconds.
   static bool waitUntil(const std::function<bool()>& done) {
     const QDeadlineTimer end(5000);
     QTimer wake;

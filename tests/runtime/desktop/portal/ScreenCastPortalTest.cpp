@@ -27,7 +27,7 @@ class ScreenCastPortalTest : public PortalTest {
     portal->connectPipeWire = [] { return memfd_create("pipewire", 0); };
   }
 
-  // Opens a cast, and forgets what former ones gave.
+  // Opens a cast, and forgets the results of earlier ones.
   void open() {
     result.reset();
     cast->open([this](ScreenCastPortal::Result given) {
@@ -77,7 +77,7 @@ TEST_F(ScreenCastPortalTest, GivesTheMonitorsAndTheConnectionToPipeWire) {
   EXPECT_EQ(options[QStringLiteral("persist_mode")], 1U);
 }
 
-// What the portal does wrong, or can't do, what is made of it, and whether it may be asked for a session.
+// A fault or a limit of the portal, the expected result, and whether the portal may be asked for a session.
 struct Wrong {
   std::string what;
   std::function<void(FakePortal&)> play;
@@ -224,7 +224,7 @@ TEST_F(ScreenCastPortalTest, ReopensWithTheLastTokenWherePortalsHaveTokens) {
   EXPECT_FALSE(portal->options[QStringLiteral("SelectSources")].contains(QStringLiteral("restore_token")));
 }
 
-// Portals before version 0.9 name requests and sessions as they like. The Response comes again and again here.
+// Portals before version 0.9 choose the names of requests and sessions. Here the Response is sent repeatedly.
 TEST_F(ScreenCastPortalTest, FollowsAPortalThatTakesNoTokensInPaths) {
   const auto session = QStringLiteral("/org/freedesktop/portal/desktop/session/s1");
   portal->responses[QStringLiteral("CreateSession")] = {0U, QVariantMap{{QStringLiteral("session_handle"), session}}};
@@ -291,7 +291,7 @@ TEST_F(ScreenCastPortalTest, TellsOnceWhenTheSessionEnds) {
   }
 }
 
-// At each step: what waits for an answer then.
+// The calls that wait for an answer at each step.
 struct Step {
   std::string what;
   std::function<void(FakePortal&)> play;
@@ -330,7 +330,7 @@ TEST_F(ScreenCastPortalTest, FailsIfThePortalOrTheSessionEndsWhileAsking) {
   EXPECT_EQ(std::get<Failure>(*result), Failure::failed);
 }
 
-// The portal's answers to a withdrawn request come late, before those to the next request.
+// The portal's answers to a cancelled request come late, before the answers to the next request.
 TEST_F(ScreenCastPortalTest, TakesTheQuestionBackAtAnyTime) {
   const struct {
     std::string how;

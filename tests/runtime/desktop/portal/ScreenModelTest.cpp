@@ -24,7 +24,7 @@ CastStream somewhere(std::optional<Size> size = {}) {
   return {0, {}, size};
 }
 
-// A picture whose pixels all differ and none of which is black.
+// A picture in which all pixels differ and none is black.
 class Picture {
  public:
   Picture(std::size_t stream, Size size) : number_(static_cast<std::uint32_t>(stream)), size_(size) {

@@ -29,7 +29,7 @@ ScreenProducer::Picture plain(std::uint32_t rgb) {
 
 class ScreenStreamsTest : public RuntimeTest {
  protected:
-  // The streams of monitors of kSize that stand side by side.
+  // Connects to the streams of monitors of kSize that stand side by side.
   void connect(const std::vector<const ScreenProducer*>& monitors) {
     ScreenCast cast{{}, daemon.connect()};
     for (const ScreenProducer* monitor : monitors) {
@@ -42,7 +42,7 @@ class ScreenStreamsTest : public RuntimeTest {
     ASSERT_TRUE(streams);
   }
 
-  // Sends, and waits until it has arrived.
+  // Sends an update and waits until it has arrived.
   void deliver(ScreenProducer& monitor, const ScreenProducer::Update& update) {
     const int before = changes;
     ASSERT_TRUE(monitor.send(update));

@@ -1,4 +1,4 @@
-#include "runtime/desktop/portal/DBusCall.h"
+#include "runtime/desktop/portal/DBus.h"
 
 #include <utility>
 
@@ -30,6 +30,15 @@ std::optional<const QDBusArgument> argumentOf(const QVariant& value, const char*
   const auto argument = value.value<QDBusArgument>();
   if (argument.currentSignature() != QLatin1String(signature)) return std::nullopt;
   return argument;
+}
+
+DBusSignal::DBusSignal(QDBusConnection bus, const Source& source, Receive receive) : receive_(std::move(receive)) {
+  bus.connect(source.sender, source.path, source.interface, source.name, this, SLOT(take(QDBusMessage)));
+}
+
+void DBusSignal::take(const QDBusMessage& message) {
+  const auto receive = receive_;  // a copy, since the call may destroy this object
+  receive(message);
 }
 
 }  // namespace tavrelkin
