@@ -52,6 +52,30 @@ class ProgramWindow {
   xcb_window_t window_;
 };
 
+// The keys, or a menu, have opened the window before.
+class Palette : public ProgramWindow {
+ public:
+  Palette(Session& session, const std::string& title) : ProgramWindow(session, session.waitForWindow(title), 161) {
+    session.bringToFront(window());
+  }
+
+  static ScreenPoint cell(int index) { return {20 + index % 30 * 13 + 6, 7 + index / 30 * 13 + 6}; }
+  ScreenPoint onCell(int index) const { return onScreen(cell(index).x, cell(index).y); }
+  testing::AssertionResult getsCell(std::uint32_t rgb, int index) const {
+    return gets(rgb, cell(index).x, cell(index).y);
+  }
+  testing::AssertionResult put(const std::string& text, std::uint32_t rgb, int index) {
+    session_.bringToFront(window());
+    session_.hand.click(onCell(index));
+    paste(text);
+    return getsCell(rgb, index);
+  }
+  void closeByKeys() {
+    keys("Ctrl+W");
+    EXPECT_TRUE(waitUntil([this] { return title().empty(); }));
+  }
+};
+
 using Pixels = std::vector<std::uint32_t>;  // 0xRRGGBB, row by row
 
 // The expected look of the preview.

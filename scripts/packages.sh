@@ -12,7 +12,7 @@ packages_for() {
     display) echo imagemagick openbox x11-utils x11-xserver-utils xvfb ;;
     test)
       echo at-spi2-core dbus-daemon dbus-session-bus-common gir1.2-atspi-2.0 gir1.2-gtk-3.0 libgmock-dev libgtest-dev \
-        libpipewire-0.3-modules libxcb-res0-dev libxcb-xtest0-dev openbox pipewire-bin python3-gi ruby ruby-color \
+        libpipewire-0.3-modules libxcb-res0-dev libxcb-xtest0-dev openbox pipewire-bin python3-gi \
         x11-xserver-utils xclip xvfb
       ;;
     compositor)

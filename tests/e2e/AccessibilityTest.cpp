@@ -1,11 +1,11 @@
 // The program for a user who can't see the screen, or has no mouse.
 
 #include <algorithm>
-#include <stdexcept>
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "driver/ForeignPrograms.h"
 #include "driver/ToolWindow.h"
 
 namespace tavrelkin::test {
@@ -13,42 +13,15 @@ namespace {
 
 using testing::HasSubstr;
 
-// A session with a message bus and an assistive technology, which receives the program's announcements.
-//
-// The assistive technology obeys these commands; each takes a name or the beginning of a title:
-//
-//   tree TITLE          prints a line for each control in the windows whose title begins so: role, name, description,
-//                       value, and states of interest, separated by "|"
-//   press NAME          presses the control with this name; if there are several, the last one
-//   set NAME VALUE      sets a slider
-//   focus NAME          moves the focus to the control
-//   listen              prints "listening", and then a line for each change that is announced: its kind, and the
-//                       control in the form of "tree"
+// A session with an assistive technology, which receives the program's announcements.
 class AccessibilityTest : public testing::Test {
  protected:
-  AccessibilityTest() { listener_.firstLine(); }
-
-  static std::vector<std::string> assistive(std::vector<std::string> command) {
-    command.insert(command.begin(), {"/usr/bin/python3", "-W", "ignore", TAVRELKIN_ASSISTIVE});
-    return command;
-  }
-
-  // Returns the answer. Throws if what the command names does not exist.
-  std::string ask(const std::vector<std::string>& command) const {
-    Process asking(assistive(command), session_.environment);
-    if (asking.waitForExit() != 0) throw std::runtime_error(command.back() + ": " + asking.errors());
-    return asking.output();
-  }
-
-  testing::AssertionResult hears(const std::string& announcement) const {
-    if (waitUntil([&] { return listener_.output().find(announcement) != std::string::npos; }))
-      return testing::AssertionSuccess();
-    return testing::AssertionFailure() << announcement << " is not among\n" << listener_.output();
-  }
+  std::string ask(const std::vector<std::string>& command) const { return assistive_.ask(command); }
+  testing::AssertionResult hears(const std::string& announcement) const { return assistive_.hears(announcement); }
 
   Session session_{{.messageBus = true}};
   ToolWindow tool_{session_};
-  Process listener_{assistive({"listen"}), session_.environment};
+  Assistive assistive_{session_.environment};
 };
 
 TEST_F(AccessibilityTest, EveryControlSaysWhatItIsAndWhatIsDoneCountsAsTheUsersGesture) {
@@ -112,7 +85,7 @@ TEST_F(AccessibilityTest, APreviewThatFollowsIsToldOfWhenItRests) {
   for (int y = 300; y >= 0; --y)
     session_.hand.moveTo({swatch.x, swatch.y + y});
   EXPECT_TRUE(hears("|Preview|Center: light blue, 112.171.255, #70ABFF|"));
-  const std::string heard = listener_.output();
+  const std::string heard = assistive_.heard();
   EXPECT_LT(std::ranges::count(heard, '\n'), 40) << heard;
 }
 

@@ -5,36 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include "driver/ForeignPrograms.h"
 #include "driver/ToolWindow.h"
 
 namespace tavrelkin::test {
 namespace {
 
 using namespace std::chrono_literals;
-
-// A graphics program with boxes to drag colours from. The first box is the toolkit's own colour button, which also
-// accepts colours; the others only offer them.
-//
-// The program prints "ready" when it can be used, "over" for each of its own drags that has ended in any way, and each
-// colour that the button accepts, with four hexadecimal digits a channel.
-struct ForeignColors {
-  static constexpr ScreenPoint kButton{930, 630};  // #12ABF0
-  static constexpr ScreenPoint kShortColor{990, 630};
-  static constexpr ScreenPoint kLongColorAndText{1050, 630};  // the text is #00C0FF
-  static constexpr ScreenPoint kText{1110, 630};              // #C000FF
-  static constexpr ScreenPoint kFile{930, 690};               // the file's address has two dots
-  static constexpr ScreenPoint kHugeText{990, 690};           // 100 MB, with two dots
-  static constexpr ScreenPoint kSilence{1050, 690};           // a colour and a text that take a minute to come
-
-  explicit ForeignColors(const XServer& server)
-      : process({"/usr/bin/python3", TAVRELKIN_FOREIGN_COLOURS}, server.environment()) {
-    process.firstLine();
-  }
-
-  std::string said() const { return process.output(); }
-
-  Process process;
-};
 
 class ExchangeTest : public UnfoldedToolWindowTest {
  protected:

@@ -20,30 +20,6 @@ std::string bytesOf(const fs::path& file) {
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
-// The keys, or a menu, have opened the window before.
-class Palette : public ProgramWindow {
- public:
-  Palette(Session& session, const std::string& title) : ProgramWindow(session, session.waitForWindow(title), 161) {
-    session.bringToFront(window());
-  }
-
-  static ScreenPoint cell(int index) { return {20 + index % 30 * 13 + 6, 7 + index / 30 * 13 + 6}; }
-  ScreenPoint onCell(int index) const { return onScreen(cell(index).x, cell(index).y); }
-  testing::AssertionResult getsCell(std::uint32_t rgb, int index) const {
-    return gets(rgb, cell(index).x, cell(index).y);
-  }
-  testing::AssertionResult put(const std::string& text, std::uint32_t rgb, int index) {
-    session_.bringToFront(window());
-    session_.hand.click(onCell(index));
-    paste(text);
-    return getsCell(rgb, index);
-  }
-  void closeByKeys() {
-    keys("Ctrl+W");
-    EXPECT_TRUE(waitUntil([this] { return title().empty(); }));
-  }
-};
-
 class FavouritesTest : public ToolWindowTest {
  protected:
   // Saves in the dialog that is opening.
@@ -90,31 +66,6 @@ TEST_F(FavouritesTest, AreMadeWhenAbsentReadWhenEmptyAndKeptWhenSaved) {
   EXPECT_TRUE(again.getsCell(0xFF8000, 2));
   again.keys("Ctrl+S");
   EXPECT_TRUE(waitUntil([&] { return bytesOf(file).size() == 4 + 257 * 10; })) << "one entry more than before";
-}
-
-TEST_F(FavouritesTest, ANewPaletteIsSavedUnderANameOfTheUsersAndColorsAreDraggedFromIt) {
-  tool_.keys("Ctrl+Shift+N");
-  Palette palette(session_, "Untitled Colors");
-  palette.moveTo(600, 60);
-  ASSERT_TRUE(palette.put("#123456", 0x123456, 0));
-  const fs::path target = session_.home.path() / "mine.act";
-  palette.keys("Ctrl+S");
-  saveAs(target);
-  ASSERT_TRUE(palette.getsTitle("mine.act"));
-  EXPECT_EQ(bytesOf(target).substr(0, 14), std::string("\0\1\1\0\0\0\x12\x12\x34\x34\x56\x56\0\0", 14));
-  ASSERT_TRUE(palette.put("#FEDCBA", 0xFEDCBA, 1));
-  palette.keys("Ctrl+S");
-  EXPECT_TRUE(waitUntil([&] { return bytesOf(target).substr(16, 6) == "\xFE\xFE\xDC\xDC\xBA\xBA"; }));
-
-  palette.keys("Ctrl+Shift+N");
-  Palette other(session_, "Untitled Colors");
-  other.moveTo(600, 400);
-  ASSERT_TRUE(other.put("#0A64C8", 0x0A64C8, 40));
-  session_.hand.drag(palette.onCell(1), other.onCell(70));
-  EXPECT_TRUE(other.getsCell(0xFEDCBA, 40)) << "the selected cell takes it";
-  tool_.unfold();
-  session_.hand.drag(palette.onCell(100), tool_.onBar(0, 20));
-  EXPECT_TRUE(tool_.getsTitleOf(0xFEABFF)) << "the colour that was selected before the press";
 }
 
 // The toolkit's dialogs have settings that programs share.

@@ -4,8 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "driver/EventLoop.h"
 #include "driver/Session.h"
-#include "e2e/Eventually.h"
 #include "runtime/desktop/native/NativeDesktop.h"
 #include "runtime/desktop/x11/X11ScreenReader.h"
 

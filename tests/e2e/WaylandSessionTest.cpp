@@ -60,17 +60,6 @@ TEST_F(WaylandSessionTest, FollowsAndPokesOnceTheUserHasAllowedIt) {
   EXPECT_TRUE(tool_.getsTitleOf(playedPixel(7, 0, 1279, 0))) << "without a second question";
 }
 
-TEST_F(WaylandSessionTest, AFirstPokeOnlyAsks) {
-  tool_.keys("Ctrl+Alt+P");
-  ASSERT_TRUE(tool_.paste(0x102030));
-  session_.cast({"pointer 5 6"});
-  const auto takes = [this] {
-    tool_.keys("Ctrl+Alt+P");
-    return tool_.title() == titleOf(playedPixel(0, 0, 5, 6));
-  };
-  EXPECT_TRUE(waitUntil(takes));
-}
-
 // What the desktop does before the program asks, and while the program follows; whether the user then sees a message;
 // and what the desktop does before the user tries again, if that can help.
 struct Ending {

@@ -1,7 +1,10 @@
 // Windows from the program's start to its end, with the keys and the window manager.
 
+#include <chrono>
 #include <functional>
+#include <thread>
 #include <utility>
+#include <vector>
 
 #include <gtest/gtest.h>
 
@@ -70,6 +73,70 @@ TEST_F(WindowsTest, AMinimisedAboutStaysSoUntilTheUserTurnsToAWindowThatWaitsFor
   }
   session_.hand.keys("Ctrl+Q");
   EXPECT_EQ(session_.program.waitForExit(), 0);
+}
+
+// Minimising ends following, so the next use of the command starts it again.
+TEST_F(WindowsTest, FollowingBeginsAgainAfterMinimising) {
+  const ForeignWindow foreign(session_.client, {700, 500, 240, 140});
+  ToolWindow other = openAnother(tool_);
+  for (const ScreenPoint at : {ScreenPoint{820, 570}, ScreenPoint{830, 565}}) {
+    session_.hand.moveTo(at);
+    tool_.keys("Ctrl+F");
+    EXPECT_TRUE(tool_.getsPreview(foreign.previewAt(at))) << at.x;
+    session_.windows.minimise(tool_.window());
+    ASSERT_TRUE(waitUntil([&] { return session_.windows.isMinimised(tool_.window()); }));
+    ASSERT_TRUE(other.paste(0x123456)) << "which tells that the program knows by now";
+  }
+}
+
+constexpr std::uint32_t kGround = 0xCCCCCC;
+
+// The colour controls under mouse and keyboard.
+using BarsTest = UnfoldedToolWindowTest;
+
+// The focus moves from red to hue. The hue bar reads the colour back in its own steps; the blue bar would not show
+// that.
+TEST_F(BarsTest, APressBringsTheKeyboardTheTabulatorMovesItOnAndShortcutsStillWork) {
+  session_.hand.click(tool_.onBar(0, 100));
+  EXPECT_TRUE(waitUntil([this] { return tool_.shows(157, 277) != kGround; })) << "a ring around the bar";
+  session_.hand.keys("Right");
+  EXPECT_TRUE(tool_.getsTitleOf(0x71ABFF)) << "a press beside the indicator changes nothing";
+  session_.hand.click(tool_.onBar(1, 10));
+  session_.hand.keys("Shift+Tab");
+  session_.hand.keys("Left");
+  EXPECT_TRUE(tool_.getsTitleOf(0x71ABFE)) << "blue";
+  session_.hand.keys("Ctrl+C");
+  EXPECT_TRUE(waitUntil([&] { return session_.clipboard.paste() == "#71ABFE"; }));
+  session_.hand.keys("Ctrl+Alt+C");
+  EXPECT_TRUE(waitUntil([&] { return session_.clipboard.paste() == "Color: 113.171.254, 215.55.99, #71ABFE"; }));
+  session_.hand.keys("Ctrl+C");
+  EXPECT_TRUE(waitUntil([&] { return session_.clipboard.paste() == "#71ABFE"; }));
+  session_.hand.keys("Left");
+  EXPECT_TRUE(tool_.getsTitleOf(0x71ABFD));
+  session_.hand.keys("Ctrl+V");
+  EXPECT_TRUE(tool_.getsTitleOf(0x71ABFE)) << "its own clipboard";
+}
+
+// The server repeats the key, and a dialog's button would take the repeat for a press.
+TEST_F(BarsTest, AHeldReturnOpensOneDialog) {
+  session_.hand.press("Return");
+  const xcb_window_t dialog = session_.waitForWindow("Select Color");
+  std::this_thread::sleep_for(std::chrono::milliseconds(1200));
+  session_.hand.release("Return");
+  EXPECT_EQ(session_.windows.titled("Select Color"), std::vector{dialog});
+}
+
+TEST_F(BarsTest, AColorPickedInTheDialogGoesToTheButtonAlone) {
+  session_.clipboard.copy("#12AB34");
+  for (const auto& [lastKey, expected] : {std::pair{"Escape", 0x70ABFFU}, {"Return", 0x12AB34U}}) {
+    tool_.click(28, 16);
+    session_.bringToFront(session_.waitForWindow("Select Color"));
+    for (const char* keys : {"Alt+H", "Ctrl+A", "Ctrl+V", lastKey})
+      session_.hand.keys(keys);
+    ASSERT_TRUE(waitUntil([&] { return session_.windows.titled("Select Color").empty(); }));
+    EXPECT_TRUE(tool_.gets(expected, 28, 16)) << lastKey;
+    EXPECT_EQ(tool_.title(), titleOf(0x70ABFF));
+  }
 }
 
 }  // namespace

@@ -9,8 +9,6 @@
 namespace tavrelkin {
 namespace {
 
-constexpr int kKeyTab = 0x01000001;
-constexpr int kKeyDown = 0x01000015;
 constexpr Color kGrey{0x808080};  // which takes a tint
 
 class frmColorBlindTest : public RuntimeTest {
@@ -69,7 +67,7 @@ TEST_F(frmColorBlindTest, OnlyTheNormalBoxTakesADrop) {
 TEST_F(frmColorBlindTest, AGammaTakesEffectAtTheNextUpdateUnlessItIsNone) {
   window->SetValue(Color{0x336699});
   for (const char* gamma : {"1.70", "1.80", "2.20"}) {
-    gesture::key(window->cmbGamma, kKeyDown);
+    gesture::key(window->cmbGamma, gesture::kKeyDown);
     EXPECT_EQ(window->txtGamma.Text.get(), gamma);
   }
   expectResults(Color{0x336699}, 1.8);
@@ -104,16 +102,6 @@ TEST_F(frmColorBlindTest, TheNormalBoxHasTheKeyboardWheneverTheWindowComesToTheF
   EXPECT_TRUE(waitUntil([&] { return gesture::hasKeyboard(other->cmdColor[0]); }));
   window->Show();
   EXPECT_TRUE(waitUntil([this] { return gesture::hasKeyboard(window->cmdColor[0]); }));
-}
-
-TEST_F(frmColorBlindTest, TheTabulatorKeyVisitsWhatTakesKeys) {
-  auto& box = window->cmdColor;
-  gesture::click(box[1], 10, 10);  // which takes no keyboard by that
-  for (const RectControl* control : std::initializer_list<const RectControl*>{
-           &box[0], &box[1], &box[2], &box[3], &window->cmdUpdate, &window->cmbGamma, &window->txtGamma, &box[0]}) {
-    ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(*control); })) << control->Name() << control->Index;
-    gesture::key(*control, kKeyTab);
-  }
 }
 
 }  // namespace

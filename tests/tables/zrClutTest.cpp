@@ -1,6 +1,5 @@
 // The table, and its files byte for byte, with all in which its readers and writers differ.
 
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 
@@ -163,24 +162,6 @@ TEST_F(SwatchFilesTest, FailuresAreToldAndLeaveTheTable) {
   EXPECT_EQ(fake().messages, messages);
   EXPECT_EQ(table->Index, 9);
   expectRead(*table, 10);
-}
-
-// Debian's ruby-color, another implementation of the format, reads what is written, and what it writes is read.
-TEST_F(SwatchFilesTest, AnotherProgramUnderstandsSwatchesTheSame) {
-  const auto table = New<zrClut>();
-  for (Int32 i = 0; i < 256; ++i)
-    table->SetColor(RGB(i, 255 - i, i * 7 % 256), i);
-  EXPECT_EQ(writtenSwatch(*table).size(), 2564u);
-  folder.write("program.rb", R"(require 'color/palette/adobecolor'
-    read = Color::Palette::AdobeColor.from_file('out')
-    abort read[2].html unless read[2].html == '#02fd0e'
-    File.binwrite('in', read.to_aco)
-  )");
-  ASSERT_EQ(std::system(("cd '" + folder.path("").string() + "' && /usr/bin/ruby program.rb").c_str()), 0);
-  const auto back = New<zrClut>();
-  EXPECT_TRUE(back->ReadSwatch(folder.item("in")));
-  for (Int32 i = 0; i < 256; ++i)
-    EXPECT_EQ(back->getColor(i), table->getColor(i)) << i;
 }
 
 }  // namespace

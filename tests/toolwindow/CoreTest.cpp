@@ -10,9 +10,6 @@
 namespace tavrelkin {
 namespace {
 
-constexpr int kKeyTab = 0x01000001;
-constexpr int kKeyLeft = 0x01000012;
-
 using CoreTest = ToolWindowTest;
 
 TEST_F(CoreTest, OpensIdleAtTheStartColor) {
@@ -24,12 +21,6 @@ TEST_F(CoreTest, OpensIdleAtTheStartColor) {
   EXPECT_EQ(firstFault([](Int32, Int32) { return kWhite; }), "");
 }
 
-TEST_F(CoreTest, ItsControlsAreFoundByNameAndIndex) {
-  EXPECT_EQ(window->control("cmdMixer", 3), &window->cmdMixer[3]);
-  EXPECT_EQ(window->control("slZoom"), &window->slZoom);
-  EXPECT_EQ(window->control("slZoom", 1), nullptr);
-}
-
 TEST_F(CoreTest, TheTabulatorVisitsWhatTakesKeysAndIsInSight) {
   auto& bar = window->cmdMixer;
   const auto visits = [this](const std::vector<const RectControl*>& order) {
@@ -37,7 +28,7 @@ TEST_F(CoreTest, TheTabulatorVisitsWhatTakesKeysAndIsInSight) {
     ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(window->cmdColor); }));
     for (const RectControl* next : order) {
       EXPECT_TRUE(gesture::hasKeyboard(*next)) << next->Name() << " " << next->Index;
-      gesture::key(*next, kKeyTab);
+      gesture::key(*next, gesture::kKeyTab);
     }
     EXPECT_TRUE(gesture::hasKeyboard(window->cmdColor)) << "from the last to the first";
   };
@@ -123,7 +114,7 @@ TEST_F(CoreTest, ABarChangesTheColorWhenTheHandLetsGoAndTheTipGoesASecondAfterTh
   EXPECT_FALSE(window->rTIP.Visible);
   EXPECT_FALSE(fake().nextAlarm());
   EXPECT_EQ(window->SelectedColor, Color{0x70FFFF});
-  gesture::key(green, kKeyLeft);
+  gesture::key(green, gesture::kKeyLeft);
   EXPECT_EQ(window->SelectedColor, Color{0x70FEFF});
 }
 

@@ -14,10 +14,6 @@ namespace {
 
 using Colors = std::vector<Color>;
 
-constexpr int kKeyReturn = 0x01000004;
-constexpr int kKeyRight = 0x01000014;
-constexpr int kKeyDown = 0x01000015;
-
 // A picture of these colours, column by column, and of black behind them.
 Ref<Picture> pictureOf(const Colors& colors, Int32 width, Int32 height) {
   Ref<Picture> picture = NewPicture(width, height, 32);
@@ -171,15 +167,16 @@ TEST_F(ViewsTest, OneAtATimeExceptWhileFollowing) {
 TEST_F(ViewsTest, KeysMarkACellAndTakeItOrThePixelUnderThePointer) {
   fake().pointerAt = {40, 50};
   choose("mnuViewSuggestions");
-  gesture::key(window->imgScreen, kKeyReturn);
+  gesture::key(window->imgScreen, gesture::kKeyReturn);
   EXPECT_EQ(window->SelectedColor, colorAt(40, 50)) << "no cell is marked";
-  const std::tuple<std::vector<int>, std::size_t> rows[] = {{{kKeyRight}, 0}, {{kKeyRight, kKeyDown, kKeyRight}, 17}};
+  const std::tuple<std::vector<int>, std::size_t> rows[] = {
+      {{gesture::kKeyRight}, 0}, {{gesture::kKeyRight, gesture::kKeyDown, gesture::kKeyRight}, 17}};
   for (const auto& [keys, cell] : rows) {
     const Color taken = suggestionsFor(window->SelectedColor).at(cell);
     choose("mnuViewSuggestions");
     for (const int key : keys)
       gesture::key(window->imgScreen, key);
-    gesture::key(window->imgScreen, kKeyReturn);
+    gesture::key(window->imgScreen, gesture::kKeyReturn);
     EXPECT_EQ(window->SelectedColor, taken) << cell;
   }
 }

@@ -3,6 +3,9 @@
 #include <functional>
 #include <string>
 
+#include <QImage>
+#include <QMenu>
+#include <QMenuBar>
 #include <QWidget>
 
 #include "fakes/Gestures.h"
@@ -34,6 +37,10 @@ class Host : public Window {
   ~Host() override { log += "gone "; }
   void AddMenuHandlers() override {
     addMenuHandler("close", [this] { return closeAndGoOn(); });
+    addMenuHandler("mark", [this] {
+      log += "marked ";
+      return true;
+    });
   }
   void Event_Open() override { log += "window "; }
   void Event_Close() override { log += "close "; }
@@ -64,6 +71,7 @@ class WindowTest : protected Log, public RuntimeTest {
   WindowTest() {
     const Ref<MenuItem> menu = New<MenuItem>("menu", "Menu");
     menu->Append(New<MenuItem>("close", "Close", "Cmd+W"));
+    menu->Append(mark);
     Application::current().MenuBar = New<MenuBar>();
     Application::current().MenuBar->Append(menu);
   }
@@ -75,6 +83,8 @@ class WindowTest : protected Log, public RuntimeTest {
     log.clear();
     return window;
   }
+
+  const Ref<MenuItem> mark = New<MenuItem>("mark", "Mark", "Cmd+M");
 };
 
 TEST_F(WindowTest, OpenComesForTheControlsInTheirOrderThenForTheWindow) {
@@ -117,6 +127,22 @@ TEST_F(WindowTest, ReturnPressesTheButtonThatHasTheKeyboardAndEscapeLeavesAModal
   const Ref<Host> other = open();
   gesture::key(other->button, Qt::Key_Escape);
   EXPECT_EQ(log, "") << "no other window";
+}
+
+TEST_F(WindowTest, AMenuItemThatIsUnmarkedAgainLooksAsBefore) {
+  const Ref<Host> host = open();
+  QMenu& menu = *host->native().findChild<QMenuBar*>()->actions().constFirst()->menu();
+  const QImage unmarked = menu.grab().toImage();
+  mark->Checked = true;
+  EXPECT_NE(menu.grab().toImage(), unmarked);
+  mark->Checked = false;
+  EXPECT_EQ(menu.grab().toImage(), unmarked);
+}
+
+TEST_F(WindowTest, AKeyThatIsHeldChoosesAMenuItemOnce) {
+  const Ref<Host> host = open();
+  gesture::holdShortcut(*host, "Cmd+M", 3);
+  EXPECT_EQ(log, "marked ");
 }
 
 TEST_F(WindowTest, TheContentHasTheWindowsSizeBelowTheMenuBar) {

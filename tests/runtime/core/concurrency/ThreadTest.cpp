@@ -4,8 +4,8 @@
 #include <string>
 
 #include "fakes/RuntimeTest.h"
+#include "fakes/Worker.h"
 #include "runtime/core/concurrency/Timer.h"
-#include "runtime/core/concurrency/Worker.h"
 #include "runtime/desktop/Fiber.h"
 
 namespace tavrelkin {

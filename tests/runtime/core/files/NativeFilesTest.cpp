@@ -1,25 +1,15 @@
 // The machine's own save dialog, driven by hand as far as the offscreen platform allows, and the folder for data.
 
 #include <filesystem>
-#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
-#include <QApplication>
-#include <QDialogButtonBox>
-#include <QFileDialog>
-#include <QFileSystemModel>
-#include <QLineEdit>
-#include <QListView>
-#include <QMessageBox>
-#include <QPushButton>
-#include <QTimer>
-
 #include <gtest/gtest.h>
 
+#include "fakes/DialogUser.h"
 #include "fakes/TemporaryFolder.h"
 #include "runtime/desktop/native/NativeDesktop.h"
 
@@ -27,6 +17,7 @@ namespace tavrelkin {
 namespace {
 
 namespace fs = std::filesystem;
+using namespace dialog;
 
 // The desktop keeps its data in the user's folders, here temporary ones.
 class NativeFilesTest : public ::testing::Test {
@@ -35,63 +26,6 @@ class NativeFilesTest : public ::testing::Test {
 
   const TemporaryFolder home;
   const std::unique_ptr<Desktop> desktop = makeNativeDesktop();
-};
-
-QLineEdit& fieldOf(const QFileDialog& dialog) {
-  return *dialog.findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
-}
-
-using Act = std::function<void(const QFileDialog&)>;
-
-Act type(const std::string& text) {
-  return [text](const QFileDialog& dialog) {
-    fieldOf(dialog).selectAll();
-    fieldOf(dialog).insert(QString::fromStdString(text));
-  };
-}
-
-Act select(const std::string& path) {
-  return [path](const QFileDialog& dialog) {
-    const auto* const list = dialog.findChild<QListView*>(QStringLiteral("listView"));
-    const QModelIndex item = qobject_cast<QFileSystemModel*>(list->model())->index(QString::fromStdString(path));
-    list->selectionModel()->setCurrentIndex(item, QItemSelectionModel::Select | QItemSelectionModel::Rows);
-  };
-}
-
-void save(const QFileDialog& dialog) {
-  dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
-}
-
-// Does one act after the other, answers questions with no, and gives up in the end.
-struct User {
-  explicit User(std::vector<Act> steps) : acts(std::move(steps)) { plan(); }
-
-  // The next act is planned first, since a question comes, and has to be answered, within the act that raises it.
-  void plan() {
-    QTimer::singleShot(0, &hand, [this] {
-      plan();
-      act();
-    });
-  }
-
-  void act() {
-    auto* const front = QApplication::activeModalWidget();
-    if (auto* const question = qobject_cast<QMessageBox*>(front)) {
-      ++questions;
-      return question->reject();
-    }
-    auto* const dialog = qobject_cast<QFileDialog*>(front);
-    if (!dialog) return;
-    if (next == 0) begunWith = fieldOf(*dialog).text().toStdString();
-    if (next == acts.size()) return dialog->reject();
-    acts[next++](*dialog);
-  }
-
-  std::vector<Act> acts;
-  std::size_t next = 0;
-  std::string begunWith;
-  int questions = 0;
-  QObject hand;
 };
 
 TEST_F(NativeFilesTest, TheSaveDialogTakesWhatStandsInItsField) {

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "fakes/RuntimeTest.h"
-#include "runtime/core/concurrency/Worker.h"
+#include "fakes/Worker.h"
 
 namespace tavrelkin {
 namespace {

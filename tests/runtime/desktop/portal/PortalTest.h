@@ -1,12 +1,8 @@
 #pragma once
 
 #include <chrono>
-#include <functional>
 #include <optional>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
-#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -23,18 +19,6 @@ constexpr auto impatient = std::chrono::milliseconds(100);
 // A test with a played portal on a separate bus.
 class PortalTest : public RuntimeTest {
  protected:
-  // Delivers events until `done` returns true; calls it after each event and every 20 ms. False after five seconds.
-  static bool waitUntil(const std::function<bool()>& done) {
-    const QDeadlineTimer end(5000);
-    QTimer wake;
-    wake.start(20);
-    while (!done()) {
-      if (end.hasExpired()) return false;
-      QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    return true;
-  }
-
   MessageBus bus;
   std::optional<FakePortal> portal;
   BusConnection connection{bus.address()};

@@ -108,21 +108,6 @@ TEST_F(ScreenStreamsTest, TellsTheEventLoopOnce) {
   EXPECT_TRUE(waitUntil([this] { return changes == 2; }));
 }
 
-TEST_F(ScreenStreamsTest, JoinsMonitors) {
-  ScreenProducer left(daemon, kSize);
-  ScreenProducer right(daemon, kSize);
-  connect({&left, &right});
-  deliver(left, {.picture = plain(0x0000AA), .pointer = {64, 7}});
-  EXPECT_FALSE(streams->waitForFrames(0ms));
-  EXPECT_FALSE(pointer()) << "the border is the neighbour's";
-  deliver(right, {.picture = plain(0x0000BB), .pointer = {0, 7}});
-  EXPECT_TRUE(streams->waitForFrames(kLong));
-  deliver(left, {.cursorId = 0});
-  EXPECT_EQ(pointer(), (ScreenPoint{64, 7}));
-  EXPECT_EQ(pixel({63, 7}), 0xAAU);
-  EXPECT_EQ(pixel({64, 7}), 0xBBU);
-}
-
 TEST_F(ScreenStreamsTest, ReceivesNothingWhileInactive) {
   ScreenProducer monitor(daemon, kSize);
   connect({&monitor});
