@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 
 #include <gtest/gtest.h>
 
@@ -34,6 +35,11 @@ class RuntimeTest : public ::testing::Test {
  private:
   FakeDesktop* fake_;
   Ref<Application> application_;
+};
+
+// The first base class of a test whose windows write in a log to the last: it outlives them.
+struct Log {
+  std::string log;
 };
 
 }  // namespace tavrelkin

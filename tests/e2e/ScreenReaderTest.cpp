@@ -204,10 +204,14 @@ TEST_F(ScreenReaderTest, FollowsTheSizeOfTheScreen) {
   }
 }
 
-TEST_F(ScreenReaderTest, GivesBackItsConnection) {
+TEST_F(ScreenReaderTest, NeedsADisplayAndGivesBackItsConnection) {
   // This is more than a server accepts at a time.
   for (int i = 0; i < 600; ++i)
     ASSERT_TRUE(makeX11ScreenReader({})) << i;
+  const QByteArray display = qgetenv("DISPLAY");
+  qputenv("DISPLAY", ":6543");
+  EXPECT_FALSE(makeX11ScreenReader({}));
+  qputenv("DISPLAY", display);
 }
 
 }  // namespace

@@ -104,5 +104,15 @@ TEST_F(frmColorBlindTest, TheNormalBoxHasTheKeyboardWheneverTheWindowComesToTheF
   EXPECT_TRUE(waitUntil([this] { return gesture::hasKeyboard(window->cmdColor[0]); }));
 }
 
+TEST_F(frmColorBlindTest, TheTabulatorKeyVisitsWhatTakesKeys) {
+  auto& box = window->cmdColor;
+  gesture::click(box[1], 10, 10);  // which takes no keyboard by that
+  for (const RectControl* control : std::initializer_list<const RectControl*>{
+           &box[0], &box[1], &box[2], &box[3], &window->cmdUpdate, &window->cmbGamma, &window->txtGamma, &box[0]}) {
+    ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(*control); })) << control->Name() << control->Index;
+    gesture::key(*control, gesture::kKeyTab);
+  }
+}
+
 }  // namespace
 }  // namespace tavrelkin

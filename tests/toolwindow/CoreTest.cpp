@@ -23,6 +23,7 @@ TEST_F(CoreTest, OpensIdleAtTheStartColor) {
 
 TEST_F(CoreTest, TheTabulatorVisitsWhatTakesKeysAndIsInSight) {
   auto& bar = window->cmdMixer;
+  EXPECT_EQ(window->control("cmdMixer", 3), &bar[3]);
   const auto visits = [this](const std::vector<const RectControl*>& order) {
     window->cmdColor.SetFocus();
     ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(window->cmdColor); }));

@@ -61,11 +61,6 @@ class Host : public Window {
   PushButton button{*this, "button"};
 };
 
-// Outlives the windows, which write in it to the last.
-struct Log {
-  std::string log;
-};
-
 class WindowTest : protected Log, public RuntimeTest {
  protected:
   WindowTest() {

@@ -32,11 +32,6 @@ class Host : public Worker {
   Timer timer{*this, "timer"};
 };
 
-// Outlives the windows, which write in it to the last.
-struct Log {
-  std::string log;
-};
-
 class ThreadTest : protected Log, public RuntimeTest {
  protected:
   Ref<Host> window = New<Host>(log);
