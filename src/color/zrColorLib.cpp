@@ -8,17 +8,8 @@ namespace tavrelkin {
 
 namespace {
 
-String hexPair(Int32 channel) {
-  const String digits = Hex(channel);
-  return digits.size() == 1 ? "0" + digits : digits;
-}
-
 Int32 hexChannel(const String& digits, Int32 start, Int32 length) {
   return toInt32(Val("&h" + Mid(digits, start, length)));
-}
-
-Int32 decimalChannel(const String& text, Int32 field) {
-  return toInt32(Val(NthField(text, ",", field)));
 }
 
 Int32 nearestStep(Int32 channel) {
@@ -45,7 +36,7 @@ bool isWebSafe(Color c) {
 void InitializeSupport() {}
 
 String getRGBStr(Color c) {
-  return Str(c.red()) + ", " + Str(c.green()) + ", " + Str(c.blue());
+  return colorDataOf(c);
 }
 
 String getDottedStr(Color c) {
@@ -57,7 +48,7 @@ String getDottedAndHexStr(Color c) {
 }
 
 String getHexStr(Color c) {
-  return hexPair(c.red()) + hexPair(c.green()) + hexPair(c.blue());
+  return HexPair(c.red()) + HexPair(c.green()) + HexPair(c.blue());
 }
 
 String getStdColorString(Color c) {
@@ -78,7 +69,7 @@ Color getColorFromHex(const String& text) {
 }
 
 Color getColorFromRGB(const String& text) {
-  return RGB(decimalChannel(text, 1), decimalChannel(text, 2), decimalChannel(text, 3));
+  return colorOfData(text);
 }
 
 bool getColorFromString(const String& text, Color& out) {

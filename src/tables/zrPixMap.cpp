@@ -132,8 +132,7 @@ String zrPixMap::int_ENC(Int32 n) const {
 }
 
 String zrPixMap::int_Hex(Int32 n) const {
-  const String digits = Hex(n);
-  return Len(digits) < 2 ? "0" + digits : digits;
+  return HexPair(n);
 }
 
 String zrPixMap::getPixMapData() const {

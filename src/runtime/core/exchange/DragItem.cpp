@@ -4,6 +4,15 @@
 
 namespace tavrelkin {
 
+String colorDataOf(Color c) {
+  return Str(c.red()) + ", " + Str(c.green()) + ", " + Str(c.blue());
+}
+
+Color colorOfData(const String& payload) {
+  const auto channel = [&payload](Int32 field) { return toInt32(Val(NthField(payload, ",", field))); };
+  return RGB(channel(1), channel(2), channel(3));
+}
+
 bool DragItem::MacDataAvailable(std::string_view type) const {
   return payloads_.contains(type);
 }

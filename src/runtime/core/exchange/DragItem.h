@@ -8,12 +8,17 @@
 #include <vector>
 
 #include "runtime/core/base/Ref.h"
+#include "runtime/core/drawing/Color.h"
 #include "runtime/core/text/Text.h"
 
 namespace tavrelkin {
 
 // The type of a payload that is a colour, such as "255, 128, 0". Other programs get and send it as application/x-color.
 constexpr auto kColorData = "hcol";
+// The payload of a colour, and the colour of a payload. Three numbers are read, with commas between them: fractions are
+// dropped, a missing number is 0, and a number below 0 or above 255 counts as 0 or 255.
+String colorDataOf(Color c);
+Color colorOfData(const String& payload);
 
 // What a drag carries from one control to another: any number of private payloads, each with a four-character type, and
 // a plain text. The case of a type counts.

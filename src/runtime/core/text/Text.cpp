@@ -90,6 +90,11 @@ String Hex(Int32 value) {
   return Uppercase({digits.data(), result.ptr});
 }
 
+String HexPair(Int32 value) {
+  const String digits = Hex(value);
+  return digits.size() == 1 ? "0" + digits : digits;
+}
+
 String Format(Double value, std::string_view mask) {
   constexpr Double most = std::numeric_limits<Double>::max();
   const Double whole = std::isnan(value) ? 0 : std::round(std::clamp(value, -most, most));

@@ -24,6 +24,8 @@ String Str(Int32 value);
 // The number in upper-case hexadecimal, without leading zeros. A negative number is shown as its 32 bits in two's
 // complement.
 String Hex(Int32 value);
+// The same with at least two digits.
+String HexPair(Int32 value);
 // The number at the beginning of the text, after any blanks; 0 if there is no number. The rest of the text is ignored.
 // A number is an optional sign, digits with an optional decimal point, and an optional exponent; or "&h" (in any case)
 // and hexadecimal digits, without a sign. A number that is too large gives the greatest Double, never infinity.

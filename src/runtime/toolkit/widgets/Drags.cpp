@@ -28,13 +28,8 @@ constexpr auto kPrivatePrefix = "application/x-tavrelkin-";
 constexpr auto kDesktopColor = "application/x-color";
 constexpr auto kPlainText = "text/plain;charset=utf-8";  // a type that Qt doesn't recognise as text
 
-QColor toColor(const String& triple) {
-  const auto channel = [&triple](Int32 n) { return toInt32(Val(NthField(triple, ",", n))); };
-  return toQt(RGB(channel(1), channel(2), channel(3)));
-}
-
-String toTriple(const QColor& c) {
-  return Str(c.red()) + ", " + Str(c.green()) + ", " + Str(c.blue());
+String payloadOf(const QColor& c) {
+  return colorDataOf(RGB(c.red(), c.green(), c.blue()));
 }
 
 // The data of a drag, by type. This base class is for a drag whose data can't be read yet: each type holds an empty
@@ -55,7 +50,7 @@ struct Held final : Content {
   std::optional<String> bytes(const QString& type) const override { return data.data(type).toStdString(); }
   std::optional<String> color() const override {
     const auto c = qvariant_cast<QColor>(data.colorData());
-    return c.isValid() ? std::optional(toTriple(c)) : std::nullopt;
+    return c.isValid() ? std::optional(payloadOf(c)) : std::nullopt;
   }
   std::optional<String> text() const override {
     return fromQt(data.hasText() ? data.text() : QString::fromUtf8(data.data(kPlainText)));
@@ -73,7 +68,7 @@ struct Sent final : Content {
     const auto sent = offer.bytes(kDesktopColor);
     if (!sent || sent->size() != sizeof channels) return std::nullopt;
     std::memcpy(channels.data(), sent->data(), sizeof channels);
-    return toTriple(QColor::fromRgba64(channels[0], channels[1], channels[2], channels[3]));
+    return payloadOf(QColor::fromRgba64(channels[0], channels[1], channels[2], channels[3]));
   }
   std::optional<String> text() const override { return offer.text(); }
   Offer& offer;
@@ -113,7 +108,7 @@ std::unique_ptr<QMimeData> toMime(const DragItem& item) {
   for (const String& type : item.MacDataTypes()) {
     data->setData(QLatin1String(kPrivatePrefix) + toQt(type), QByteArray::fromStdString(item.MacData(type)));
   }
-  if (item.MacDataAvailable(kColorData)) data->setColorData(toColor(item.MacData(kColorData)));
+  if (item.MacDataAvailable(kColorData)) data->setColorData(toQt(colorOfData(item.MacData(kColorData))));
   if (item.TextAvailable()) data->setText(toQt(item.Text()));
   return data;
 }
