@@ -21,14 +21,14 @@ class Alarm {
   Alarm& operator=(const Alarm&) = delete;
   virtual ~Alarm() = default;
 
-  // Asks for the call after `delay`; it replaces any earlier request. With a delay of zero or less, the call comes as
-  // soon as the event loop has nothing else to do.
+  // Schedules the call after `delay`, in place of any call that was scheduled before. With a delay of zero or less, the
+  // call comes as soon as the event loop has nothing else to do.
   virtual void set(std::chrono::nanoseconds delay) = 0;
   virtual void cancel() = 0;
 };
 
-// Everything that differs between machines, or that a test must play. The runtime reaches the machine only through this
-// interface and through the widgets of the toolkit.
+// Everything that differs between machines, or that a test must simulate. The runtime reaches the machine only through
+// this interface and through the widgets of the toolkit.
 class Desktop {
  public:
   using TimePoint = std::chrono::steady_clock::time_point;
@@ -68,8 +68,9 @@ class Desktop {
   // even if that fails. Empty if the desktop has no such place.
   virtual std::string applicationDataFolder() = 0;
 
-  // What another program has put on the clipboard, and what another program's drag carries while its drop on a window
-  // of this program is being handled. Null if the data must be read through the toolkit.
+  // clipboardOffer() is the data that another program has put on the clipboard. dropOffer() is the data of another
+  // program's drag, while its drop on a window of this program is being handled. Null if the data must be read through
+  // the toolkit.
   virtual std::unique_ptr<Offer> clipboardOffer() { return nullptr; }
   virtual std::unique_ptr<Offer> dropOffer() { return nullptr; }
 };

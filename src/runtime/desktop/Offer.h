@@ -21,9 +21,9 @@ class Offer {
   Offer& operator=(const Offer&) = delete;
   virtual ~Offer() = default;
 
-  // The bytes of the MIME type `type`, or of a type with another kind of name that the desktop uses. Nothing if the
-  // type is not offered, or its data exceed a bound. After a read that exceeds a bound, all later reads of this offer
-  // return nothing.
+  // The bytes of the type `type`: a MIME type, or a type name of the desktop, such as "UTF8_STRING" on X11. Nothing if
+  // the type is not offered, or its data exceed a bound. After a read that exceeds a bound, all later reads of this
+  // offer return nothing.
   virtual std::optional<std::string> bytes(const std::string& type) = 0;
 
   // The plain text as well-formed UTF-8; nothing in the same cases as for bytes().

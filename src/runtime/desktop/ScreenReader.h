@@ -34,9 +34,9 @@ class ScreenReader {
 
   virtual ScreenState state() const { return ScreenState::live; }
 
-  // Asks the desktop for the screen if that takes the user's permission. The user is asked once in a run. Returns at
-  // once; state() is `asking` then. Does nothing while the screen can be read or is being asked for. If the request
-  // fails, one message to the user says why.
+  // Asks the desktop for the screen if reading it requires the user's permission. The user is asked once in a run.
+  // Returns at once; state() is `asking` then. Does nothing while the screen can be read or is being asked for. If the
+  // request fails, one message to the user says why.
   //
   // On some desktops a program can't read the screen, but the user can pick a single colour with a click. On these,
   // request() lets the user pick a colour and passes it to `picked`, as 0xRRGGBB, from the event loop. Without
@@ -44,8 +44,8 @@ class ScreenReader {
   using Picked = std::function<void(std::uint32_t)>;
   virtual void request(const Picked& /*picked*/ = {}) {}
 
-  // Forgets the `picked` of the request that is under way: it is not called any more. This lets a caller release in
-  // time what `picked` holds.
+  // Forgets the `picked` of the request that is under way: it is not called any more. A caller can use this to release
+  // the objects that `picked` holds.
   virtual void dropRequest() {}
 
   // Whether the user can pick single colours although state() is `unavailable`; see request().
@@ -55,13 +55,13 @@ class ScreenReader {
   // begins, so it must be cheap.
   virtual void beginTurn() {}
 
-  // The pixel at `at` as 0xRRGGBB, from whichever window shows there. Black outside the screen. Within one turn the
-  // pixels may come from one capture, which is never more than a few milliseconds old. While state() is neither live
-  // nor idle, the result is a pattern of greys that nobody takes for the screen.
+  // The pixel at `at` as 0xRRGGBB, whichever program's window is visible there. Black outside the screen. Within one
+  // turn the pixels may come from one capture, which is never more than a few milliseconds old. While state() is
+  // neither live nor idle, the result is a pattern of greys that can't be mistaken for the screen.
   virtual std::uint32_t pixel(ScreenPoint at) = 0;
 
   // Where the pointer is, even if another program is in front. While a press, a release or a key is being handled, it
-  // is the position at the time of that event; finding it out may take up to 100 ms.
+  // is the position at the time of that event; the call may then block for up to 100 ms.
   virtual ScreenPoint pointer() = 0;
 
   // Calls `changed` from the event loop soon after each movement of the pointer anywhere on the screen, after each
@@ -69,7 +69,7 @@ class ScreenReader {
   // setting, turns this off. The calls wake the process, so a program that is idle should turn them off.
   virtual void watch(std::function<void()> changed) = 0;
 
-  // Whether watch() reports each change on the screen, so that nobody needs to poll it.
+  // Whether watch() reports each change on the screen, so that no polling is needed.
   virtual bool tellsEachChange() const { return false; }
 
   // Whether the Option key (Alt or AltGr) is held down now.

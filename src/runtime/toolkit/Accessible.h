@@ -5,16 +5,16 @@
 
 namespace tavrelkin {
 
-// What a canvas is to assistive technologies. A slider has whole numbers. The cells of a list can be selected, those of
-// a picture can be pressed.
+// What a canvas is to assistive technologies. The values of a slider are whole numbers. The cells of a list can be
+// selected, those of a picture can be pressed.
 enum class AccessibleRole { slider, button, picture, list };
 
 // The part of an Accessible that has changed. Changes of descriptions and cells are announced when no more follow for a
 // moment.
 enum class AccessibleChange { value, description, currentCell, cells };
 
-// How a canvas presents itself to assistive technologies. Nothing here is called while none of them runs. What they do
-// counts as the user's gesture, and raises the same events as a key.
+// How a canvas presents itself to assistive technologies. These functions are called only while an assistive technology
+// runs. Its actions count as actions of the user, and raise the same events as a key.
 class Accessible {
  public:
   // A part of the canvas with a name of its own. Its rectangle is in the canvas's pixels.

@@ -47,8 +47,8 @@ class Canvas : public RectControl, private DrawingObserver {
   // For drawing on the surface at any time. Reading a pixel gives what was drawn.
   tavrelkin::Graphics& Graphics() { return graphics_; }
 
-  // Erases the surface, draws the backdrop and raises Paint. `now` shows the result on the screen before this returns;
-  // otherwise the event loop shows it.
+  // Erases the surface, draws the backdrop and raises Paint. If `now` is true, the result is on the screen before
+  // Refresh returns; otherwise the event loop shows it later.
   void Refresh(bool now) override;
 
   // Sets how the canvas presents itself to assistive technologies. At first it is a picture without cells.
@@ -58,12 +58,12 @@ class Canvas : public RectControl, private DrawingObserver {
   void announce(AccessibleChange change);
 
   // The events, for the host. x and y are in pixels from the canvas's top left corner; during a drag they may lie
-  // outside of it. MouseDrag and MouseUp come only where MouseDown has returned true. MouseMove comes while no button
-  // is held.
+  // outside of it. MouseDrag and MouseUp come only after a MouseDown that has returned true. MouseMove comes while no
+  // button is held.
   //
   // KeyDown gets the key as one byte; true keeps the key from the rest of the window. It comes for characters and
-  // arrows, and not for Tab and Shift+Tab, which only move the focus. A key that presses a button raises one KeyDown
-  // while it is held. DropObject comes only for what the canvas accepts; its `action` is 0.
+  // arrows, and not for Tab and Shift+Tab, which only move the focus. The space bar, Return and Enter raise only one
+  // KeyDown while they are held. DropObject comes only for what the canvas accepts; its `action` is 0.
   Event<void()> Open;
   Event<void(tavrelkin::Graphics* g)> Paint;
   Event<bool(Int32 x, Int32 y)> MouseDown;

@@ -30,7 +30,7 @@ class RectControl : public Control {
   // The tip that appears while the pointer rests on the control. "\r" begins a new line.
   Property<String> HelpTag;
 
-  // The name of the control for assistive technologies, if its own text doesn't say it.
+  // The name of the control for assistive technologies, if the control's own text does not name it.
   Property<String> AccessibleName;
 
   // Whether a press (AcceptFocus) or the Tab key (TabStop) gives the control the keyboard focus. SetFocus always does.
@@ -54,7 +54,7 @@ class RectControl : public Control {
   // Whether the control accepts a drop of the item.
   bool accepts(const DragItem& item) const;
 
-  // Repaints the control: `now`, or later from the event loop.
+  // Repaints the control: at once if `now` is true, otherwise later from the event loop.
   virtual void Refresh(bool now);
 
   // The toolkit's widget of the control. Only for use within the runtime.

@@ -47,8 +47,9 @@ class Window : public ControlOwner {
   // The menus that the window shows. If nil, the shortcuts of the application's menu bar work in the window.
   Property<Ref<tavrelkin::MenuBar>> MenuBar;
 
-  // Opens the window, or brings an open window to the front. Unblocks it. A modal window blocks all windows that are
-  // open now until it is closed. The user's input to a blocked window brings the modal window to the front.
+  // Opens the window, or brings an open window to the front. If a modal window blocks this window, the block ends. If
+  // this window is modal, it blocks all windows that are open now until it is closed. The user's input to a blocked
+  // window brings the modal window to the front.
   void Show();
 
   // Calls Event_Close and closes the window. Does nothing if the window isn't open. May be called from the window's own

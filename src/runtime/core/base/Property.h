@@ -6,7 +6,7 @@
 namespace tavrelkin {
 
 // A value that is read and written like a plain member. Each write calls a hook of its owner. There is no copy
-// constructor, so `auto` can't copy the property by mistake for its value.
+// constructor, so `auto x = property` does not compile: it would copy the property instead of its value.
 template <class T>
 class Property {
  public:
@@ -27,8 +27,8 @@ class Property {
   const T& get() const { return value_; }
   const T& operator->() const { return value_; }
 
-  // Stores a value without calling the hook. For a value that is already on screen, such as that of a slider that the
-  // user has moved.
+  // Stores a value without calling the hook. For a value that the screen already shows, such as the value of a slider
+  // that the user has moved.
   void store(T value) { value_ = std::move(value); }
 
  private:

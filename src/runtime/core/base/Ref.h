@@ -25,7 +25,8 @@ class Object {
  protected:
   Object() = default;
 
-  // New() calls this after the most derived constructor. Virtual functions reach every override then.
+  // New() calls this after the most derived constructor. At that time virtual calls reach the overrides of the most
+  // derived class.
   virtual void constructed() {}
 
  private:
@@ -34,7 +35,8 @@ class Object {
   template <class T, class... Args>
   friend Ref<T> New(Args&&... args);
 
-  // Starts at 1, for the reference that New() returns. So a constructor can make references to its own object.
+  // Starts at 1, for the reference that New() returns. So a constructor can make and drop references to its own object
+  // without deleting it.
   std::size_t references_ = 1;
 };
 

@@ -2,9 +2,9 @@
 
 namespace tavrelkin {
 
-// The yield. In a thread it suspends the thread when its turn is over. On the main thread it gives another thread a
-// turn when the main thread has worked for long. Otherwise it returns at once. It never delivers events, so no handler
-// starts while another one runs.
+// Yields the processor to other threads of the program. A thread is suspended if its turn is over. The main thread
+// gives another thread a turn if it has worked for Scheduler::kTurn or longer. In all other cases the function returns
+// at once. It never delivers events, so no handler starts while another one runs.
 void RuntimeBackgroundTask();
 
 }  // namespace tavrelkin

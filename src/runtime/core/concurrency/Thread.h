@@ -10,16 +10,16 @@ class Thread : public Control {
  public:
   Thread(ControlOwner& owner, String name);
 
-  // Without effect, since all threads get the same turns. Windows set it as part of their design.
+  // Has no effect: all threads get equal turns. Windows set it as part of their design.
   Int32 Priority = 5;
-  // The size of the stack in bytes; 0 or less is the default of 1 MiB. Run() reads it.
+  // The size of the stack in bytes; 0 or less means the default of 1 MiB. A change takes effect with the next Run().
   Int32 StackSize = 0;
 
   // Starts the thread; its first turn comes when the event loop is idle. The thread keeps its window alive until it
   // ends. Does nothing while the thread runs.
   void Run();
 
-  // Ends the thread where it stands and unwinds its stack. Does nothing if the thread does not run.
+  // Ends the thread at the point that it has reached, and unwinds its stack. Does nothing if the thread does not run.
   void Kill();
 
   bool IsRunning() const;

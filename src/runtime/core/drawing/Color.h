@@ -12,7 +12,7 @@ struct Color {
   std::uint32_t bits = 0;
 
   constexpr Color() = default;
-  // Drops the 8 bits above the channels.
+  // Ignores the upper 8 bits of `rgb`.
   constexpr explicit Color(std::uint32_t rgb) : bits(rgb & 0xFFFFFF) {}
 
   // The channels, 0 to 255.
@@ -41,8 +41,8 @@ Color HSV(Double hue, Double saturation, Double value);
 // as HSV does.
 Color CMY(Double cyan, Double magenta, Double yellow);
 
-// The readers return a fraction from 0 to 1, computed from the bytes: saturation is (max - min) / max and 0 for black,
-// value is max / 255, cyan is (255 - red) / 255.0. The hue of a grey is 0; a hue is always below 1.
+// These functions return a fraction from 0 to 1, computed from the channels: saturation is (max - min) / max and 0 for
+// black, value is max / 255, cyan is (255 - red) / 255.0. The hue of a grey is 0; a hue is always below 1.
 Double readColorHue(Color c);
 Double readColorSaturation(Color c);
 Double readColorValue(Color c);

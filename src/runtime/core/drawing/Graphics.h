@@ -9,10 +9,10 @@ namespace tavrelkin {
 class Picture;
 struct DrawnText;
 
-// Learns of each drawing before it changes the surface.
+// Is called before each drawing operation changes the surface.
 class DrawingObserver {
  public:
-  // Anything but a text is about to be drawn.
+  // Something other than a text is about to be drawn.
   virtual void willDraw() = 0;
   virtual void willDrawText(const DrawnText& text) = 0;
 
@@ -20,14 +20,15 @@ class DrawingObserver {
   ~DrawingObserver() = default;
 };
 
-// Draws on the surface of a picture or a canvas. All but texts is exact to the pixel, without smoothing. Coordinates
+// Draws on the surface of a picture or a canvas. Everything except texts is drawn without anti-aliasing. Coordinates
 // are in pixels from the top left corner. Drawing is clipped to the surface; any coordinates are allowed.
 class Graphics {
  public:
   // As a size for DrawPicture: the width or height of the picture itself.
   static constexpr Int32 kNaturalSize = -10000;
 
-  // Draws on `surface`, which must outlive the graphics. Calls `observer`, unless null, before each drawing.
+  // Draws on `surface`, which must outlive the graphics. Calls `observer` before each drawing operation, unless it is
+  // null.
   explicit Graphics(Surface& surface, DrawingObserver* observer = nullptr) : surface_(surface), observer_(observer) {}
   Graphics(const Graphics&) = delete;
   Graphics& operator=(const Graphics&) = delete;
@@ -35,7 +36,7 @@ class Graphics {
   // The colour of shapes and texts. Black at first.
   Color ForeColor;
 
-  // Asks for enlargements with hard edges. Without effect, since all enlargements have them.
+  // Requests enlargements with hard edges. Has no effect: all enlargements have hard edges.
   bool UseOldRenderer = false;
 
   // The height of texts in pixels. Their font family is the desktop's own.
@@ -64,16 +65,16 @@ class Graphics {
   // Draws a line one pixel wide, both ends included.
   void DrawLine(Int32 x1, Int32 y1, Int32 x2, Int32 y2);
 
-  // Draws a text of one line that begins at x, with its baseline at y. Where a canvas is shown enlarged, its texts are
-  // sharp until anything else is drawn on it; so draw them last.
+  // Draws a text of one line that begins at x, with its baseline at y. On an enlarged canvas, texts are sharp until
+  // something else is drawn on the canvas, so draw texts last.
   void DrawString(const String& text, Int32 x, Int32 y);
 
   // Draws a picture at its own size, through its mask.
   void DrawPicture(const Picture& picture, Int32 x, Int32 y);
 
-  // Scales the source rectangle of a picture to the destination rectangle, each source pixel to a hard-edged block, and
-  // draws it through the picture's mask. The part of the source rectangle that lies off the picture draws nothing; the
-  // place and scale of the rest stay the same. kNaturalSize may be given for any of the four sizes; any other size
+  // Scales the source rectangle of a picture to the destination rectangle and draws it through the picture's mask. Each
+  // source pixel becomes a hard-edged block. The part of the source rectangle that lies off the picture draws nothing;
+  // the place and scale of the rest stay the same. kNaturalSize may be given for any of the four sizes; any other size
   // below 1 draws nothing.
   void DrawPicture(const Picture& picture, Int32 x, Int32 y, Int32 destinationWidth, Int32 destinationHeight,
                    Int32 sourceX, Int32 sourceY, Int32 sourceWidth, Int32 sourceHeight);

@@ -7,8 +7,8 @@
 
 namespace tavrelkin {
 
-// Reads the pixels of a picture one by one. Each read gives the present pixel, without the mask. Must not outlive the
-// picture.
+// Reads the pixels of a picture one by one. Each read returns the current pixel and ignores the mask. Must not outlive
+// the picture.
 class RGBSurface {
  public:
   explicit RGBSurface(const Surface& surface) : surface_(&surface) {}

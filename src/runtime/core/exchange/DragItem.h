@@ -13,7 +13,8 @@
 
 namespace tavrelkin {
 
-// The type of a payload that is a colour, such as "255, 128, 0". Other programs get and send it as application/x-color.
+// The type of a payload that is a colour, such as "255, 128, 0". In drags to and from other programs its MIME type is
+// application/x-color.
 constexpr auto kColorData = "hcol";
 // The payload of a colour, and the colour of a payload. Three numbers are read, with commas between them: fractions are
 // dropped, a missing number is 0, and a number below 0 or above 255 counts as 0 or 255.
@@ -21,7 +22,7 @@ String colorDataOf(Color c);
 Color colorOfData(const String& payload);
 
 // What a drag carries from one control to another: any number of private payloads, each with a four-character type, and
-// a plain text. The case of a type counts.
+// a plain text. Types are case-sensitive.
 class DragItem : public Object {
  public:
   // The types of all payloads, in alphabetical order.
@@ -32,7 +33,7 @@ class DragItem : public Object {
   // Adds a payload, or replaces the one of the same type.
   void MacData(std::string_view type, String payload);
 
-  // True once a text was set, even an empty one.
+  // Whether a text has been set, even an empty text.
   bool TextAvailable() const;
   // The text, or the empty string if the item has none.
   String Text() const;
@@ -43,7 +44,7 @@ class DragItem : public Object {
   // drag began may still raise MouseUp there.
   void Drag();
 
-  // Sets what Drag() calls. For the code that makes items.
+  // Sets the function that Drag() calls. Only for the code that makes drag items.
   void onDrag(std::function<void(const DragItem&)> begin) { begin_ = std::move(begin); }
 
  private:

@@ -35,7 +35,7 @@ class BinaryStream : public Object {
   // Whether Position is at the end or beyond it.
   bool EOF() const;
 
-  // Reads a byte, 0 to 255. Outside of the file it reads as 0, and Position advances too.
+  // Reads a byte, 0 to 255, and advances Position by 1. Returns 0 if Position is outside of the file.
   Int32 ReadByte();
   // Reads two bytes as a number, -32768 to 32767.
   Int32 ReadShort();
@@ -45,7 +45,8 @@ class BinaryStream : public Object {
   void WriteByte(Int32 value);
   void WriteShort(Int32 value);
 
-  // Closes the stream. If the file can't be replaced, a message says why to the user. Must not be called from a thread.
+  // Closes the stream. If the file can't be replaced, the user sees a message with the cause. Must not be called from a
+  // thread.
   void Close();
 
  private:

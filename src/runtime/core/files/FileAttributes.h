@@ -7,7 +7,8 @@ struct stat;
 namespace tavrelkin {
 
 // Copies the attributes of the file at `path` to an open file: owner, group, mode, access list and extended attributes.
-// `old` is the stat of that file. False if the access list or an attribute of the user's could not be copied.
+// `old` is the stat of that file. False if the access list or an extended attribute of the namespace "user" could not
+// be copied.
 //
 // The group is kept if the user belongs to it, and the owner if the user may change owners. If the group is not kept,
 // the new group gets no rights.

@@ -13,10 +13,10 @@ namespace tavrelkin {
 // The file is written in place instead if the folder allows no new file, if the file has several hard links, or if a
 // new file could not have the old access list or attributes. After a failure the old contents are written back.
 //
-// The temporary file is not flushed to the disk, which would take a hundred times as long as all the rest. The common
-// file systems flush it before a rename that replaces another file, so after a power cut either the old or the new file
-// is there. A file that did not exist before may be lost within seconds. Writing in place has no such guarantee, so it
-// waits for the disk.
+// The temporary file is not flushed to the disk, since a flush takes a hundred times as long as the rest of the
+// operation. The common file systems flush it before a rename that replaces another file, so after a power cut either
+// the old or the new file is there. A file that did not exist before may be lost within seconds. Writing in place has
+// no such guarantee, so it waits for the disk.
 class FileReplacement {
  public:
   // Begins to replace the file at `path`, or to create it.
@@ -27,13 +27,13 @@ class FileReplacement {
   ~FileReplacement();
 
   // Whether commit() can be called. False after a commit, and if the file can't be written: the path is a folder or a
-  // device, its folder is missing, the old file may not be written, or the folder allows no new file.
+  // device, its folder is missing, the user has no permission to write the old file, or the folder allows no new file.
   bool isOpen() const { return descriptor_ >= 0; }
 
   // Replaces the contents by these bytes. False if that fails.
   bool commit(std::string_view bytes);
 
-  // The last failure in words for the user, and only the cause of it.
+  // The last failure as a text for the user. failure() is the complete message, reason() only the cause.
   std::string failure() const;
   std::string reason() const;
 

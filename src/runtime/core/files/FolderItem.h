@@ -36,16 +36,16 @@ class FolderItem : public Object {
   // "..", or contains a slash or a zero byte.
   Ref<FolderItem> Child(const String& name) const;
 
-  // A stream for writing, which creates or replaces the file when it is closed. Nil if the file can't be written; the
-  // caller then tells the user. The type name has no effect.
+  // A stream for writing, which creates or replaces the file when it is closed. Nil if the file can't be written; no
+  // message is shown then. The type name has no effect.
   Ref<BinaryStream> CreateBinaryFile(const String& typeName) const;
 
   // A stream for reading. Nil if the file is missing or can't be read, for a folder, and if `forWriting` is true, since
   // writing in place is not supported.
   Ref<BinaryStream> OpenAsBinaryFile(bool forWriting) const;
 
-  // Creates an empty file, or empties the file that exists, at once. If that fails, a message says why to the user, and
-  // the result is nil. Must not be called from a thread.
+  // Creates an empty file, or empties the file that exists, at once. If that fails, the user sees a message with the
+  // cause, and the result is nil. Must not be called from a thread.
   Ref<TextOutputStream> CreateTextFile() const;
 
  private:

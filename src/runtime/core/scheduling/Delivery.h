@@ -13,12 +13,13 @@ namespace tavrelkin {
 // The only entry into the program's code. All calls from the toolkit or the scheduler to a window, a control or the
 // application go through the functions of this header.
 
-// Sets what reportFault() calls with the text of the fault. `end` has to show it to the user and to end the program
-// with exit status 1. It must do so later, from the event loop: it may be called on a thread, whose stack is too small
-// for a dialog. The toolkit sets it.
+// Sets the function that reportFault() calls with the text of the fault. `end` must show the text to the user and end
+// the program with exit status 1. It must do so later, from the event loop: it may be called on a thread, whose stack
+// is too small for a dialog. The toolkit sets it.
 void onFault(std::function<void(const std::string&)> end);
 
-// Calls what onFault() has set, for the first fault only. From then on no handler is called.
+// Passes the first fault to the function that onFault() has set. Later faults are ignored. After a fault no handler is
+// called.
 void reportFault(const RuntimeException& fault);
 
 // Allows handlers again, for a runtime that starts after another one has ended.

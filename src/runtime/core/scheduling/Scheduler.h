@@ -23,19 +23,19 @@ class Thread;
 // would only burn power. The next turn comes when the next frame is due, and at once when the pointer has moved. So a
 // preview does not lag behind the pointer, and follows a screen that changes under a pointer at rest.
 //
-// Two kinds of thread do not wait for the frame. Where the desktop reports each change of the screen, a thread waits
-// for such a change. Where its window is not visible, a thread waits until the window is visible again.
+// In two cases a thread does not wait for the frame. If the desktop reports each change of the screen, the thread waits
+// for such a change. If its window is not visible, the thread waits until the window is visible again.
 class Scheduler {
  public:
   using TimePoint = Desktop::TimePoint;
 
-  // How long a thread keeps the processor, and how long the main thread keeps it before it gives others a turn.
+  // The length of a thread's turn. Also the time that the main thread works before it gives another thread a turn.
   static constexpr std::chrono::milliseconds kTurn{2};
   // The shortest time between two turns that movements of the pointer have caused.
   static constexpr std::chrono::milliseconds kPointerGap{4};
 
-  // The only scheduler. The first use makes it, with the desktop that is installed then. shutDown() ends all threads
-  // and destroys it.
+  // The only scheduler. The first call of instance() makes it, for the desktop that is installed at that time.
+  // shutDown() ends all threads and destroys it.
   static Scheduler& instance();
   static void shutDown();
 
@@ -52,7 +52,8 @@ class Scheduler {
     std::size_t stackSize = 0;     // bytes; 0 is the default
   };
 
-  // Starts a thread. Does nothing while it runs.
+  // start() and kill() start and end a thread. start() does nothing if the thread runs; kill() does nothing if it does
+  // not.
   void start(const Thread& thread, Work work);
   void kill(const Thread& thread);
   bool runs(const Thread& thread) const;
@@ -76,8 +77,9 @@ class Scheduler {
   // Call this when a window has become visible or invisible.
   void windowSeen();
 
-  // Lives while the toolkit runs a handler. A thread can cause that, for instance by showing a control. Such a thread
-  // is not suspended, since its stack holds unfinished work of the toolkit.
+  // An object of this class lives while a handler runs that the toolkit has called. A thread can cause such a call, for
+  // instance by showing a control. The thread is not suspended during the call, since its stack holds unfinished work
+  // of the toolkit.
   class InHandler {
    public:
     InHandler() { ++instance().handlers_; }

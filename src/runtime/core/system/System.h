@@ -12,17 +12,19 @@ namespace tavrelkin::System {
 Int32 MouseX();
 Int32 MouseY();
 
-// The colour on screen at (x, y), of whichever window is visible there, also the program's own. Black off the screen.
-// If the screen can't be read, a pattern of greys that can't be mistaken for the screen.
+// The colour of the screen at (x, y). The window that is visible there may belong to any program, including this
+// program. Black outside the screen. If the screen can't be read, the result is a pattern of greys that can't be
+// mistaken for the screen.
 Color Pixel(Int32 x, Int32 y);
 
-// Whether Pixel can be used. Also true on a desktop that no program can read, where Pixel gives the greys; the user is
-// told once.
+// Whether Pixel can be used. Also true on a desktop where no program can read the screen and the user can't pick single
+// colours either: Pixel then returns the greys, and the user sees a message once.
 bool CanReadScreen();
 
-// Asks for permission to read the screen if the desktop requires it, and returns CanReadScreen(). If that is false, the
-// desktop asks the user, who has to repeat the gesture afterwards. A desktop that only gives single colours lets the
-// user pick a colour now, and the event loop calls `picked` with it later.
+// Asks for permission to read the screen if the desktop requires it, and returns CanReadScreen(). If the result is
+// false, the desktop is asking the user, and the user has to repeat the click or key press after answering. If the
+// desktop only lets the user pick single colours, the user picks a colour now, and the event loop calls `picked` with
+// it later.
 bool RequestScreen(std::function<void(Color)> picked = {});
 
 // Suspends a thread until the user has answered and the desktop delivers the screen. Returns whether the screen can be

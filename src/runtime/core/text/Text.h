@@ -44,14 +44,15 @@ String Trim(std::string_view text);
 // The text with the letters a to z in upper case, and all others unchanged.
 String Uppercase(std::string_view text);
 
-// Whether two texts are equal, ignoring the case of the letters a to z. InStr, CountFields and NthField compare so too.
+// Whether two texts are equal, ignoring the case of the letters a to z. InStr, CountFields and NthField compare in the
+// same way.
 bool sameText(std::string_view a, std::string_view b);
 // The position of the first `find` at or after `start`, or 0 if there is none or `find` is empty.
 Int32 InStr(Int32 start, std::string_view text, std::string_view find);
 Int32 InStr(std::string_view text, std::string_view find);
 
-// The number of fields, which are the parts between the separators. An empty text is one empty field. An empty
-// separator never occurs, so the whole text is one field.
+// The number of fields, which are the parts between the separators. An empty text is one empty field. If the separator
+// is empty, the whole text is one field.
 Int32 CountFields(std::string_view text, std::string_view separator);
 // The nth field, from 1. Empty if there is no such field.
 String NthField(std::string_view text, std::string_view separator, Int32 n);

@@ -73,7 +73,8 @@ QItemSelectionModel& selection(const QFileDialog& dialog) {
 
 // The toolkit's dialog selects the file in the list that the typed path names, and prefers a selected folder to the
 // field. It clears the selection only while the field has the focus, but the popup of the completer may have the focus
-// instead. Then a selected file even replaces the typed path. So here typing never selects a file.
+// instead. Then a selected file even replaces the typed path. So in this dialog, typing never selects a file and always
+// clears the selection.
 SaveDialog::SaveDialog(QWidget* parent, const QString& filter, const QString& name) : QFileDialog(parent), name_(name) {
   setOption(DontUseNativeDialog);
   setAcceptMode(AcceptSave);
@@ -107,8 +108,8 @@ bool SaveDialog::folderIsSelected() const {
   return !selected.empty() && QFileInfo(selected[0].data(QFileSystemModel::FilePathRole).toString()).isDir();
 }
 
-// Only the toolkit resolves "~" and "~user". It is not asked about other texts, because it takes quotes for separators
-// between file names.
+// The toolkit resolves "~" and "~user". This function resolves all other texts itself, because the toolkit takes quotes
+// for separators between file names.
 QString SaveDialog::typedPath() const {
   const QString text = nameField(*this).text();
   if (text.isEmpty()) return {};

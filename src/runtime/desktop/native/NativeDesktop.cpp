@@ -158,7 +158,7 @@ void NativeDesktop::tellSoon(const std::string& text) {
       &context_, [this, text] { messageBox(text); }, Qt::QueuedConnection);
 }
 
-// Some displays state no refresh rate, or an absurd one.
+// Some displays report no refresh rate, or an absurd rate. The function then assumes 60 Hz.
 std::chrono::nanoseconds NativeDesktop::frameInterval() const {
   const QScreen* const screen = QGuiApplication::primaryScreen();
   const double stated = screen ? screen->refreshRate() : 0;

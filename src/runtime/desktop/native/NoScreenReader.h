@@ -9,7 +9,7 @@
 
 namespace tavrelkin {
 
-// The pixel at `at` of a checkerboard of greys, 0xRRGGBB, that nobody takes for the screen.
+// The pixel at `at` of a checkerboard of greys, 0xRRGGBB, that can't be mistaken for the screen.
 std::uint32_t patternOfGreys(ScreenPoint at);
 
 // The Option key as far as the toolkit knows it. The toolkit doesn't count AltGr as a modifier, so this class follows

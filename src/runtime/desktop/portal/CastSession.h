@@ -25,7 +25,7 @@ class CastSession {
   using Done = std::function<void(ScreenCastPortal::Result)>;
   using Ended = std::function<void(ScreenCastPortal::Ending)>;
 
-  // If `token` is not empty, it reopens an earlier session without a dialog. A token is good for one session; the
+  // If `token` is not empty, it reopens an earlier session without a dialog. A token is valid for one session; the
   // session replaces it with the token for the next one, so the string must outlive this object. `done` is called once.
   // `ended` is called at most once, after `done` has received a cast. Both are called from the event loop, and may
   // destroy this object.

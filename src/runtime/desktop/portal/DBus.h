@@ -20,7 +20,7 @@ void callMethod(const QDBusConnection& bus, const QDBusMessage& call, std::chron
                 QObject& context, std::function<void(const QDBusMessage&)> done);
 
 // The structure or array in `value`, whose D-Bus type must be `signature`; nothing if `value` holds anything else. A
-// caller that begins to read it must also end it, since the toolkit leaks what is left open.
+// caller that begins to read the structure or array must also end it; otherwise the toolkit leaks memory.
 std::optional<const QDBusArgument> argumentOf(const QVariant& value, const char* signature);
 
 // Receives one signal of one object on a bus while it lives. The signals come from the event loop.

@@ -21,13 +21,13 @@ std::optional<ScreenPoint> PointerMerge::place(const std::optional<Stream>& stre
   return ScreenPoint{window_->x + local_->at.x, window_->y + local_->at.y};
 }
 
-// It learns from each rest, so that a wrong or outdated place is corrected.
+// Each rest sets the window's place again, so that a wrong or outdated place is corrected.
 void PointerMerge::learn(const std::optional<Stream>& stream, TimePoint now) {
   if (!local_ || !stream) return;
   // A mouse event comes before the stream knows of the movement. If the stream moves and no event comes, the pointer is
   // not in the window.
   if (stream->since - local_->when > kLatest) return forget();
-  // A stream that has not changed since the event does not know its place yet.
+  // If the stream has not changed since the event, it does not know the event's place yet.
   if (stream->since < local_->when || now - stream->since < kRest) return;
   window_ = {stream->place.x - local_->at.x, stream->place.y - local_->at.y};
 }

@@ -35,7 +35,7 @@ class PointerMerge {
   // has one.
   void moved(std::uintptr_t window, ScreenPoint local, const std::optional<Stream>& stream, TimePoint now);
 
-  // The pointer has left the program's windows, or its window may have moved: the last event says nothing any more.
+  // The pointer has left the program's windows, or its window may have moved: the last event is no longer valid.
   void forget();
 
   // The pointer's place on the screen by the newest event; nothing if the window's place is not known.

@@ -32,7 +32,8 @@ class PortalScreenReader final : public ScreenReader {
   std::uint32_t pixel(ScreenPoint at) override;
   ScreenPoint pointer() override;
   void watch(std::function<void()> changed) override;
-  // An unavailable screen only shows unchanging greys, but the pointer's movements are not reported there.
+  // False if the screen is unavailable: the pixels are then constant greys, but watch() reports no movements of the
+  // pointer.
   bool tellsEachChange() const override { return state_ != ScreenState::unavailable; }
   bool optionKey() override { return toolkit_.optionKey(); }
 

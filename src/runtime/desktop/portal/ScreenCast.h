@@ -24,8 +24,8 @@ struct CastStream {
   std::optional<Size> size;             // in logical pixels
 };
 
-// The largest number of streams: more than any desk has. The number comes from another program, and each stream costs
-// memory and a connection.
+// The largest number of streams, which is more than the number of monitors on any desk. The number comes from another
+// program, and each stream costs memory and a connection.
 inline constexpr std::size_t kMostStreams = 16;
 
 // An open file descriptor with one owner.

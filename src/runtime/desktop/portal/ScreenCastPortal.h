@@ -15,7 +15,8 @@ namespace tavrelkin {
 class CastSession;
 
 // Asks the desktop portal for a cast of all monitors with the pointer as metadata. No operation blocks, and all
-// callbacks come from the event loop. open() is the first to use the bus, which need not be connected.
+// callbacks come from the event loop. Nothing uses the bus before open(). If the bus is not connected, open() reports
+// noPortal.
 class ScreenCastPortal {
  public:
   enum class Failure {
@@ -39,8 +40,9 @@ class ScreenCastPortal {
   ~ScreenCastPortal();
 
   // Closes an open session, or cancels a request, and then asks for a new session. Calls `done` once, unless close(),
-  // another open() or the end of this object comes first. The first time, the user sees a dialog. Later the portal
-  // shows none as long as its token is valid, which the portal issues for the run of the program.
+  // another open() or the end of this object comes first. The first time, the user sees a dialog. The portal then
+  // issues a token that is valid while the program runs. As long as the portal accepts the token, later calls show no
+  // dialog.
   void open(std::function<void(Result)> done);
 
   // Called once when a session that was passed to `done` ends by itself. The session is already closed then.
@@ -49,7 +51,7 @@ class ScreenCastPortal {
   // Closes the session, or cancels the request and its dialog. Neither `done` nor `closed` is called.
   void close();
 
-  // Lets the next open() ask the user again.
+  // Forgets the portal's token, so that the next open() asks the user again.
   void forgetToken() { token_.clear(); }
 
  private:

@@ -47,9 +47,9 @@ class ScreenModel {
   bool putFrame(std::size_t stream, const ScreenFrame& frame);
 
   // Records that the pointer is on this stream, at `place` in its frame's pixels. Returns false and changes nothing if
-  // there is no such stream, or if the place is outside the frame: the pointer is then on the border, and a neighbour
-  // has it. A stream that reports that it does not have the pointer needs no call, since another stream may have it, or
-  // none.
+  // there is no such stream, or if the place is outside the frame: the pointer is then on the border, and belongs to a
+  // neighbouring monitor. No call is needed if a stream reports that the pointer is not on it: the pointer may be on
+  // another stream, or on no stream.
   bool putPointer(std::size_t stream, ScreenPoint place);
 
   // Whether each stream has had a frame.

@@ -82,7 +82,7 @@ void ScreenSession::streamChanged() {
     hasMissedPlace_ = false;
     events_.begun();
   } else if (!std::exchange(awaitsPlace_, true)) {
-    // A desktop that fails to report it twice, with all monitors shared, never does.
+    // If a desktop has failed twice to report the pointer's place, and all monitors are shared, it never reports it.
     const bool isHopeless = std::exchange(hasMissedPlace_, true) && sharesAllMonitors();
     waitAtMost(kFirstPlace, isHopeless ? End::noPointer : End::pointerNotSeen);
   }

@@ -28,7 +28,7 @@ class ScreenSession {
     lost,            // frames came, but then PipeWire or the portal went away, or the stream stopped
   };
 
-  // All are called from the event loop, except the call that giveUp() makes.
+  // All are called from the event loop, except that giveUp() calls `ended` directly.
   struct Events {
     std::function<void()> begun;        // frames() is available and active
     std::function<void()> changed;      // frames() has something new

@@ -18,9 +18,9 @@
 
 namespace tavrelkin {
 
-// Receives the frames and the pointer of a screen cast through PipeWire. A thread of its own copies them from the
-// buffers that PipeWire shares with the desktop, and never waits for the event loop. All operations must be called on
-// the event loop's thread.
+// Receives the frames and the pointer of a screen cast through PipeWire. A separate thread copies them from the buffers
+// that PipeWire shares with the desktop, and never waits for the event loop. All operations must be called on the event
+// loop's thread.
 class ScreenStreams {
  public:
   using Clock = std::chrono::steady_clock;
@@ -54,7 +54,8 @@ class ScreenStreams {
   // the streams are lost.
   bool waitForFrames(std::chrono::milliseconds longest) const;
 
-  // Blocks for `longest`. Returns earlier if the pointer's place changes meanwhile and then stays the same for `quiet`.
+  // Blocks for `longest`. Returns earlier if the streams are lost, or if the pointer's place changes meanwhile and then
+  // stays the same for `quiet`.
   void waitForPointer(std::chrono::milliseconds quiet, std::chrono::milliseconds longest) const;
 
  private:
@@ -64,7 +65,7 @@ class ScreenStreams {
     bool fresh = false;  // a frame has come since the stream was made active
   };
 
-  // What the event loop has not been told yet.
+  // The events that have not been delivered to the event loop yet.
   struct News {
     bool posted = false;
     bool changed = false;

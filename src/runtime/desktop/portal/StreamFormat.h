@@ -14,7 +14,8 @@ class StreamParameters;
 // Adds the formats that can be read, with at most `mostFrames` frames a second. All of them use plain memory.
 void offerFormats(StreamParameters& parameters, std::uint32_t mostFrames);
 
-// Adds what the buffers must be like once the format is known: few, and with the pointer's place.
+// Adds the requirements for the buffers, which are negotiated after the format: a few buffers in plain memory, with the
+// pointer's place as metadata.
 void offerBuffers(StreamParameters& parameters);
 
 struct StreamFormat {

@@ -53,7 +53,7 @@ bool WindowPointer::eventFilter(QObject* receiver, QEvent* event) {
   return false;
 }
 
-// Only the handlers that run within the event need the place at its moment.
+// Only the handlers that run during the event need the pointer's place at the time of the event.
 void WindowPointer::expectLateStream() {
   isStreamLate_ = true;
   QMetaObject::invokeMethod(

@@ -12,8 +12,8 @@ class QWindow;
 
 namespace tavrelkin {
 
-// Follows the toolkit's mouse events in all windows of the program. They come at once, while the stream reports the
-// pointer late.
+// Follows the toolkit's mouse events in all windows of the program. These events come at once, but the stream reports
+// the pointer late.
 class WindowPointer final : public QObject {
  public:
   struct Stream {
@@ -24,8 +24,8 @@ class WindowPointer final : public QObject {
   // `stream` returns what the stream knows now. Mouse events and place() call it.
   explicit WindowPointer(std::function<Stream()> stream);
 
-  // The pointer's place on the screen in frame pixels, by the newest mouse event. Nothing while the pointer is outside
-  // the program's windows, or the place of its window is not known.
+  // The pointer's place on the screen in frame pixels, according to the newest mouse event. Nothing while the pointer
+  // is outside the program's windows, or the place of its window is not known.
   std::optional<ScreenPoint> place();
 
   // Whether the program is handling a press, a release or a key and the stream may not know the pointer's place at that

@@ -43,7 +43,7 @@ namespace {
 using ReceivingOffer = QtWaylandClient::QWaylandAbstractDataOffer;
 
 // The other program's offer that `data` comes from; it lives as long as `data`. Null if `data` is of another kind, or
-// if the toolkit's version is not the known one.
+// if the toolkit's version is not 6.4.
 ReceivingOffer* receivingOfferOf(const QMimeData& data) {
   if (!QVersionNumber(6, 4).isPrefixOf(QLibraryInfo::version())) return nullptr;
   const auto* received = dynamic_cast<const QtWaylandClient::QWaylandMimeData*>(&data);

@@ -23,7 +23,7 @@ struct PixelLayout {
 };
 
 // Turns stored pixels into 0xRRGGBB. A channel with fewer than 8 bits is scaled and rounded, so that its greatest value
-// gives 255. Of a channel with more bits the upper 8 count.
+// gives 255. If a channel has more than 8 bits, only its upper 8 bits are used.
 class PixelFormat {
  public:
   // Nothing if a pixel does not have 16, 24 or 32 bits, if a scanline is not padded to whole bytes, or if a mask is

@@ -38,7 +38,7 @@ struct PixelRect {
   }
 };
 
-// Reads what shows on the root window, which is the whole screen, one block of pixels at a time.
+// Reads the visible contents of the root window, which is the whole screen, one block of pixels at a time.
 class RootCapture {
  public:
   // How many pixels a block extends to each side of the pixel that it is captured for. A preview of 103 x 49 pixels

@@ -9,8 +9,8 @@
 
 namespace tavrelkin {
 
-// Opens an offer of what another client, the owner of an X11 selection, provides. It follows section 2.4 of the ICCCM.
-// The offer has its own connection, which closes with it, so a late answer reaches nobody. Null if the display can't be
+// Opens the data of an X11 selection, which another client owns, as an Offer. The reading follows section 2.4 of the
+// ICCCM. The offer has its own connection, which closes with it, so a late answer is lost. Null if the display can't be
 // reached.
 //
 // `name` is the selection's name, such as "CLIPBOARD". `time` is the server's timestamp of the user's action, or

@@ -46,8 +46,8 @@ bool SharedSegment::attach(int kernelId) {
 }
 
 // A server on another machine or in another container may attach a segment of its own that has the same id. So this
-// function checks that what the server writes arrives here. It fills the segment with two values in turn: a pixel of
-// the screen changes at least one of them.
+// function checks that an image from the server arrives in this process's memory. It fills the segment with two values
+// in turn: a pixel of the screen differs from at least one of them.
 bool SharedSegment::isReached(xcb_window_t root) {
   for (const int filling : {0x00, 0xFF}) {
     std::uint8_t before[4];

@@ -21,7 +21,7 @@ class X11Offers final : public QAbstractNativeEventFilter, public OfferSource {
   std::unique_ptr<Offer> clipboard() override;
   std::unique_ptr<Offer> drop() override;
 
-  // Remembers the timestamp of a drop, which tells the source which of its drags is meant. Discards each message of a
+  // Remembers the timestamp of a drop. The source of the drag uses it to identify the drag. Discards each message of a
   // drag that claims to come from a window of this program. Such a message is forged, since the toolkit's own drags
   // send none. The toolkit would treat that window as another program's, and no click or key would reach it any more.
   bool nativeEventFilter(const QByteArray& eventType, void* message, qintptr* result) override;

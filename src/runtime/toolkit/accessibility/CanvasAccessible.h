@@ -12,8 +12,8 @@ class CanvasWidget;
 class CellAccessible;
 enum class AccessibleChange;
 
-// The accessible interface of a canvas. It passes questions on to the canvas's Accessible, and actions as the user's
-// gestures.
+// The accessible interface of a canvas. It passes queries on to the canvas's Accessible, and also actions, which count
+// as gestures of the user.
 class CanvasAccessible : public QAccessibleWidget, public QAccessibleValueInterface {
  public:
   explicit CanvasAccessible(CanvasWidget& widget);
@@ -26,7 +26,8 @@ class CanvasAccessible : public QAccessibleWidget, public QAccessibleValueInterf
   Accessible* described() const;
 
   // Call `gesture` as a gesture of the user: now, or from the event loop if it may open a dialog. They do nothing if
-  // the user could not act by hand: in a disabled or invisible canvas, or while a modal window blocks.
+  // the user could not do the same with the mouse or a key: in a disabled or invisible canvas, or while a modal window
+  // blocks.
   void act(const std::function<void(Accessible&)>& gesture) const;
   void actLater(std::function<void(Accessible&)> gesture) const;
 

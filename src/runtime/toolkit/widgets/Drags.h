@@ -18,8 +18,8 @@ namespace tavrelkin {
 std::unique_ptr<QMimeData> toMime(const DragItem& item);
 Ref<DragItem> fromMime(const QMimeData& data);
 
-// An item with all the types of a drag, but empty data. It asks the source of the drag for nothing, so a drag of any
-// size can move over the windows without delay.
+// An item with all the types of a drag, but empty data. No data is requested from the source of the drag, so a drag of
+// any size can move over the windows without delay.
 Ref<DragItem> offeredBy(const QMimeData& data);
 
 // An item with the data of a drop. Data from another program is read within the limits of Offer.

@@ -7,8 +7,8 @@ class QKeyEvent;
 namespace tavrelkin {
 
 // Marks auto-repeated key presses, as an event filter of the application. X11 sends a held key as a release and a press
-// with the same timestamp. Qt does not pair them where it handles the release before the press has arrived; the press
-// then looks like a new one.
+// with the same timestamp. If Qt handles the release before the press has arrived, it does not recognise the pair, and
+// the press looks like a new press.
 //
 // A marked press reaches the window, but triggers no shortcut. A press with a command key (Ctrl, Alt, Meta) is dropped,
 // so a command acts once while its key is held. Return and Enter are dropped too: the first press may open a dialog,

@@ -41,7 +41,7 @@ class WindowWidget : public QWidget {
   void setBlocked(bool blocked);
 
   // Whether the window was minimised since the last call, and still is. The window manager then activates another
-  // window, which is no gesture of the user.
+  // window, although the user has not asked for that.
   bool passesActivationOn();
 
   // False while Qt reports that no part of the window is visible. True before the window is first shown.
