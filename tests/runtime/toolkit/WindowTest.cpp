@@ -1,4 +1,4 @@
-// Windows and their controls as the user meets them, and how windows end.
+// Windows and their controls under the gestures of a user, and the end of windows.
 
 #include <functional>
 #include <string>
@@ -16,7 +16,7 @@
 namespace tavrelkin {
 namespace {
 
-// Writes down what happens to it. Its one command closes it, as do its button, its slider and its canvas.
+// A window that logs its events. Its command, its button, its slider and its canvas all close it.
 class Host : public Window {
  public:
   explicit Host(std::string& events, WindowFrame frame = WindowFrame::document)
@@ -38,7 +38,7 @@ class Host : public Window {
   void Event_Open() override { log += "window "; }
   void Event_Close() override { log += "close "; }
 
-  // What a handler may do that closes its window.
+  // Closes the window and then still uses its controls, as a handler may.
   bool closeAndGoOn() {
     Close();
     canvas.Graphics().Pixel(0, 0, kBlack);
@@ -54,7 +54,7 @@ class Host : public Window {
   PushButton button{*this, "button"};
 };
 
-// Outlives the windows, which write in it to the last.
+// A base class, so that the log outlives the windows, which write to it until their end.
 struct Log {
   std::string log;
 };
@@ -68,7 +68,7 @@ class WindowTest : protected Log, public RuntimeTest {
     Application::current().MenuBar->Append(menu);
   }
 
-  // An open window, with the events so far forgotten.
+  // Opens a window, and clears the log.
   Ref<Host> open(WindowFrame frame = WindowFrame::document) {
     Ref<Host> window = New<Host>(log, frame);
     window->Show();

@@ -1,4 +1,4 @@
-// The machine's own save dialog, driven by hand as far as the offscreen platform allows, and the folder for data.
+// The save dialog of the desktop, used as far as the offscreen platform allows, and the folder for data.
 
 #include <filesystem>
 #include <functional>
@@ -28,7 +28,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// The desktop keeps its data in the user's folders, here temporary ones.
+// The home folder, which contains the user's data, is a temporary folder.
 class NativeFilesTest : public ::testing::Test {
  protected:
   NativeFilesTest() { qputenv("HOME", QByteArray::fromStdString(home.path(""))); }
@@ -62,11 +62,11 @@ void save(const QFileDialog& dialog) {
   dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
 }
 
-// Does one act after the other, answers questions with no, and gives up in the end.
+// Performs the acts in order, answers each question with no, and cancels the dialog at the end.
 struct User {
   explicit User(std::vector<Act> steps) : acts(std::move(steps)) { plan(); }
 
-  // The next act is planned first, since a question comes, and has to be answered, within the act that raises it.
+  // Plans the next act first: an act that raises a question returns only after the next act has answered it.
   void plan() {
     QTimer::singleShot(0, &hand, [this] {
       plan();
