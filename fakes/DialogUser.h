@@ -43,11 +43,12 @@ inline void save(const QFileDialog& dialog) {
   dialog.findChild<QDialogButtonBox*>()->button(QDialogButtonBox::Save)->click();
 }
 
-// A user of the save dialog: does one act after the other, answers questions with no, and gives up in the end.
+// A user of the save dialog: performs the acts in order, answers each question with no, and cancels the dialog at the
+// end.
 struct User {
   explicit User(std::vector<Act> steps) : acts(std::move(steps)) { plan(); }
 
-  // The next act is planned first, since a question comes, and has to be answered, within the act that raises it.
+  // Plans the next act first: an act that raises a question returns only after the next act has answered it.
   void plan() {
     QTimer::singleShot(0, &hand, [this] {
       plan();

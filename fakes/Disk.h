@@ -11,7 +11,7 @@
 // A disk that is full, and a user whose rights are limited.
 namespace tavrelkin {
 
-// No file of this process grows beyond the limit: as on a full disk, a write fails half way.
+// Limits the size of the files of this process. A write beyond the limit fails half way, as on a full disk.
 class FullDisk {
  public:
   explicit FullDisk(rlim_t limit) {
@@ -31,7 +31,7 @@ class FullDisk {
   void (*const handler_)(int) = std::signal(SIGXFSZ, SIG_IGN);
 };
 
-// A process of root's acts as a user without rights, for whom modes count.
+// If the process runs as root, makes it act as a user whose access the modes of files restrict.
 class PlainUser {
  public:
   static constexpr uid_t kNobody = 65534;
@@ -48,7 +48,7 @@ class PlainUser {
     }
   }
 
-  // Makes root's file the user's own.
+  // If the test acts as root, gives the file to the user nobody.
   static void own(const std::filesystem::path& path) {
     if (geteuid() == 0 && chown(path.c_str(), kNobody, kNobody) != 0) throw std::runtime_error("There is no nobody.");
   }

@@ -37,7 +37,7 @@ class RuntimeTest : public ::testing::Test {
   Ref<Application> application_;
 };
 
-// The first base class of a test whose windows write in a log to the last: it outlives them.
+// A base class of tests, so that the log outlives the windows, which write to it until their end.
 struct Log {
   std::string log;
 };

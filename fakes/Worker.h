@@ -8,7 +8,7 @@
 
 namespace tavrelkin {
 
-// Yields until a turn is over, some turns long.
+// Yields so often that the work can take several turns.
 inline void work() {
   for (int i = 0; i < 1000; ++i)
     RuntimeBackgroundTask();

@@ -22,7 +22,7 @@ class App : public Application {
   bool mnuNewColors();
   // Opens the user's favourites from their file. Makes an empty file if it does not exist.
   bool mnuMyFav();
-  // Opens a new simulator, at each call another one. A tool window in front has this command to itself.
+  // Opens another simulator at each call. If a tool window is in front, that window handles the command instead.
   bool mnuColorBlind();
   // Brings the default simulator to the front.
   bool mnuColorBlindTool();

@@ -31,8 +31,9 @@ const char* nameIn(const Band (&bands)[n], Double value) {
 
 }  // namespace
 
-// By hue, lightness and chroma, the mean and the difference of the strongest and the weakest channel: these go with
-// what the eye finds light and colourful better than value and saturation do, for which navy is a full blue.
+// Names a colour by its hue, its lightness (the mean of the strongest and the weakest channel) and its chroma (their
+// difference). People see these as light and colourful more than value and saturation: navy has the full saturation of
+// blue.
 String colorInWords(Color c) {
   const auto [least, most] = std::minmax({c.red(), c.green(), c.blue()});
   const Double lightness = (least + most) / 510.0;

@@ -5,9 +5,8 @@
 
 namespace tavrelkin {
 
-// A colour as people name it at a glance, for those who can't see it: "dark green", "light grayish blue", "white".
-// Every colour has a name: a hue, or one of "black", "gray" and "white" where there is hardly any, with what sets it
-// apart ahead of it.
+// The name of a colour, for users who can't see it: "dark green", "light grayish blue", "white". Every colour has a
+// name. It is a hue, or "black", "gray" or "white" if the colour has almost no hue, and adjectives precede it.
 String colorInWords(Color c);
 
 // The words, and the numbers in the forms that the windows use: "orange, 255.128.0, #FF8000".

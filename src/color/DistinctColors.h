@@ -7,9 +7,10 @@
 
 namespace tavrelkin {
 
-// The distinct colours of a picture, in the order in which they are met, column by column from the left and each from
-// the top; no more than `most`. Colours with a value below 30 % are passed over, and so is a colour that is like one
-// before: where the differences of their channels sum up to no more than a tenth of the sum of the brighter channels.
+// The first `most` distinct colours of a picture, which is read column by column from the left, each column from the
+// top. The function leaves out colours with a value below 30 %, and colours that are similar to an earlier one. Two
+// colours are similar if the differences of their channels sum up to at most a tenth of the sum of the brighter
+// channels.
 std::vector<Color> distinctColors(const Picture& picture, std::size_t most);
 
 }  // namespace tavrelkin

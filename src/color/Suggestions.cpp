@@ -23,7 +23,7 @@ Double wrapped(Double hue) {
 }
 
 // The two neighbours of the colour, its complement, the two neighbours of the complement, and two more hues, each a
-// third of the circle further. The first of these starts from a colour that was rounded to bytes, the second from a
+// third of the circle further. The first of these two starts from a colour that was rounded to bytes, the second from a
 // hue that was not.
 std::array<Color, 7> relatedTo(Color c) {
   const Hsv from(c);
@@ -52,7 +52,7 @@ void appendVariations(std::vector<Color>& list, Color base) {
   list.push_back(HSV(h, s / 4, v - (v - 0.5) / 4));
 }
 
-// Nine colours for a running sum that starts at one step.
+// Appends the colours that `make` returns for `step`, 2 * `step` and so on up to 9 * `step`.
 template <class Make>
 void appendRamp(std::vector<Color>& list, Double step, Make make) {
   Double sum = step;

@@ -10,11 +10,11 @@ class ColorSwatch;
 class zrClutPalette;
 class zrColorCHBar;
 
-// What the colour controls are to assistive technologies. Each result refers to its control, which must outlive it.
+// How assistive technologies see the colour controls. Each result refers to its control, which must outlive it.
 
 // A slider with the name of its channel.
 std::unique_ptr<Accessible> accessibleOf(zrColorCHBar& bar);
-// A button, with its colour as the description; a picture where nobody answers its clicks.
+// A button, or a picture if its clicks have no effect; the description is the colour.
 std::unique_ptr<Accessible> accessibleOf(ColorSwatch& swatch);
 // A list of colours, one of which can be selected.
 std::unique_ptr<Accessible> accessibleOf(zrClutPalette& palette);

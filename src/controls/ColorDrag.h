@@ -14,7 +14,7 @@ namespace tavrelkin::ColorDrag {
 void accept(RectControl& control);
 void acceptPrivate(RectControl& control);
 
-// Reads the colour of an item into `c`. Where the item has none, returns false and leaves `c` alone.
+// Reads the colour of an item into `c`. If the item has none, returns false and leaves `c` unchanged.
 bool take(const Ref<DragItem>& item, Color& c);
 bool takePrivate(const Ref<DragItem>& item, Color& c);
 
@@ -22,7 +22,7 @@ bool takePrivate(const Ref<DragItem>& item, Color& c);
 constexpr Int32 kLarge = 21;
 constexpr Int32 kSmall = 9;
 
-// Reads the text of the clipboard as a colour into `c`. Where it is no colour, returns false and leaves `c` alone.
+// Reads the text of the clipboard as a colour into `c`. If it is no colour, returns false and leaves `c` unchanged.
 bool paste(Color& c);
 
 // Starts a drag of a colour out of a control, and returns when the drag is over. The pointer is at (x, y), in pixels

@@ -11,12 +11,12 @@ class ColorSwatch : public Canvas {
 
   // The colour shown.
   Color Value;
-  // From the start of a drag until the next press or release.
+  // True from the start of a drag until the next press or release.
   bool IsDrag = false;
 
   // A click by hand, by key or by assistive technology.
   virtual void press() = 0;
-  // Whether a click does anything, for assistive technology.
+  // Whether a click has an effect. If not, assistive technologies see a picture, not a button.
   virtual bool answersClicks() const { return true; }
 
   void Event_MouseDrag(Int32 x, Int32 y) override;

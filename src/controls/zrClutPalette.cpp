@@ -140,7 +140,7 @@ void zrClutPalette::Event_MouseDrag(Int32 x, Int32 y) {
   ColorDrag::begin(*this, TheClut->getColor(Selected), x, y, ColorDrag::kSmall);
 }
 
-// Goes to the selected cell, wherever it is dropped.
+// Stores the colour in the selected cell, wherever the user drops it.
 void zrClutPalette::Event_DropObject(const Ref<DragItem>& item, Int32) {
   Color c;
   if (!TheClut || !ColorDrag::takePrivate(item, c) || Selected < 0) return;

@@ -9,12 +9,12 @@ namespace tavrelkin {
 // A table of colours as a grid of small square cells. A click selects a cell, a drag carries the selected colour away,
 // and a dropped colour goes into the selected cell. The last entry of the table, at its Count, has no cell.
 //
-// The mark around the selected cell comes with a click or a drop and goes with any repaint; the selection stays.
+// A click or a drop draws the mark around the selected cell. Any repaint removes the mark but keeps the selection.
 class zrClutPalette : public Canvas {
  public:
   zrClutPalette(Window& owner, String name);
 
-  // The table shown; nil until SetClut. No click may come before that.
+  // The table shown; nil until SetClut. A click before that throws NilObjectException.
   Ref<zrClut> TheClut;
   // The index of the selected cell, -1 for none.
   Int32 Selected = 0;
@@ -25,9 +25,9 @@ class zrClutPalette : public Canvas {
   // The side of a cell's filled square in pixels. Cells step one pixel more.
   Int32 wBox = 12;
 
-  // A click has selected a cell: its index and colour.
+  // Raised after a click has selected a cell, with its index and colour.
   Event<void(Int32, Color)> Action;
-  // A drop has changed the selected entry: its index and colour.
+  // Raised after a drop has changed the selected entry, with its index and colour.
   Event<void(Int32, Color)> Change;
 
   // The top left corner of a cell's frame.
@@ -44,9 +44,10 @@ class zrClutPalette : public Canvas {
   bool Event_KeyDown(const String& key) override;
   void Event_Paint(tavrelkin::Graphics& g) override;
 
-  // Shows a table, or what has changed in the one shown. Raises nothing.
+  // Shows a table, or the changes in the table shown. Raises no event.
   virtual void SetClut(const Ref<zrClut>& clut);
-  // A click on a cell, by hand, by key or by assistive technology. A number that no cell has ends the selection.
+  // Does what a click on a cell does; mouse, keys and assistive technologies use it. An index without a cell ends the
+  // selection.
   void choose(Int32 index);
   // Paints one cell with the mark or without. Does nothing for a negative index.
   virtual void DrawBorder(bool highlighted, Int32 index);
@@ -54,19 +55,19 @@ class zrClutPalette : public Canvas {
  protected:
   // Whether a drag has begun since the last press.
   bool int_IsDrag = false;
-  // Where the last press or release was, or the last step of a drag that had no colour to carry.
+  // The position of the last press or release, or of the last move of a drag without a selected colour.
   Int32 int_LastX = 0;
   Int32 int_LastY = 0;
 
  private:
   Int32 pitch() const { return wBox < 0 ? 1 : wBox + 1; }
-  // The cell that a key leads to from the selected one, or -1 for a key that leads nowhere. With nothing selected every
-  // key leads to the first cell; at the edge it stays.
+  // The index to which a key moves the selection, or -1 for a key that does not move it. If nothing is selected, every
+  // such key selects the first cell. At an edge the selection stays.
   Int32 cellTowards(const String& key) const;
-  // Whole cells side by side; 1 where there is room for none, so that places can be divided by it.
+  // The number of whole cells in a row; at least 1, so that it can be a divisor.
   Int32 columns() const;
-  // The index that a position stands for by arithmetic alone, whether there is such a cell or not. The pixels right of
-  // the last column belong to the first cell of the next row.
+  // The calculated index for a position; such a cell need not exist. The pixels right of the last column belong to the
+  // first cell of the next row.
   Int32 indexAt(Int32 x, Int32 y) const;
 };
 

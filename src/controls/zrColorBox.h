@@ -6,17 +6,18 @@
 namespace tavrelkin {
 
 // A framed rectangle filled with one colour. It can be clicked, dragged away with the Option key held, and can take a
-// dropped colour if its host agrees. What a click means is the host's affair.
+// dropped colour if its host agrees. The host decides what a click does.
 class zrColorBox : public ColorSwatch {
  public:
   zrColorBox(Window& owner, String name);
 
-  // As a window's design states it; the Option key alone decides.
+  // Part of the class, but never read: only the Option key decides whether a drag starts.
   bool optionAllowDrag = false;
 
   // A click inside the box. The first row and column don't count.
   Event<void()> Action;
-  // A colour is about to be taken by drop: true takes it. Without a handler every drop is refused.
+  // Raised before a dropped colour is taken; the handler returns whether to take it. Without a handler every drop is
+  // refused.
   Event<bool(Color)> ColorDrop;
   // A drop has changed Value.
   Event<void()> ColorChanged;
@@ -29,7 +30,7 @@ class zrColorBox : public ColorSwatch {
   void Event_MouseUp(Int32 x, Int32 y) override;
   void Event_Paint(tavrelkin::Graphics& g) override;
 
-  // Shows a colour and tells it in the help tag. Raises nothing.
+  // Shows a colour, and its numbers in the help tag. Raises no event.
   virtual void SetValue(Color c);
   virtual void DrawBox();
 };

@@ -56,7 +56,7 @@ void zrColorButton::Event_MouseExit() {
   if (before == 2 || before == 3) Action();
 }
 
-// Only the swatch and its frame count.
+// Ignores a release outside of the swatch and its frame.
 void zrColorButton::Event_MouseUp(Int32 x, Int32 y) {
   if (std::exchange(IsDrag, false)) return;
   if (x < 2 || x > toInt32(swatchWidth(Width) + 2.0) || y < 2 || y > Height - 4) return;

@@ -18,8 +18,8 @@ class zrColorButton : public ColorSwatch {
   Int32 wBuff = 0;
   Int32 hBuff = 0;
   Int32 tw = 0;
-  // 0 with the pointer outside, 1 with the pointer inside. At 2 and 3, which nothing here sets, the pointer raises
-  // Action when it leaves.
+  // 0 with the pointer outside, 1 with the pointer inside. This class never sets 2 or 3; in these states it raises
+  // Action when the pointer leaves.
   Int32 State = 0;
   // A picture beside the swatch, or nil.
   Ref<Picture> Icon;
@@ -33,9 +33,9 @@ class zrColorButton : public ColorSwatch {
   // The title of the colour dialog.
   String propColorSelectionPrompt;
 
-  // A click on the swatch is over, with or without a dialog, whatever the user did in it.
+  // Raised at the end of a click on the swatch, with or without a dialog, whatever the user did in the dialog.
   Event<void()> Action;
-  // A click on the swatch, before the dialog opens; true skips the dialog.
+  // Raised by a click on the swatch before the dialog opens; if the handler returns true, no dialog opens.
   Event<bool()> BeforeSelectColor;
   // Never raised.
   Event<bool()> ShowCMM;
@@ -51,7 +51,7 @@ class zrColorButton : public ColorSwatch {
   void Event_Open() override;
   void Event_Paint(tavrelkin::Graphics& g) override;
 
-  // Shows a colour. Raises nothing.
+  // Shows a colour. Raises no event.
   virtual void SetValue(Color c);
   // Paints a square button edge of 22 pixels and the swatch.
   virtual void DrawMainBTTN(tavrelkin::Graphics& g, bool pressed);
@@ -64,7 +64,7 @@ class zrColorButton : public ColorSwatch {
 
   virtual void drawBevel(tavrelkin::Graphics& g);
   virtual void drawColor(tavrelkin::Graphics& g);
-  // A hook without a use.
+  // Does nothing, and is never called.
   virtual void showColorPal() {}
   virtual void drawValue();
   virtual String intGetHexValue() const;

@@ -68,7 +68,7 @@ void zrColorCHBar::intSetTooltip() {
   HelpTag = channelWord(propColorChannel) + " " + number;
 }
 
-// The hand has to take the indicator; a press elsewhere only brings the keyboard here.
+// Only a press on the indicator can start a drag; a press elsewhere only moves the focus to the bar.
 bool zrColorCHBar::Event_MouseDown(Int32 x, Int32 y) {
   SetFocus();
   return Abs(x - Lastx) <= 3.0 && y >= 1 && y <= Height - 1;
@@ -78,7 +78,7 @@ void zrColorCHBar::Event_MouseDrag(Int32 x, Int32 y) {
   DoMouseDrag(x, y);
 }
 
-// While the pointer is above or below the bar, the value stands still.
+// While the pointer is above or below the bar, the value does not change.
 void zrColorCHBar::DoMouseDrag(Int32 x, Int32 y) {
   if (y < 1 || y > Height - 1) return;
   const Int32 at = std::max(std::min(x, BarPosition::last(Width)), BarPosition::kFirst);
@@ -134,8 +134,8 @@ void zrColorCHBar::Update() {
   DrawArrow(Lastx);
 }
 
-// One column for each step of the value. The step is a whole number, so that the ramp ends where it ends and is not
-// scaled to the bar. A bar is 11 to 265 pixels wide.
+// Draws one column for each step of the value. The step is a whole number, so the ramp is not scaled to the bar and can
+// be longer than it. Draws nothing unless the bar is 11 to 265 pixels wide.
 void zrColorCHBar::DrawValue() {
   auto& g = Graphics();
   if (g.Width() <= 10 || g.Width() > 265) return;
@@ -163,7 +163,7 @@ void zrColorCHBar::DrawBorder() {
   g.DrawRect(0, 0, g.Width(), g.Height());
 }
 
-// Row 2 keeps the strip's pixels: the fill begins below it, the outline above it.
+// Row 2 keeps the strip's pixels, since the outline is above it and the fill begins below it.
 void zrColorCHBar::DrawArrow(Int32 x) {
   auto& g = Graphics();
   g.ForeColor = ChannelRamp(propColorChannel, propBaseColor).at(Value);

@@ -29,13 +29,13 @@ class zrColorCHBar : public Canvas {
   // The number of the channel; see ColorChannel.h.
   Int32 propColorChannel = 0;
 
-  // A finished change, by mouse or drop; propBaseColor is up to date.
+  // Raised after a change by mouse or drop is finished; propBaseColor is up to date.
   Event<void()> Action;
-  // Asked once, at opening: the number of the channel.
+  // Raised once, at opening; the handler returns the number of the channel.
   Event<Int32()> SetColorChannel;
-  // A key was pressed; propBaseColor is up to date.
+  // Raised after a key press; propBaseColor is up to date.
   Event<void()> Change;
-  // A new value during a drag. HelpTag and Value have it; propBaseColor changes at the end of the drag.
+  // Raised for each new value during a drag. HelpTag and Value have it; propBaseColor changes at the end of the drag.
   Event<void()> ValueChanging;
 
   void Event_DropObject(const Ref<DragItem>& item, Int32 action) override;

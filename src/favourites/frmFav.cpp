@@ -115,7 +115,7 @@ bool frmFav::mnuSaveAS() {
   return true;
 }
 
-// The old table is gone from the start, also where the load fails.
+// Replaces the old table before loading, so the old table is lost even if the load fails.
 void frmFav::ReadColors(const Ref<FolderItem>& f) {
   if (!f) return;
   TheClut = New<zrClut>();

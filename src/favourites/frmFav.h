@@ -9,8 +9,8 @@
 
 namespace tavrelkin {
 
-// A window on one palette, which it edits and saves. Whoever makes one shows it and then calls NewClut. It doesn't know
-// whether the palette was changed, and closing it never asks.
+// A window that shows, edits and saves one palette. A caller makes it, then calls Show and NewClut. The window doesn't
+// record whether the palette was changed, and closes without a question.
 class frmFav : public Window {
  public:
   frmFav();
@@ -22,7 +22,7 @@ class frmFav : public Window {
   // The selected colour as it was before the last paste or add. Nothing reads it.
   Color pUndoColor;
 
-  // A click in the palette: its colour is shown. Pastes and drops leave box and label as they are.
+  // Handles a click in the palette: box and label show the colour. Pastes and drops do not change box and label.
   virtual void imgClut_Action(Int32 index, Color c);
 
   void AddMenuHandlers() override;
@@ -37,13 +37,13 @@ class frmFav : public Window {
 
   // Shows a colour in box and label, with the index of the selected cell.
   virtual void DoDisplayColor(Color c);
-  // Loads a palette: swatch files by names that end in "aco", colour tables by "act". Where that fails the window
-  // closes itself. A nil file changes nothing.
+  // Loads a palette from a swatch file, whose name ends in "aco", or from a colour table, whose name ends in "act". If
+  // that fails, or the name ends otherwise, the window closes. A nil file changes nothing.
   virtual void ReadColors(const Ref<FolderItem>& f);
-  // Shows what has changed in the table.
+  // Shows the changes in the table.
   virtual void UpdatePalette();
-  // Saves the palette as a swatch file, whatever its name ends in; asks for a file where `f` is nil. What goes wrong is
-  // told to the user.
+  // Saves the palette as a swatch file, whatever its name ends in; asks for a file if `f` is nil. Shows a message if
+  // the file cannot be written.
   virtual void SaveColors(Ref<FolderItem> f);
   // Begins a new palette without a file.
   virtual void NewClut();
@@ -59,8 +59,8 @@ class frmFav : public Window {
 
  private:
   bool hasSelection() const { return imgClut.Selected >= 0; }
-  // Puts the selected colour on the clipboard, as `toText` writes it, with "#" ahead of it. Without a selection the
-  // clipboard stays as it is.
+  // Puts "#" and the result of `toText` for the selected colour on the clipboard. Without a selection the clipboard
+  // stays unchanged.
   void copy(String (*toText)(Color)) const;
 };
 

@@ -4,14 +4,14 @@
 
 namespace tavrelkin {
 
-// The program's menu bar: the names, texts and shortcuts of all items. It knows no window; who answers an item
-// registers a handler under the item's name.
+// The program's menu bar: the names, texts and shortcuts of all items. It knows no window: the code that handles an
+// item registers a handler under the item's name.
 class MenuBar1 : public MenuBar {
  public:
   MenuBar1();
   ~MenuBar1() override;
 
-  // The one menu bar that all windows share, made at first use and kept by whoever holds it.
+  // The one menu bar that all windows share. It is made when no reference to an earlier one is left.
   static Ref<MenuBar> Instance();
 };
 

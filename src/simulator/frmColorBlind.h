@@ -13,9 +13,9 @@
 
 namespace tavrelkin {
 
-// The simulator: it shows how one colour looks to the three kinds of dichromat on a display of a given gamma, and any
-// of the three results at large beside the colour itself. The colour comes in by a drop on the first box or by Paste. A
-// new window has simulated nothing yet.
+// The simulator: it shows how one colour looks to the three kinds of dichromat on a display of a given gamma, and
+// compares one of the three results with the colour itself in a large field. The user drops the colour on the first
+// box, or pastes it. A new window has not simulated a colour yet.
 class frmColorBlind : public Window {
  public:
   frmColorBlind();
@@ -28,15 +28,15 @@ class frmColorBlind : public Window {
   // The "Protanopia" result of the last update. The user's own colour is the value of cmdColor[0].
   Color SelectedColor;
 
-  // Runs the simulation of a colour and fills every display; the large field shows "Protanopia" again. A gamma of 0, or
-  // one that can't be read, is told to the user and replaced by 1.80 in the field, while this run goes on with 2.2.
+  // Runs the simulation of a colour and fills every display; the large field shows "Protanopia" again. If the gamma is
+  // 0 or can't be read, a message appears, the field shows 1.80, and this run uses 2.2.
   void SetValue(Color c);
 
   // Controls. The chosen gamma goes into the field only; the next update takes it from there.
   void cmbGamma_Change();
-  // The first box takes a dropped colour, the results don't.
+  // The first box accepts a dropped colour, the results refuse it.
   bool cmdColor_ColorDrop(zrColorBox& box, Color c);
-  // A result is shown at large.
+  // Shows a result in the large field.
   void cmdColor_Action(zrColorBox& box);
   void cmdUpdate_Action();
 
@@ -55,7 +55,7 @@ class frmColorBlind : public Window {
       {{*this, "cmdColor"}, {*this, "cmdColor"}, {*this, "cmdColor"}, {*this, "cmdColor"}}};
   StaticText StaticText2{*this, "StaticText2"};
   StaticText StaticText3{*this, "StaticText3"};
-  // The result under view, and on top of it the normal colour.
+  // The large field: the chosen result, and on top of it the normal colour.
   std::array<Rectangle, 2> colors{{{*this, "colors"}, {*this, "colors"}}};
   PushButton cmdUpdate{*this, "cmdUpdate"};
   StaticText lblColor{*this, "lblColor"};
@@ -70,10 +70,10 @@ class frmColorBlind : public Window {
   void styleTexts();
   void dress();
   void wire();
-  // What the controls are called where they don't show it.
+  // Sets the accessible names of the controls that show no name.
   void nameControls();
 
-  // The gamma that the field asks for, or nothing, after the user was told.
+  // The gamma in the field. If it is not usable, shows a message and returns nothing.
   std::optional<Double> chosenGamma();
 };
 

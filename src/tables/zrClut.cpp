@@ -18,14 +18,15 @@ void writeTwice(BinaryStream& stream, Int32 byte) {
   stream.WriteByte(byte);
 }
 
-// A byte as the high half of a channel, less the low half.
+// Reads the high byte of a channel and skips the low byte.
 Int32 readHighByte(BinaryStream& stream) {
   const Int32 high = stream.ReadByte();
   stream.Position += 1;
   return high;
 }
 
-// The stream of a file, or nil; the user is told where there is a file but it can't be opened, or none can be made.
+// These two return the stream of a file, or nil. A message appears if the file can't be made, or exists but can't be
+// opened.
 Ref<BinaryStream> opened(const Ref<FolderItem>& file, const char* complaint) {
   if (!file || !file->Exists()) return nullptr;
   Ref<BinaryStream> stream = file->OpenAsBinaryFile(false);
@@ -117,7 +118,7 @@ Color zrClut::NextColor() {
   return aColors[place(++Index)];
 }
 
-// Readers and writers of a format don't mirror each other, and this is meant: files in use depend on it.
+// On purpose, the reader and the writer of a format don't mirror each other: files in use depend on it.
 bool zrClut::writeSwatch(const Ref<FolderItem>& file) const {
   const Ref<BinaryStream> stream = created(file, "ColorSwatch", "Unable to save swatch file");
   if (!stream) return false;

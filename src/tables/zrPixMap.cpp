@@ -75,7 +75,7 @@ void zrPixMap::setMaskColor(Color c) {
 }
 
 void zrPixMap::paint(Graphics& g, Int32 x, Int32 y, const std::function<std::optional<Color>(Color)>& ink) const {
-  // What lies past the last coordinate lies off any surface.
+  // A coordinate that doesn't fit an Int32 is outside of any surface.
   const auto fits = [](Int32 start, Int32 offset) { return start <= std::numeric_limits<Int32>::max() - offset; };
   Int32 position = 1;
   for (Int32 row = 0; row < height; ++row) {

@@ -30,7 +30,7 @@ void drawMark(Graphics& g, const ColorCell& cell) {
   drawAround(g, cell, kMark);
 }
 
-// What lies between cells has one colour everywhere.
+// The background has one colour everywhere.
 void eraseMark(Graphics& g, const ColorCell& cell) {
   drawAround(g, cell, g.Pixel(cell.x - 3, cell.y - 3));
 }

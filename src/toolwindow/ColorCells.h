@@ -9,23 +9,24 @@
 
 namespace tavrelkin {
 
-// A square of one colour that a view shows, frames included; `label` is what it shows beside its colour, if anything.
+// A square of one colour in a view. `side` includes the frames. Assistive technologies read `label`, if any, before the
+// colour.
 struct ColorCell {
   Color color;
   Int32 x = 0, y = 0, side = 0;
   String label;
 };
 
-// Puts the keyboard's mark around a cell, on the two pixels beside its frame, or takes it away again.
+// Draws or erases the keyboard's mark around a cell: the two pixels outside its frame.
 void drawMark(Graphics& g, const ColorCell& cell);
 void eraseMark(Graphics& g, const ColorCell& cell);
 
-// The cell of `cells` that an arrow key leads to from one of them: the neighbour in that direction, or the same one
-// where there is none.
+// The index of the cell to which an arrow key leads: the neighbour of `from` in that direction, or `from` if it has
+// none there.
 std::size_t cellTowards(const std::vector<ColorCell>& cells, std::size_t from, std::string_view arrow);
 
 // Fills a surface with a grid of framed cells, one for each colour, row by row. Cells step 24 pixels across and 25
-// down, and a row ends where the next cell would come near the right edge. Gives the cells.
+// down, and a row ends where the next cell would come near the right edge. Returns the cells.
 std::vector<ColorCell> drawCells(Graphics& g, const std::vector<Color>& colors);
 
 }  // namespace tavrelkin

@@ -27,7 +27,7 @@ class frmVesk : public Window {
  public:
   frmVesk();
 
-  // The window that the program opens first. Makes and shows a new one where it has been closed.
+  // The window that the program opens first. Makes and shows a new one if it has been closed.
   static Ref<frmVesk> Default();
 
   // The zoom step, 1 to 3. A pixel of the screen is a square cell of 4 * step canvas pixels a side.
@@ -94,7 +94,7 @@ class frmVesk : public Window {
   bool mnuFavFromColors();
   bool mnuColorBlind();
 
-  // One step of tracking: labels and preview show the pointer's place, or the held one where a coordinate is locked.
+  // One step of tracking: labels and preview show the pointer's position, but keep a locked coordinate.
   void doTrackSysCursor();
   // Takes a sample around a screen point and draws it on imgScreen.
   void drawSys(Int32 x, Int32 y);
@@ -160,11 +160,11 @@ class frmVesk : public Window {
   // window.
   bool requestScreen();
   void rememberPointer();
-  // The colour on the screen under the pointer, which is at (x, y) of the preview. Where the screen can't be read, the
-  // preview's own pixel there, or nothing outside of the preview.
+  // The colour on the screen under the pointer, which is at (x, y) of the preview. If the screen can't be read, this is
+  // the preview's pixel at (x, y), or nothing outside of the preview.
   std::optional<Color> colorUnderPointer(Int32 x, Int32 y);
 
-  // Note what the preview now shows: a view's cells, which keys and assistive technologies can choose, or the screen.
+  // Record what the preview now shows: a view's cells, which keys and assistive technologies can choose, or the screen.
   void showsCells(const char* view, std::vector<ColorCell> cells);
   void showsScreen();
   // Arrow keys mark a cell. Space, Return and Enter take the marked cell's colour or, where no cell is marked, the

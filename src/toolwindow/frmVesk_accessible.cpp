@@ -1,4 +1,4 @@
-// What the tool window and its preview are to assistive technologies.
+// How assistive technologies see the tool window and its preview.
 
 #include <memory>
 
@@ -8,14 +8,14 @@
 
 namespace tavrelkin {
 
-// The preview: a picture that tells the colour at its centre, or the cells of the view that it shows.
+// The preview: a picture with the colour at its centre as the description, or the cells of the view that it shows.
 class frmVesk::PreviewAccessible : public Accessible {
  public:
   explicit PreviewAccessible(frmVesk& window) : window_(window) {}
 
   AccessibleRole role() const override { return AccessibleRole::picture; }
   String name() const override { return window_.shownView_; }
-  // Read where the preview's own marker looks: just inside the centre cell.
+  // Reads the pixel that also decides the marker's colour: just inside the centre cell.
   String description() const override {
     if (window_.shownView_ != kScreenView) return {};
     Canvas& canvas = window_.imgScreen;

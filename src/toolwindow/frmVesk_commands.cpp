@@ -1,4 +1,4 @@
-// The tool window's menu commands, but for those that choose a view, and the loop that follows the pointer.
+// The tool window's menu commands, except those that choose a view, and the loop that follows the pointer.
 
 #include "color/zrColorLib.h"
 #include "controls/ColorDrag.h"
@@ -50,8 +50,8 @@ void frmVesk::rememberPointer() {
   varLastX = System::MouseX();
 }
 
-// No pause and no rate of its own: the yield hands the loop its turns. Where the user is still being asked for the
-// screen, the pointer's place is not known before the answer. Without the screen there is nothing to follow.
+// The loop has no pause and no rate: the scheduler decides when a yield returns. If the user is asked for permission
+// first, the pointer's position is known only after the answer. Without the screen the loop ends.
 void frmVesk::pokeMouse_Run() {
   if (!System::CanReadScreen() && System::AwaitScreen()) rememberPointer();
   while (flgTrackMouse && System::AwaitScreen()) {
@@ -106,7 +106,7 @@ bool frmVesk::EditPaste() {
   return true;
 }
 
-// The window may be closed before the user has picked a colour.
+// The reference keeps the window alive, since it may be closed before the user has picked a colour.
 bool frmVesk::requestScreen() {
   return System::RequestScreen([window = Ref<frmVesk>(this)](Color c) { window->setColor(c, false); });
 }

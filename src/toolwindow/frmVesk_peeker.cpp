@@ -13,7 +13,7 @@ namespace {
 constexpr Color kGridColor{0xCECECE};
 constexpr Color kMarkerOnDark{0xF97324};
 
-// Just inside a cell, past any grid line.
+// Reads the pixel just inside the centre cell, beyond any grid line.
 Color markerColorOver(const Graphics& g, const PreviewGrid& grid) {
   const Color centre = g.Pixel(grid.markerX() + 1, grid.markerY() + 1);
   return readColorValue(centre) < 0.5 ? kMarkerOnDark : kBlack;
@@ -31,8 +31,8 @@ void frmVesk::doTrackSysCursor() {
   varLastY = y;
 }
 
-// The picture is looked up for each pixel: where a second sample begins in the middle of this one, both write into the
-// newest picture, and the next step puts it right.
+// Each pixel goes to the picture that zoomImage then is. If a second sample begins in the middle of this one, both
+// write to the newer picture, and the next step corrects it.
 void frmVesk::drawSys(Int32 x, Int32 y) {
   const PreviewGrid grid(ScreenZoomValue, imgScreen.Width, imgScreen.Height);
   zoomImage = NewPicture(grid.columns + 1, grid.rows + 1, 32);
@@ -107,8 +107,8 @@ void frmVesk::slZoom_ValueChanged() {
   imgScreen.Refresh(true);
 }
 
-// Cells show their colours by themselves; all else takes the screen, and the user repeats a press that had to ask for
-// it.
+// Cells need no screen. Any other press does; if it has to ask for permission first, it takes no colour, and the user
+// repeats it.
 bool frmVesk::imgScreen_MouseDown(Int32, Int32) {
   pressTakes_ = !shownCells_.empty() || requestScreen();
   return static_cast<bool>(zoomImage);

@@ -62,7 +62,7 @@ void frmVesk::drawColorsInScreen(Graphics* g) {
   if (g) showsCells("Colors in preview", drawCells(*g, distinctColors(*zoomImage, 112)));
 }
 
-// The window is up before its colours arrive.
+// Shows the window before it adds the colours.
 void frmVesk::saveColorsInScreen() {
   const Ref<frmFav> window = New<frmFav>();
   window->Show();
@@ -114,7 +114,7 @@ void frmVesk::showsScreen() {
   imgScreen.announce(isNew ? AccessibleChange::cells : AccessibleChange::description);
 }
 
-// The label tells the cell's colour, as it does where the pointer rests on it.
+// The label shows the cell's colour, as it does while the pointer is on the cell.
 void frmVesk::markCell(std::size_t index) {
   Graphics& g = imgScreen.Graphics();
   if (markedCell_ >= 0) eraseMark(g, shownCells_.at(static_cast<std::size_t>(markedCell_)));

@@ -22,7 +22,7 @@ class AppTest : public RuntimeTest {
   static Kind& front() {
     return dynamic_cast<Kind&>(*Application::current().frontWindow());
   }
-  // The names of the items that can't be chosen, in the order of the menus, each with a blank behind it.
+  // The names of the disabled items, in the order of the menus, each followed by a blank.
   static String greyItems(const std::vector<Ref<MenuItem>>& items) {
     String names;
     for (const Ref<MenuItem>& item : items) {
@@ -68,7 +68,7 @@ TEST_F(AppTest, ItemsAreEnabledByTheFrontWindow) {
   const String ofTool = "mnuFollow mnuPokeColor mnuLock mnuLockX mnuLockY mnuFavFromColors ";
   const String ofToolsView = "mnuViewSuggestions mnuShowColors mnuShowGuide ";
   const String copies = "mnuEditCopyHex EditCopy ";
-  // What is grey while the window is in front that the command opens.
+  // A command, and the items that are grey while the window that it opens is in front.
   const struct {
     const char* opens;
     String grey;
@@ -86,7 +86,7 @@ TEST_F(AppTest, ItemsAreEnabledByTheFrontWindow) {
   choose("mnuNewColors");
 }
 
-// Both the tool window and the application answer to it.
+// Both the tool window and the application have a handler for the command.
 TEST_F(AppTest, ACommandGoesToTheFrontWindowFirst) {
   choose("mnuColorBlind");
   EXPECT_EQ(open().size(), 1u) << "the tool window shows a view";

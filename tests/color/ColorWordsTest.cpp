@@ -23,7 +23,7 @@ TEST(ColorWordsTest, NameColorsAsPeopleDo) {
   EXPECT_EQ(colorInWordsAndNumbers(Color{0xFF8000}), "orange, 255.128.0, #FF8000");
 }
 
-// Every colour has a name, and there are not more of them than one can know.
+// Every colour has a name, and there are few enough names to learn them.
 TEST(ColorWordsTest, NameEveryColor) {
   std::set<String> names;
   for (Int32 i = 0; i < 52 * 52 * 52; ++i)

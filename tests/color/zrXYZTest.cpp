@@ -13,9 +13,9 @@
 namespace tavrelkin {
 namespace {
 
-// What dichromats see, as computed once by another program in another language. Every entry stays the same when the
-// powers err by their last bit, and each constant of the model shows to its last digit.
-// A line has a colour, and what is seen of it with deficiency 0, 1 and 2 at a gamma of 1.0, 1.7, 1.8, 2.2 and 0.0001.
+// The colours that dichromats see, as computed by another program in another language. An error in the last bit of a
+// power changes no entry; an error in the last digit of a constant of the model changes some. Each line has a colour,
+// then for each gamma (1.0, 1.7, 1.8, 2.2 and 0.0001) the colours that are seen with deficiency 0, 1 and 2.
 constexpr double kTableGammas[] = {1.0, 1.7, 1.8, 2.2, 0.0001};
 constexpr std::string_view kDichromatTable = R"(
 FFFFFE FFFFFD FFFFFF FFFFFF FFFFFE FFFFFF FFFFFF FFFFFE FFFFFE FFFFFF FFFFFE FFFFFE FFFFFF FFFFFF FFFFFF FFFFFF
@@ -45,7 +45,7 @@ void set(zrXYZ& xyz, Double x, Double y, Double z) {
 
 using Seen = std::array<std::uint32_t, 3>;
 
-// What is seen with each deficiency.
+// The colours that are seen with each deficiency.
 Seen seen(const zrXYZ& xyz) {
   Seen all{};
   for (std::size_t i = 0; i < all.size(); ++i)
@@ -86,7 +86,7 @@ TEST(DichromatTest, AGammaWrittenAfterwardsOnlyEncodesUntilAColorIsTaken) {
 }
 
 TEST(DichromatTest, EndsAtTheBoundsForGammasWithoutSense) {
-  // A colour, a gamma and what is seen with each deficiency.
+  // A colour, a gamma, and the colour that is seen with each deficiency.
   const std::tuple<std::uint32_t, Double, std::uint32_t> rows[] = {
       {0x000000, 0.0, 0xFFFFFF},   // every channel becomes 1
       {0x000000, -1.8, 0},         // infinite, and then no number
@@ -98,7 +98,7 @@ TEST(DichromatTest, EndsAtTheBoundsForGammasWithoutSense) {
     EXPECT_EQ(seen(color, gamma), (Seen{same, same, same})) << std::hex << color << " at " << gamma;
 }
 
-// Each of these divides by zero or starts from what is no number.
+// Each row divides by zero, or starts from NaN or an infinity.
 TEST(DichromatTest, AnyTristimulusValuesGiveAColor) {
   const std::tuple<Double, Double, Double, Int32, Color> rows[] = {
       {0.5, 0.5, -1, 0, RGB(0, 182, 255)}, {0.5, 0.5, -1, 2, RGB(0, 209, 213)},
@@ -114,7 +114,7 @@ TEST(DichromatTest, AnyTristimulusValuesGiveAColor) {
     EXPECT_THROW(zrXYZ(kWhite).getDichromatTranformation(index, kWhite), OutOfBoundsException) << index;
 }
 
-// The two ways back to a colour. A factor that is off by its last digit changes one of the rows with large values.
+// The two conversions to a colour. A factor that is off by its last digit changes one of the rows with large values.
 TEST(zrXYZTest, ConvertsToAColorAndToWholeParts) {
   const std::tuple<Double, Double, Double, Color, Color> rows[] = {
       {0.3, 0.3, 0.3, RGB(91, 72, 69), kBlack},

@@ -10,7 +10,7 @@
 
 namespace tavrelkin {
 
-// A window with a control of each kind, whose events it writes down with the colour that each comes with.
+// A window with a control of each kind. It logs their events, each with a colour.
 class Host : public Window {
  public:
   explicit Host(Int32 channel = 0) : Window({.title = "Host", .width = 431, .height = 200}) {
@@ -51,7 +51,7 @@ class ControlsTest : public RuntimeTest {
  protected:
   ControlsTest() { host->Show(); }
 
-  // What the host writes down of an act.
+  // Performs an act and returns the log of its events.
   String after(const std::function<void()>& act) const {
     host->log = "";
     act();

@@ -1,4 +1,4 @@
-// The colour controls by key, and as assistive technologies meet them.
+// The colour controls under keys and assistive technologies.
 
 #include <QAccessible>
 #include <QWidget>

@@ -24,7 +24,7 @@ class zrClutPaletteTest : public ControlsTest {
     table->Count = upperBound;
     palette.SetClut(table);
   }
-  // A pixel of a cell, counted from its frame's corner.
+  // A pixel of a cell; (0, 0) is the top left corner of its frame.
   Color pixel(Int32 index, Int32 x, Int32 y) const {
     return palette.Graphics().Pixel(index % kColumns * kPitch + x, index / kColumns * kPitch + y);
   }
@@ -52,8 +52,8 @@ TEST_F(zrClutPaletteTest, PaintsACellForEachEntryButTheLast) {
 }
 
 TEST_F(zrClutPaletteTest, AClickSelectsByWhereTheButtonGoesUp) {
-  // At x = 390 stands no column: that is the next row's first cell. Of the cells from 240 on one row of pixels shows.
-  // At 41 the frame is shared with the cell that was marked before.
+  // There is no column at x = 390: the position belongs to the first cell of the next row. Of the cells from 240 on,
+  // only one row of pixels is visible. Cell 41 shares its frame with the cell that was marked before.
   const std::tuple<Int32, Int32, Int32, Int32> rows[] = {
       {12, 12, 0, kLast},    {13, 0, 1, kLast},      {0, 13, 30, kLast},    {150, 20, 41, kLast}, {390, 0, 30, kLast},
       {390, 104, -1, kLast}, {187, 104, 254, kLast}, {200, 104, -1, kLast}, {-12, 5, 0, kLast},   {-13, 18, 29, kLast},

@@ -1,4 +1,4 @@
-// The box, and the drags that a box and a button begin alike.
+// The box, and the drags that start in the same way from a box and a button.
 
 #include <array>
 
@@ -19,15 +19,15 @@ constexpr Color kOrange{0xFF8000};
 
 class zrColorBoxTest : public ControlsTest {
  protected:
-  // Presses at (6, 7), where the pointer then stays.
+  // Moves the pointer to (6, 7) of a control and presses the button.
   static void press(const RectControl& control) {
     QCursor::setPos(control.native().mapToGlobal(QPoint(6, 7)));
     processEvents();
     gesture::press(control, 6, 7);
   }
 
-  // Moves the pressed pointer; true where that begins a drag. The offscreen platform ends it at its beginning, but what
-  // began stays until events come.
+  // Moves the pointer while the button is held. Returns whether a drag has started. The offscreen platform ends it at
+  // once, but the drag object exists until events are processed.
   bool drags(const RectControl& control) {
     gesture::dragTo(control, 6, 7);
     const auto* drag = QCoreApplication::instance()->findChild<QDrag*>();

@@ -58,8 +58,8 @@ TEST_F(zrColorButtonTest, DisabledItPalesAndStillTakesDrops) {
 }
 
 TEST_F(zrColorButtonTest, ThePointerChangesItsStateAndHasItPainted) {
-  // Whether the button is enabled, whether the pointer enters or leaves, the state before and after, and whether that
-  // paints.
+  // Whether the button is enabled, whether the pointer enters (or leaves), the state before and after, and whether the
+  // button is painted.
   const std::tuple<bool, bool, Int32, Int32, bool> rows[] = {{true, true, 0, 1, true},
                                                              {false, true, 0, 0, false},
                                                              {true, false, 1, 0, true},

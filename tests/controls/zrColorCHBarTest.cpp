@@ -28,7 +28,7 @@ TEST_F(zrColorCHBarTest, ABaseColorGivesTheChannelsValueAndTip) {
   }
 }
 
-// Nothing falls short by a rounding.
+// Rounding makes no value smaller.
 TEST_F(zrColorCHBarTest, EveryByteOfAChannelIsRead) {
   for (const Int32 channel : {0, 1, 2, 5, 6, 7, 8}) {
     zrColorCHBar& bar = open(channel, kBlack);
@@ -96,7 +96,7 @@ TEST_F(zrColorCHBarTest, ADroppedColorGivesItsChannelOnly) {
 TEST_F(zrColorCHBarTest, TheStripStepsByTwoAndIsNotScaled) {
   zrColorCHBar& bar = open(0, kBlack);
   bar.SetValue(128);
-  // The frame, the strip's steps, and the indicator with its two frames. Its row 2 keeps the strip.
+  // The frame, the strip's steps, and the indicator with its two frames. Row 2 of the indicator shows the strip.
   const std::tuple<Int32, Int32, Color> rows[] = {
       {0, 0, Color{0x949494}},  {5, 5, kBlack},  {6, 5, RGB(2, 0, 0)},    {118, 5, RGB(226, 0, 0)},
       {57, 0, Color{0x606060}}, {58, 1, kWhite}, {60, 5, RGB(128, 0, 0)}, {60, 2, RGB(110, 0, 0)}};

@@ -16,7 +16,7 @@ using Strings = std::vector<std::string>;
 constexpr Color kOrange{0xFF8000};
 constexpr auto kOrangeLabel = "(12)   RGB: (255, 128, 0)   Hex: FF8000";
 
-// A favourites window as whoever makes one leaves it, with a new palette.
+// A test with a window that shows a new palette.
 class frmFavTest : public RuntimeTest {
  protected:
   frmFavTest() {
@@ -33,12 +33,12 @@ class frmFavTest : public RuntimeTest {
 
   // A menu command reaches the front window, which reports it as handled.
   static void choose(const String& item) { EXPECT_TRUE(Application::current().dispatch(item)) << item; }
-  // What the user answers in the save dialog.
+  // Sets the user's answer in the save dialog.
   void answer(const std::string& name) {
     fake().saveChoice = [this, name](const std::string&) { return folder.path(name); };
   }
 
-  // Entry 12 is orange, and the user has clicked on it, or behind the last cell.
+  // Makes entry 12 orange and clicks on it; or clicks behind the last cell.
   void selectOrange() const {
     window->TheClut->SetColor(kOrange, 12);
     window->UpdatePalette();
@@ -86,7 +86,7 @@ TEST_F(frmFavTest, SaveAsksForAFileOnceAndSaveAsEachTime) {
   choose("mnuSaveClut");
   EXPECT_EQ(window->Title.get(), "Untitled Colors");
   EXPECT_FALSE(window->currFile) << "the user gave up";
-  // Whatever the name, it is a swatch under that name.
+  // With any extension, a swatch file is written under that name.
   for (const std::string name : {"table.act", "no extension", "MINE.ACO"}) {
     answer(name);
     gesture::shortcut(*window, "Cmd+Shift+S");
@@ -112,7 +112,7 @@ TEST_F(frmFavTest, TheNameDecidesHowAFileIsReadAndAFailureClosesTheWindow) {
     std::filesystem::copy(folder.path("B.ACO"), folder.path(copy));
   folder.write("D.Act", std::string("\xFF\x80\0", 3));
   std::filesystem::create_directory(folder.path("folder.aco"));
-  // A name, the upper bound (-1 where the read fails) and the message that comes.
+  // A name, the upper bound (-1 if the read fails) and the message.
   const std::tuple<const char*, Int32, const char*> rows[] = {
       {"B.ACO", 1, ""},  {"taco", 1, ""},         {"D.Act", 255, ""},
       {"e.txt", -1, ""}, {"missing.aco", -1, ""}, {"folder.aco", -1, "Unable to read color swatch"}};

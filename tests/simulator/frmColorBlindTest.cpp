@@ -9,7 +9,7 @@
 namespace tavrelkin {
 namespace {
 
-constexpr Color kGrey{0x808080};  // which takes a tint
+constexpr Color kGrey{0x808080};  // becomes slightly tinted
 
 class frmColorBlindTest : public RuntimeTest {
  protected:
@@ -24,7 +24,7 @@ class frmColorBlindTest : public RuntimeTest {
     gesture::shortcut(*window, "Cmd+V");
   }
 
-  // Every place where a finished update shows.
+  // Checks every control that shows the results of an update.
   void expectResults(Color c, Double gamma) const {
     zrXYZ model(c);
     model.gamma = gamma;
@@ -106,7 +106,7 @@ TEST_F(frmColorBlindTest, TheNormalBoxHasTheKeyboardWheneverTheWindowComesToTheF
 
 TEST_F(frmColorBlindTest, TheTabulatorKeyVisitsWhatTakesKeys) {
   auto& box = window->cmdColor;
-  gesture::click(box[1], 10, 10);  // which takes no keyboard by that
+  gesture::click(box[1], 10, 10);  // does not move the focus
   for (const RectControl* control : std::initializer_list<const RectControl*>{
            &box[0], &box[1], &box[2], &box[3], &window->cmdUpdate, &window->cmbGamma, &window->txtGamma, &box[0]}) {
     ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(*control); })) << control->Name() << control->Index;

@@ -1,4 +1,4 @@
-// The table, and its files byte for byte, with all in which its readers and writers differ.
+// The table, and its files byte for byte, including the differences between readers and writers.
 
 #include <filesystem>
 #include <string>
@@ -19,7 +19,7 @@ void expectNew(const zrClut& table) {
   EXPECT_EQ(table.aColors, std::vector<Color>(256, kWhite));
 }
 
-// As it stands after reading a file of so many colours.
+// Gives a table the upper bound that it has after reading a file of `upperBound` colours.
 void shorten(zrClut& table, Int32 upperBound) {
   table.Count = upperBound;
   table.aColors.resize(static_cast<std::size_t>(upperBound) + 1);
@@ -47,7 +47,7 @@ TEST(zrClutTest, AFullTableTakesNoMoreUntilTheCursorIsBack) {
   expectNew(table);
 }
 
-// The bounds are 0 and 255 whatever the table's own are, which a shorter table finds out the hard way.
+// The bounds are 0 and 255 for each table, so a shorter table throws.
 TEST(zrClutTest, EntriesAreSetWithinFixedBounds) {
   zrClut table;
   for (const Int32 i : {-1, 256}) {
@@ -113,7 +113,8 @@ class SwatchFilesTest : public RuntimeTest {
   String writtenClut(const zrClut& table) const {
     return table.WriteClut(folder.item("out")) ? folder.read("out") : "";
   }
-  // The table holds so many colours of the file, the last of them with only so many channels, and is otherwise as new.
+  // Expects that the table has `colors` colours of the file, the last of them with only `channels` channels, and is
+  // otherwise new.
   static void expectRead(const zrClut& table, Int32 colors, std::size_t channels = 3) {
     for (Int32 i = 0; i <= table.Count; ++i) {
       const Color c = colorAt(i);

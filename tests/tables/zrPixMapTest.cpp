@@ -13,8 +13,8 @@ using Bits = std::vector<std::uint32_t>;
 
 constexpr std::uint32_t kGround = 0x404040;
 
-// Three pixels by one, of 8 bits: black, magenta, and a colour whose bytes look like a character of three. Magenta is
-// transparent.
+// A map of 3 by 1 pixels and a depth of 8: black, magenta, and a colour whose three bytes are a character in UTF-8.
+// Magenta is transparent.
 const String kDigits = "H0003010802000000FF00FFE282AC01000102";
 const String kBytes("D\x00\x03\x01\x08\x02\x00\x00\x00\xFF\x00\xFF\xE2\x82\xAC\x01\x00\x01\x02", 19);
 
@@ -34,10 +34,10 @@ Bits pixelsOf(const Picture& picture) {
 
 class zrPixMapTest : public RuntimeTest {
  protected:
-  // A map of one row: black, white, red, green and a pixel whose index the table lacks.
+  // A map of one row: black, white, red, green, and a pixel whose index is not in the table.
   zrPixMapTest() { map->CreateFromPixMapData("H0005012003000000FFFFFFFF000000FF00000001020309"); }
 
-  // What there is on a ground of two or five pixels after this.
+  // The pixels of a grey picture, one row of `width` pixels, after `draw`.
   static Bits drawn(Int32 width, const std::function<void(Graphics&)>& draw) {
     const Ref<Picture> ground = pictureOf(width, Bits(static_cast<std::size_t>(width), kGround));
     draw(ground->Graphics());
@@ -101,7 +101,7 @@ TEST_F(zrPixMapTest, TheTransparentColorIsFoundOrAddedAndTakes32Bits) {
   }
 }
 
-// The two painters disagree about black: the image shows it, the mask hides it.
+// The two operations treat a black mask colour differently: DrawPixMap draws it, the mask hides it.
 TEST_F(zrPixMapTest, ThePaintersFollowTheIndexOfTheMask) {
   constexpr std::uint32_t on = 0;
   constexpr std::uint32_t off = 0xFFFFFF;
@@ -120,7 +120,7 @@ TEST_F(zrPixMapTest, ThePaintersFollowTheIndexOfTheMask) {
   }
 }
 
-// What a text is too short for counts as 0, as if so many zeros stood there.
+// A text that is too short is read as if zeros followed.
 TEST_F(zrPixMapTest, ATextMayEndAnywhere) {
   for (const String& text : {kDigits, kBytes}) {
     const bool hexadecimal = text[0] == 'H';

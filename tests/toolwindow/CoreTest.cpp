@@ -75,7 +75,7 @@ TEST_F(CoreTest, CopyGivesTheSelectedColorAndPasteTakesOne) {
   EXPECT_EQ(window->SelectedColor, Color{0xFF8000});
 }
 
-// A thread that gets a turn meanwhile finds the swatches done, and any number of the bars.
+// When a thread gets a turn during the update, the swatches are up to date, and any number of the bars.
 TEST_F(CoreTest, ANewColorLetsThreadsRunBetweenTheBars) {
   Thread watcher{*window, "watcher"};
   std::set<std::ptrdiff_t> done;
@@ -93,9 +93,9 @@ TEST_F(CoreTest, ANewColorLetsThreadsRunBetweenTheBars) {
   for (int i = 0; i < 300; ++i) {
     now = i % 2 == 0 ? kWhite : Color{0x70ABFF};
     window->setColor(now, false);
-    RuntimeBackgroundTask();  // the calls don't fall into step with the looks at the clock
+    RuntimeBackgroundTask();  // keeps the calls out of step with the reads of the clock
   }
-  now = kBlack;  // which ends it
+  now = kBlack;  // ends the thread
   fake().advance(1ms);
   EXPECT_EQ(done, std::set<std::ptrdiff_t>({1, 2, 3, 4, 5, 6}));
 }

@@ -1,4 +1,4 @@
-// Following the pointer, locks and Poke, and how all of it ends.
+// Following the pointer, locks and Poke, and the end of following.
 
 #include "runtime/toolkit/Runtime.h"
 #include "toolwindow/ToolWindowTest.h"
@@ -6,7 +6,7 @@
 namespace tavrelkin {
 namespace {
 
-// A tool window whose end can be seen.
+// A tool window that counts destroyed windows.
 class MortalVesk : public frmVesk {
  public:
   static inline int ended = 0;
@@ -41,8 +41,8 @@ TEST_F(FollowTest, EachRoundShowsThePointersPlace) {
 }
 
 TEST_F(FollowTest, LocksHoldTheirCoordinate) {
-  // X, Y and L are the three lock commands. With the n-th one the pointer is at (n, 10 n).
-  // Then it moves to (100, 200).
+  // X, Y and L are the three lock commands. At the n-th command the pointer is at (n, 10 n). After the last it moves to
+  // (100, 200).
   const std::tuple<const char*, const char*, const char*, const char*> rows[] = {
       {"XX", "2, 0", "{100, 200}", ""},
       {"YY", "0, 20", "{100, 200}", ""},
@@ -75,8 +75,8 @@ TEST_F(FollowTest, LocksHoldTheirCoordinate) {
   EXPECT_EQ(window->view0_lblcoordinates.Text.get(), "{1, 200}");
 }
 
-// The poke's own sample is drawn whole while the thread stands in the middle of one, also where the thread gets turns
-// in between and both write into the newest picture.
+// Poke draws its whole sample while the thread is in the middle of another one, even if the thread gets turns meanwhile
+// and both write to the newest picture.
 TEST_F(FollowTest, PokeInTheMiddleOfASample) {
   for (const bool threadRunsMeanwhile : {false, true}) {
     fake().pointerAt = {300, 200};
@@ -157,7 +157,7 @@ TEST_F(FollowTest, TwoWindowsShareTheMarks) {
   choose("mnuFollow");
   const Ref<frmVesk> second = New<frmVesk>();
   second->Show();
-  choose("mnuFollow");  // finds its own flag clear, and starts
+  choose("mnuFollow");  // the flag of the second window is clear, so it starts
   choose("mnuLockX");
   window->Show();
   EXPECT_EQ(marks(), "mnuFollow mnuLockX ");

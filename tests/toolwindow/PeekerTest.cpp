@@ -1,4 +1,4 @@
-// The preview: what a sample reads, what is drawn of it, and what the mouse does in it.
+// The preview: the pixels of a sample, their drawing, and the mouse in the preview.
 
 #include "toolwindow/ToolWindowTest.h"
 

@@ -103,7 +103,7 @@ TEST_F(PermissionTest, AGestureThatHasToAskTakesNothing) {
   }
 }
 
-// The preview shows the colours that the pointer stands on.
+// The colour under the pointer comes from the preview.
 TEST_F(PermissionTest, WithoutTheScreenThePreviewsOwnPixelsCount) {
   choose("mnuViewSuggestions");
   const Color cell = shown(12, 12);
@@ -135,7 +135,7 @@ TEST_F(PermissionTest, WhereTheUserPicksSingleColorsPokeTakesOneAndFollowingEnds
   EXPECT_TRUE(fake().pixelsRead.empty());
 }
 
-// The desktop shows the pixels under a movement later than it tells of the movement.
+// The desktop reports a movement of the pointer before it sends the pixels there.
 TEST_F(PermissionTest, AMovementIsReadOnceMoreWhenTheScreenHasChanged) {
   fake().screenState = ScreenState::live;
   gesture::press(window->imgScreen, 100, 100);

@@ -9,7 +9,7 @@ namespace tavrelkin {
 
 using namespace std::chrono_literals;
 
-// A tool window in front of a screen whose every pixel tells where it lies.
+// A test with a tool window, and a screen on which the colour of each pixel encodes its position.
 class ToolWindowTest : public RuntimeTest {
  protected:
   ToolWindowTest() {
@@ -22,14 +22,14 @@ class ToolWindowTest : public RuntimeTest {
     return static_cast<std::uint32_t>((at.x + 1000) % 4096 * 4096 + (at.y + 1000) % 4096);
   }
   static Color colorAt(Int32 x, Int32 y) { return Color{placeAsColor({x, y})}; }
-  // How far a sample reaches around its centre.
+  // The number of pixels that a sample has on each side of its centre.
   static Int32 reachX(Int32 step) { return 51 / step; }
   static Int32 reachY(Int32 step) { return 24 / step; }
 
   // A menu command reaches the front window.
   static void choose(const String& item) { EXPECT_TRUE(Application::current().dispatch(item)) << item; }
 
-  // The marked items of the menu bar, in the order of the menus, each with a blank behind it.
+  // The names of the marked items of the menu bar, in the order of the menus, each followed by a blank.
   static String marks() { return marksOf(Application::current().MenuBar->menus()); }
   static String marksOf(const std::vector<Ref<MenuItem>>& items) {
     String found;
@@ -52,7 +52,7 @@ class ToolWindowTest : public RuntimeTest {
     EXPECT_GT(fake().pixelsRead.size(), 2u);
   }
 
-  // What a sample of the screen shows at a step.
+  // The expected cells of a sample around a position of the screen, at a zoom step.
   using Cells = std::function<Color(Int32 column, Int32 row)>;
   static Cells sampleOf(ScreenPoint centre, Int32 step) {
     return [=](Int32 column, Int32 row) {
@@ -60,7 +60,7 @@ class ToolWindowTest : public RuntimeTest {
     };
   }
   Color shown(Int32 x, Int32 y) const { return window->imgScreen.Graphics().Pixel(x, y); }
-  // The first cell of the preview that is not as it should be, inside of all lines; or nothing.
+  // The column and row of the first cell of the preview with a wrong colour inside its lines; empty if there is none.
   String firstFault(const Cells& wanted) const {
     const Int32 side = 4 * window->ScreenZoomValue;
     for (Int32 column = 0; column < 408 / side; ++column) {

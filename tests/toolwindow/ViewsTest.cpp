@@ -1,4 +1,4 @@
-// What the preview shows in place of the screen, and the commands that choose it.
+// The views that the preview shows instead of the screen, and the commands that choose them.
 
 #include <algorithm>
 
@@ -24,8 +24,8 @@ Ref<Picture> pictureOf(const Colors& colors, Int32 width, Int32 height) {
   return picture;
 }
 
-// More than 256 colours of which no two are alike: each step is 31, at least two steps lie between any two of them, and
-// they are not so light that these 62 would be within the tolerance.
+// More than 256 colours, no two of which are similar. Their channels are multiples of 31, and any two colours differ by
+// at least two such steps. None is so light that a difference of 62 is within the tolerance.
 Colors unlikeColors() {
   Colors colors;
   for (Int32 i = 0; i < 9 * 9 * 9; ++i) {
@@ -110,7 +110,7 @@ TEST_F(ViewsTest, TheGridAndANewPaletteShowTheColorsUpToTheirLimits) {
   const std::tuple<Ref<Picture>, Colors, Colors> rows[] = {
       {pictureOf(all, 25, 20), {all.begin(), all.begin() + 112}, {all.begin(), all.begin() + 255}},
       {pictureOf({}, 20, 20), {}, {}},
-      {window->zoomImage, {kWhite}, {kWhite}}};  // blank, as it is before the first sample
+      {window->zoomImage, {kWhite}, {kWhite}}};  // blank, as before the first sample
   choose("mnuShowColors");
   for (const auto& [picture, cells, entries] : rows) {
     window->zoomImage = picture;
@@ -145,8 +145,8 @@ TEST_F(ViewsTest, NineSwatchesShowTheColorOfTheLastPaintAsDichromatsSeeIt) {
 }
 
 TEST_F(ViewsTest, OneAtATimeExceptWhileFollowing) {
-  // S, J and D choose the three views, F follows, G shows the guides, and c clicks in the preview. After each command
-  // come the letters of what is marked, with an asterisk where the preview has been painted again.
+  // S, J and D choose the three views, F follows, G shows the guides, and c clicks in the preview. The trace has for
+  // each command the letters of the marked items, and an asterisk if the preview was painted again.
   const std::pair<const char*, const char*> names[] = {
       {"Follow ", "F"}, {"Suggestions ", "S"}, {"ShowColors ", "J"}, {"ColorBlind ", "D"}, {"ShowGuide ", "G"}};
   String trace;

@@ -46,13 +46,13 @@ class Host : public Window {
   Canvas canvas{*this, "canvas"};
   bool takes = true;
   int paints = 0;
-  std::array<Color, 3> below;  // what Paint found
+  std::array<Color, 3> below;  // the pixels before Paint
   String log;
 };
 
 class CanvasTest : public RuntimeTest {
  protected:
-  // What becomes of a text dropped on the canvas.
+  // Drops a text on the canvas. Returns the log, and whether the text was copied.
   String drop(Qt::DropActions offered, Qt::KeyboardModifiers held) const {
     window->log.clear();
     QMimeData data;
@@ -64,7 +64,7 @@ class CanvasTest : public RuntimeTest {
     return window->log + (drop.isAccepted() && drop.dropAction() == Qt::CopyAction ? "copied" : "not copied");
   }
 
-  // How many pixels of the screen differ from what `expected` gives for the pixel of the canvas they belong to.
+  // The number of screen pixels that differ from `expected` of the canvas pixel that they belong to.
   int pixelsOtherThan(const std::function<Color(Int32 x, Int32 y)>& expected, double scale) const {
     processEvents();
     const int width = qRound(60 * scale);
@@ -131,7 +131,7 @@ TEST_F(CanvasTest, OnlyAPressThatIsTakenGrantsDragAndReleaseUntilTheButtonIsUp) 
     gesture::dragTo(canvas, -5, 200);
     gesture::release(canvas, -5, 200);
     gesture::press(canvas, 1, 1);
-    gesture::hover(canvas, 2, 2);  // the release went elsewhere, to a dialog perhaps
+    gesture::hover(canvas, 2, 2);  // the release went elsewhere, for example to a dialog
     gesture::release(canvas, 2, 2);
   }
   EXPECT_EQ(window->log, "down 3,4 drag -5,200 up -5,200 down 1,1 move 2,2 down 3,4 down 1,1 move 2,2 ");
@@ -161,7 +161,7 @@ TEST_F(CanvasTest, ADropIsCopiedAndNeverMovedAndAllThatADisabledCanvasTakes) {
   EXPECT_EQ(drop(Qt::CopyAction | Qt::MoveAction, Qt::ShiftModifier), "drop #FF8000 copied");
 }
 
-// On a screen with more pixels than the canvas has itself.
+// The screen has more pixels than the canvas.
 TEST_F(CanvasTest, ATextIsFinerThanThePixelsUntilItIsDrawnOver) {
   window->canvas.Paint = [](Graphics* g) {
     g->DrawRect(0, 0, 60, 20);

@@ -1,4 +1,4 @@
-// The controls that the toolkit has of its own: the popup menu, the slider, the label and the line.
+// The toolkit's ready-made controls: the popup menu, the slider, the label and the line.
 
 #include <string>
 #include <tuple>
@@ -39,7 +39,8 @@ class FieldTest : public RuntimeTest {
  protected:
   FieldTest() { window->Show(); }
 
-  // What the slider tells of a press at the first column and a drag over the others, and after the dot of the release.
+  // The events of the slider for a press at the first column and a drag over the others; after the dot, those of the
+  // release.
   String slide(bool live, const std::vector<Int32>& columns) const {
     Slider& slider = window->slider;
     slider.Value = 0;

@@ -1,4 +1,4 @@
-// Windows and their controls as the user meets them, and how windows end.
+// Windows and their controls under the gestures of a user, and the end of windows.
 
 #include <functional>
 #include <string>
@@ -19,7 +19,7 @@
 namespace tavrelkin {
 namespace {
 
-// Writes down what happens to it. Its one command closes it, as do its button, its slider and its canvas.
+// A window that logs its events. Its command, its button, its slider and its canvas all close it.
 class Host : public Window {
  public:
   explicit Host(std::string& events, WindowFrame frame = WindowFrame::document)
@@ -45,7 +45,7 @@ class Host : public Window {
   void Event_Open() override { log += "window "; }
   void Event_Close() override { log += "close "; }
 
-  // What a handler may do that closes its window.
+  // Closes the window and then still uses its controls, as a handler may.
   bool closeAndGoOn() {
     Close();
     canvas.Graphics().Pixel(0, 0, kBlack);
@@ -71,7 +71,7 @@ class WindowTest : protected Log, public RuntimeTest {
     Application::current().MenuBar->Append(menu);
   }
 
-  // An open window, with the events so far forgotten.
+  // Opens a window, and clears the log.
   Ref<Host> open(WindowFrame frame = WindowFrame::document) {
     Ref<Host> window = New<Host>(log, frame);
     window->Show();

@@ -1,4 +1,4 @@
-// What a thread may do in the middle of the toolkit's and of other threads' work.
+// Threads that yield, draw or end in the middle of the toolkit's work or that of other threads.
 
 #include <memory>
 #include <string>
@@ -13,7 +13,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-// Writes down when it goes, which takes it some turns.
+// Logs its destruction, and yields for some turns in its destructor.
 struct Mark {
   std::string& log;
   ~Mark() {
@@ -111,7 +111,7 @@ TEST(FiberTest, UnwindsItsStackWhereItIsDestroyed) {
   EXPECT_EQ(held.use_count(), 1);
 }
 
-// Else the toolkit would go on with its half-done work at any later time, or be unwound in the middle of it.
+// Otherwise the toolkit would continue its half-done work at any later time, or be unwound in the middle of it.
 TEST_F(ThreadTest, AThreadKeepsItsTurnWhileTheToolkitIsOnItsStack) {
   window->Show();
   fake().costOfLook = 1ms;
@@ -150,7 +150,7 @@ TEST_F(ThreadTest, AThreadIsSuspendedAlsoWhenAHandlerOfTheMainThreadHasGivenItsT
   EXPECT_EQ(log, "begun painted ");
 }
 
-// The ways in which a window closes itself while it is nobody's any more. It goes once whoever closed it is done.
+// A window closes itself when nobody else holds a reference to it. It is destroyed when its thread or timer is done.
 TEST_F(ThreadTest, AWindowGoesWhenItsOwnThreadOrTimerThatClosedItIsDone) {
   for (const bool byThread : {true, false}) {
     Host& host = *(window = New<Host>(log));

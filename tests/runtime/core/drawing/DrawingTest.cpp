@@ -24,7 +24,7 @@ constexpr Int32 kLeast = std::numeric_limits<Int32>::min();
 constexpr Int32 kMost = std::numeric_limits<Int32>::max();
 constexpr Int32 kNatural = Graphics::kNaturalSize;
 
-// The steps meet black, white and each value of each channel.
+// The steps of 51 include black, white and each value of each channel.
 TEST(ColorTest, ComesBackFromItsReaders) {
   for (std::uint32_t bits = 0; bits <= 0xFFFFFF; bits += 51) {
     const Color c{bits};
@@ -67,7 +67,7 @@ TEST(ColorTest, IsBuiltFromArgumentsInAndOutOfRange) {
     EXPECT_EQ(row.made.bits, row.wanted) << "row " << &row - rows;
 }
 
-// How many pixels of 10 by 10 a drawing inks.
+// The number of pixels that a drawing changes in a picture of 10 by 10.
 int inked(const std::function<void(Graphics&)>& draw) {
   const Ref<Picture> picture = NewPicture(10, 10, 32);
   picture->Graphics().ForeColor = kInk;
@@ -79,7 +79,7 @@ int inked(const std::function<void(Graphics&)>& draw) {
 }
 
 TEST(GraphicsTest, ShapesAreClippedAtAnyNumbers) {
-  // The second pair is a size, and the other end of a line.
+  // The second pair is the size of a rectangle, or the other end of a line.
   const struct {
     Int32 x, y, a, b;
     std::array<int, 3> inked;  // of a filled rectangle, an outline and a line
@@ -123,7 +123,7 @@ TEST(GraphicsTest, ALineKeepsToTheIdealOneAndIsTheSameWhereItIsCutOff) {
         }
         if (c == kWhite) continue;
         ++count;
-        // Twice its distance along the shorter axis from the ideal line, times the length.
+        // The left side is twice the distance from the ideal line along the shorter axis, times the length.
         ASSERT_LE(2 * std::abs(x * y2 - y * x2), length) << x2 << " " << y2 << " at " << x << " " << y;
       }
     }
@@ -133,7 +133,7 @@ TEST(GraphicsTest, ALineKeepsToTheIdealOneAndIsTheSameWhereItIsCutOff) {
   }
 }
 
-// Against the rule itself, applied to each pixel of the destination.
+// Compares each pixel of the destination with the rule itself.
 TEST(GraphicsTest, APictureShowsForEachPixelTheSourcePixelBelowItAtAnyNumbers) {
   std::vector<std::array<Int32, 8>> cases{{2, 3, kNatural, kNatural, 1, 1, kNatural, kNatural},
                                           {0, 0, kMost, kMost, 0, 0, 4, 3},
@@ -151,7 +151,7 @@ TEST(GraphicsTest, APictureShowsForEachPixelTheSourcePixelBelowItAtAnyNumbers) {
   const Ref<Picture> source = NewPicture(5, 4, 32);
   for (Int32 i = 0; i < 20; ++i)
     source->Graphics().Pixel(i % 5, i / 5, RGB(i * 10, 50, 7));
-  // The source's place for a place of the destination on one axis, or -1.
+  // The source coordinate for a destination coordinate on one axis; -1 if there is none.
   const auto from = [](std::int64_t at, Int32 position, Int32 size, Int32 sourcePosition, Int32 sourceSize,
                        int natural) {
     const std::int64_t length = size == kNatural ? natural : size;

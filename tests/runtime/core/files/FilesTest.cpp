@@ -1,4 +1,4 @@
-// What is read of a file, places of files, and how a file gets other contents: all of them, or none.
+// Reading files, their paths, and replacing their contents in full or not at all.
 
 #include <csignal>
 #include <filesystem>
@@ -23,7 +23,7 @@ namespace {
 namespace fs = std::filesystem;
 using Names = std::vector<std::string>;
 
-// Reading and writing for the owner and the user 12345, nothing for others.
+// An access list: the owner and the user 12345 can read and write, others have no access.
 const std::string kAccessList(
     "\2\0\0\0"
     "\1\0\6\0\xFF\xFF\xFF\xFF\2\0\6\0\x39\x30\0\0\4\0\0\0\xFF\xFF\xFF\xFF"
@@ -32,7 +32,7 @@ const std::string kAccessList(
 
 class FilesTest : public RuntimeTest {
  protected:
-  // Begins to replace a file by "new", has something happen, and closes.
+  // Writes "new" to a stream that replaces a file, calls `meanwhile`, and closes the stream.
   void replace(
       const std::string& name, const std::function<void()>& meanwhile = [] {}) const {
     const auto stream = folder.item(name)->CreateBinaryFile("Type");
@@ -63,7 +63,7 @@ class FilesTest : public RuntimeTest {
   const TemporaryFolder folder;
 };
 
-// Larger than any block that may be read at once; each byte tells where it is.
+// The file is larger than any block that is read at once, and neighbouring bytes differ.
 TEST_F(FilesTest, AnyPlaceOfALargeFileIsReadAndWhatLiesOutsideIsZero) {
   std::string bytes(300001, '\0');
   for (std::size_t i = 0; i < bytes.size(); ++i)
@@ -182,7 +182,7 @@ TEST_F(FilesTest, AFileOfSeveralNamesKeepsThem) {
   EXPECT_EQ(folder.names(), (Names{"file", "other"}));
 }
 
-// The folder takes no new file, or lets no one replace the file of another user.
+// The folder accepts no new file, or does not let a user replace the file of another user.
 TEST_F(FilesTest, WhatCannotBeReplacedIsWrittenInPlace) {
   const struct {
     const char* name;
@@ -197,7 +197,7 @@ TEST_F(FilesTest, WhatCannotBeReplacedIsWrittenInPlace) {
   };
   for (const auto& row : rows) {
     SCOPED_TRACE(row.name);
-    if (!row.isOwn && geteuid() != 0) continue;  // there is no way to another user's file
+    if (!row.isOwn && geteuid() != 0) continue;  // only root can make another user's file
     fs::permissions(folder.path(""), fs::perms{0755});
     fs::remove(folder.path("file"));
     folder.write("file", "the old one");

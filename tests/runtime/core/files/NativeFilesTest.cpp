@@ -1,4 +1,4 @@
-// The machine's own save dialog, driven by hand as far as the offscreen platform allows, and the folder for data.
+// The save dialog of the desktop, used as far as the offscreen platform allows, and the folder for data.
 
 #include <filesystem>
 #include <memory>
@@ -19,7 +19,7 @@ namespace {
 namespace fs = std::filesystem;
 using namespace dialog;
 
-// The desktop keeps its data in the user's folders, here temporary ones.
+// The home folder, which contains the user's data, is a temporary folder.
 class NativeFilesTest : public ::testing::Test {
  protected:
   NativeFilesTest() { qputenv("HOME", QByteArray::fromStdString(home.path(""))); }

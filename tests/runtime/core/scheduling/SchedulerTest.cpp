@@ -1,4 +1,4 @@
-// When threads get their turns.
+// The times at which threads get their turns.
 
 #include <functional>
 #include <vector>
@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 
 class SchedulerTest : public RuntimeTest {
  protected:
-  // Has a thread do something again and again. A thread that runs is not started a second time.
+  // Makes a thread repeat `round` without an end. The second Run has no effect, since the thread runs already.
   static void repeat(Thread& thread, std::function<void()> round) {
     thread.RunEvent = [round = std::move(round)] {
       for (;;) {
@@ -39,7 +39,7 @@ TEST_F(SchedulerTest, DrawingIsPacedByTheFrameAndHastenedByThePointer) {
     fake().costOfLook = 0ms;
     window->draw();
   });
-  // Time goes by as for a timer that counts in milliseconds.
+  // The number of turns while the clock advances in steps of a millisecond.
   const auto turnsWithin = [&](int milliseconds, bool moving) {
     turns.clear();
     for (int i = 0; i < milliseconds; ++i) {

@@ -11,7 +11,7 @@ namespace tavrelkin {
 
 namespace {
 
-// Writes down its presses: P, and H for a held key's.
+// Logs its key presses: P, or H for an auto-repeat.
 class Keyboarded : public QWindow {
  public:
   std::string presses;
@@ -31,7 +31,7 @@ class HeldKeysTest : public RuntimeTest {
     QCoreApplication::sendEvent(&window, &event);
   }
 
-  // As the toolkit does: whether it looks for a shortcut before the press.
+  // Sends a press as the toolkit does. Returns whether a shortcut could take it first.
   bool pressCommand(quint64 time) {
     QKeyEvent event(QEvent::ShortcutOverride, Qt::Key_N, Qt::ControlModifier, 57, 0, 0);
     event.setTimestamp(time);
