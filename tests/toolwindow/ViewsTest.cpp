@@ -14,7 +14,7 @@ namespace {
 
 using Colors = std::vector<Color>;
 
-// A picture of these colours, column by column, and of black behind them.
+// A picture of these colours, column by column, followed by black.
 Ref<Picture> pictureOf(const Colors& colors, Int32 width, Int32 height) {
   Ref<Picture> picture = NewPicture(width, height, 32);
   for (Int32 i = 0; i < width * height; ++i) {

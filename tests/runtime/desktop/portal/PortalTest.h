@@ -3,7 +3,6 @@
 #include <chrono>
 #include <optional>
 
-
 #include <gtest/gtest.h>
 
 #include "fakes/RuntimeTest.h"
