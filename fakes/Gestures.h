@@ -13,13 +13,6 @@ void click(const RectControl& control, Int32 x, Int32 y);
 // Moves the pointer with no button held.
 void hover(const RectControl& control, Int32 x, Int32 y);
 
-// The toolkit's codes of some keys, for tests that don't see the toolkit.
-constexpr int kKeyTab = 0x01000001;
-constexpr int kKeyReturn = 0x01000004;
-constexpr int kKeyLeft = 0x01000012;
-constexpr int kKeyRight = 0x01000014;
-constexpr int kKeyDown = 0x01000015;
-
 // Sends a key to the control. `qtKey` is the toolkit's key code; the code of a letter is the upper-case letter.
 void key(const RectControl& control, int qtKey);
 // Sends the keys of a text to the control, one by one. The text must be ASCII.

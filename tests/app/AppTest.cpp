@@ -1,5 +1,7 @@
 #include <functional>
 
+#include <Qt>
+
 #include "app/App.h"
 #include "app/frmAbout.h"
 #include "fakes/Gestures.h"
@@ -139,7 +141,7 @@ TEST_F(AboutTest, ComesBackWhateverTheUserDoesToAWindowThatWaitsForIt) {
   fake().screen = [](ScreenPoint) { return 0x123456u; };
   const std::pair<const char*, std::function<void(const Window&)>> ways[] = {
       {"click", [](const Window& window) { gesture::clickIn(window, 100, 100); }},
-      {"key", [](const Window& window) { gesture::keyIn(window, gesture::kKeyRight); }},
+      {"key", [](const Window& window) { gesture::keyIn(window, Qt::Key_Right); }},
       {"wheel", gesture::scrollIn},
       {"close", gesture::closeByFrame},
       {"shortcut", [](const Window& window) { gesture::holdShortcut(window, "Cmd+W", 0); }},

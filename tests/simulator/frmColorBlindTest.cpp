@@ -1,3 +1,5 @@
+#include <Qt>
+
 #include "color/zrXYZ.h"
 #include "fakes/DragGestures.h"
 #include "fakes/Gestures.h"
@@ -67,7 +69,7 @@ TEST_F(frmColorBlindTest, OnlyTheNormalBoxTakesADrop) {
 TEST_F(frmColorBlindTest, AGammaTakesEffectAtTheNextUpdateUnlessItIsNone) {
   window->SetValue(Color{0x336699});
   for (const char* gamma : {"1.70", "1.80", "2.20"}) {
-    gesture::key(window->cmbGamma, gesture::kKeyDown);
+    gesture::key(window->cmbGamma, Qt::Key_Down);
     EXPECT_EQ(window->txtGamma.Text.get(), gamma);
   }
   expectResults(Color{0x336699}, 1.8);
@@ -110,7 +112,7 @@ TEST_F(frmColorBlindTest, TheTabulatorKeyVisitsWhatTakesKeys) {
   for (const RectControl* control : std::initializer_list<const RectControl*>{
            &box[0], &box[1], &box[2], &box[3], &window->cmdUpdate, &window->cmbGamma, &window->txtGamma, &box[0]}) {
     ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(*control); })) << control->Name() << control->Index;
-    gesture::key(*control, gesture::kKeyTab);
+    gesture::key(*control, Qt::Key_Tab);
   }
 }
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <set>
 
+#include <Qt>
+
 #include "runtime/core/concurrency/RuntimeBackgroundTask.h"
 #include "runtime/toolkit/Clipboard.h"
 #include "toolwindow/ToolWindowTest.h"
@@ -29,7 +31,7 @@ TEST_F(CoreTest, TheTabulatorVisitsWhatTakesKeysAndIsInSight) {
     ASSERT_TRUE(waitUntil([&] { return gesture::hasKeyboard(window->cmdColor); }));
     for (const RectControl* next : order) {
       EXPECT_TRUE(gesture::hasKeyboard(*next)) << next->Name() << " " << next->Index;
-      gesture::key(*next, gesture::kKeyTab);
+      gesture::key(*next, Qt::Key_Tab);
     }
     EXPECT_TRUE(gesture::hasKeyboard(window->cmdColor)) << "from the last to the first";
   };
@@ -115,7 +117,7 @@ TEST_F(CoreTest, ABarChangesTheColorWhenTheHandLetsGoAndTheTipGoesASecondAfterTh
   EXPECT_FALSE(window->rTIP.Visible);
   EXPECT_FALSE(fake().nextAlarm());
   EXPECT_EQ(window->SelectedColor, Color{0x70FFFF});
-  gesture::key(green, gesture::kKeyLeft);
+  gesture::key(green, Qt::Key_Left);
   EXPECT_EQ(window->SelectedColor, Color{0x70FEFF});
 }
 

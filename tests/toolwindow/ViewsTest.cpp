@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include <Qt>
+
 #include "color/DistinctColors.h"
 #include "color/Suggestions.h"
 #include "color/zrXYZ.h"
@@ -167,16 +169,16 @@ TEST_F(ViewsTest, OneAtATimeExceptWhileFollowing) {
 TEST_F(ViewsTest, KeysMarkACellAndTakeItOrThePixelUnderThePointer) {
   fake().pointerAt = {40, 50};
   choose("mnuViewSuggestions");
-  gesture::key(window->imgScreen, gesture::kKeyReturn);
+  gesture::key(window->imgScreen, Qt::Key_Return);
   EXPECT_EQ(window->SelectedColor, colorAt(40, 50)) << "no cell is marked";
-  const std::tuple<std::vector<int>, std::size_t> rows[] = {
-      {{gesture::kKeyRight}, 0}, {{gesture::kKeyRight, gesture::kKeyDown, gesture::kKeyRight}, 17}};
+  const std::tuple<std::vector<int>, std::size_t> rows[] = {{{Qt::Key_Right}, 0},
+                                                            {{Qt::Key_Right, Qt::Key_Down, Qt::Key_Right}, 17}};
   for (const auto& [keys, cell] : rows) {
     const Color taken = suggestionsFor(window->SelectedColor).at(cell);
     choose("mnuViewSuggestions");
     for (const int key : keys)
       gesture::key(window->imgScreen, key);
-    gesture::key(window->imgScreen, gesture::kKeyReturn);
+    gesture::key(window->imgScreen, Qt::Key_Return);
     EXPECT_EQ(window->SelectedColor, taken) << cell;
   }
 }
