@@ -36,7 +36,8 @@ check_tidy() {
   # shellcheck disable=SC2001  # The replacement uses the match, which ${root//} can't.
   here=$(sed 's/[][\\.*^$+?(){}|]/\\&/g' <<<"$root")
   run-clang-tidy -p build/release -j "$(nproc)" -quiet "^$here/(src|tests|fakes|driver|soak|fuzz)/" 2>&1 |
-    sed -e 's/\x1b\[[0-9;]*m//g' -e '/^clang-tidy/d' -e '/warnings\? .*generated/d'
+    sed -e 's/\x1b\[[0-9;]*m//g' -e 's|/build/release/layers/[^/]*/|/src/|' \
+      -e '/^clang-tidy/d' -e '/warnings\? .*generated/d'
 }
 
 check_scripts() { files '*.sh' .ci/run | xargs -0 shellcheck --external-sources; }
@@ -100,8 +101,7 @@ check_coverage() {
 
 report_coverage() {
   gcovr --root . --filter src/ --object-directory build/coverage --csv - | tail -n +2 |
-    awk -F, '{ sub("build/coverage/layers/[^/]*", "src", $1)  # the folder with links to the headers of a layer
-               split($1, folder, "/"); layer = folder[2] ~ /\./ ? "main" : folder[2]
+    awk -F, '{ split($1, folder, "/"); layer = folder[2] ~ /\./ ? "main" : folder[2]
                if (layer == "runtime") layer = layer "/" folder[3]
                lines[layer] += $2; reached[layer] += $3; lines["all"] += $2; reached["all"] += $3 }
              END { for (layer in lines) printf "      %-16s %5.1f %% of %d lines\n", layer,

@@ -26,6 +26,11 @@ function(tavrelkin_layer name)
   endforeach()
 
   target_include_directories(${name} PUBLIC "${public}" PRIVATE "${private}")
+  # Debuggers and coverage reports name the files, not the links. A released program has no such paths.
+  foreach(view IN ITEMS "${public}" "${private}")
+    target_compile_options(${name} PUBLIC
+      "$<$<NOT:$<CONFIG:Release>>:-ffile-prefix-map=${view}/=${CMAKE_SOURCE_DIR}/src/>")
+  endforeach()
   target_link_libraries(${name} PUBLIC ${LAYER_USES} PRIVATE ${LAYER_PRIVATE_LIBRARIES})
   target_precompile_headers(${name} PRIVATE ${LAYER_PRECOMPILED})
 endfunction()

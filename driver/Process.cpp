@@ -57,6 +57,7 @@ std::vector<std::string> Home::environment(const std::string& display, const std
       "XDG_CONFIG_HOME=" + home + "/config",
       "XDG_CACHE_HOME=" + home + "/cache",
       "XDG_RUNTIME_DIR=" + home + "/runtime",
+      "TMPDIR=" + home,
       "XAUTHORITY=" + home + "/xauthority",
       "DBUS_SESSION_BUS_ADDRESS=" + (bus.empty() ? "disabled:" : bus),
       "LANG=C.UTF-8",

@@ -71,7 +71,8 @@ std::vector<std::string> Session::prepared(const Options& options) {
   if (options.dotsPerInch > 0) client.setResources("Xft.dpi:\t" + std::to_string(options.dotsPerInch) + "\n");
   if (options.leftMonitor > 0) client.splitScreen(options.leftMonitor);
   const std::string kind = options.busConfiguration.empty() ? "--session" : "--config-file=" + options.busConfiguration;
-  const std::vector<std::string> busCommand{"dbus-daemon", kind, "--nofork", "--nopidfile", "--print-address"};
+  const std::vector<std::string> busCommand{"dbus-daemon", kind,          "--address=unix:runtime=yes",
+                                            "--nofork",    "--nopidfile", "--print-address"};
   if (options.messageBus) bus.emplace(busCommand, home.environment(server.display()));
   auto result = home.environment(server.display(), bus ? bus->firstLine() : "");
   result.insert(result.end(), options.environment.begin(), options.environment.end());

@@ -14,7 +14,7 @@ class RuntimeException : public std::runtime_error {
 // An operation was called through a nil reference.
 class NilObjectException : public RuntimeException {
  public:
-  NilObjectException() : RuntimeException("An object was used before there was one.") {}
+  NilObjectException() : RuntimeException("A nil object was used.") {}
 };
 
 // An array or a string was read or written outside its bounds.
