@@ -90,6 +90,8 @@ void RandomUser::openMenu(xcb_window_t window) {
   session_.hand.keys("Escape");
 }
 
+// Rests after a window has come back: for some milliseconds the server gives it the keys, but no press of the button.
+// The release of Alt would then open the menu with Quit, as after Alt alone.
 void RandomUser::moveOrMinimise(xcb_window_t window) {
   if (number(3) != 0)
     return session_.windows.moveTo(window, static_cast<std::int16_t>(number(900)),
@@ -97,6 +99,7 @@ void RandomUser::moveOrMinimise(xcb_window_t window) {
   session_.windows.minimise(window);
   waitUntil([&] { return session_.windows.isMinimised(window); }, 500ms);
   session_.windows.activate(window);
+  session_.hand.rest();
 }
 
 // Sometimes answers a save dialog, and leaves any other. False if no dialog is open.
