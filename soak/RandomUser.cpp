@@ -124,6 +124,7 @@ bool RandomUser::tidyUp() {
   const auto before = session_.windows.all();
   xcb_window_t made = XCB_NONE;
   const auto isMade = [&] {
+    if (leaveDialog()) return false;  // a dialog that opened late
     session_.windows.activate(before.back());
     session_.hand.rest();
     session_.hand.keys("Ctrl+N");
